@@ -1,0 +1,38 @@
+// SystemExport: a function that a system library exports, looked up at run time because old systems or import libraries lack it.
+#pragma once
+
+#include "base/Handles.h"
+
+namespace base {
+
+/// `SystemExport<BOOL WINAPI(DWORD)> f(TEXT("kernel32"), "Name"); if (f) f(0);`
+/// A module that is not yet in the process stays loaded as long as this object lives.
+/// https://learn.microsoft.com/windows/win32/api/libloaderapi/nf-libloaderapi-getprocaddress
+template <class Function>
+class SystemExport {
+public:
+    SystemExport(const WCHAR* module, const char* name)
+    {
+        HMODULE handle = GetModuleHandleW(module);
+        if (!handle) {
+            loaded_.Reset(LoadLibraryW(module));
+            handle = loaded_.Get();
+        }
+        if (handle)
+            function_ = reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(handle, name)));
+    }
+
+    [[nodiscard]] explicit operator bool() const { return function_ != nullptr; }
+
+    template <class... Arguments>
+    auto operator()(Arguments... arguments) const
+    {
+        return function_(arguments...);
+    }
+
+private:
+    ModuleHandle loaded_;
+    Function* function_ = nullptr;
+};
+
+}  // namespace base
