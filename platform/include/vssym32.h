@@ -1,0 +1,4 @@
+// Older name of the parts and states of visual styles.
+#pragma once
+
+#include "vsstyle.h"

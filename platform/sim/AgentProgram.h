@@ -1,0 +1,42 @@
+// AgentProgram: a stand-in agent for scenes, with its two windows and its ways of ending.
+#pragma once
+
+#include "platform/sim/Processes.h"
+
+#include <windows.h>
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+/// How the agents of one executable behave; may be changed before one starts and while one runs.
+struct AgentHabits {
+    /// Milliseconds from the launch until its windows are there.
+    std::uint64_t windowDelay = 500;
+    std::u16string mainTitle = u"Velmora";
+    /// It stays when it is asked to close.
+    bool ignoresClose = false;
+};
+
+class AgentProgram : public Program {
+public:
+    static constexpr std::u16string_view kIdentification = u"VELMORA-IDENTIFICATION-WINDOW";
+
+    /// Puts an agent executable onto the PC. The habits are shared by all processes that it starts.
+    static std::shared_ptr<AgentHabits> Install(SimPc& pc, std::u16string_view path = u"C:\\Tools\\Velmora.exe");
+
+    AgentProgram(SimPc& pc, DWORD processId, std::shared_ptr<AgentHabits> habits);
+    void Start() override;
+
+private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void OpenWindows();
+
+    SimPc& pc_;
+    DWORD processId_;
+    std::shared_ptr<AgentHabits> habits_;
+};
+
+}  // namespace platform

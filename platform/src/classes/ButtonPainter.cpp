@@ -1,0 +1,173 @@
+// ButtonPainter: turns a button's state into pixels, with visual styles and in the classic look.
+#include "platform/sim/Theme.h"
+#include "platform/src/classes/Button.h"
+
+#include <vsstyle.h>
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+constexpr int kBox = 13;     // a check box's box
+constexpr int kTextGap = 3;  // between the box and the text
+
+COLORREF SystemColor(int index)
+{
+    return SimPc::Current().Get<Graphics>().SystemColor(index);
+}
+
+RECT Shrunk(RECT rectangle, int by)
+{
+    return {rectangle.left + by, rectangle.top + by, rectangle.right - by, rectangle.bottom - by};
+}
+
+UINT TextFormat(const Button::Look& look, DWORD standardAlignment)
+{
+    UINT format = look.hiddenCues & UISF_HIDEACCEL ? DT_HIDEPREFIX : 0;
+    format |= look.style & BS_MULTILINE ? DT_WORDBREAK : DT_SINGLELINE;
+    DWORD alignment = look.style & BS_CENTER;
+    if (alignment == 0)
+        alignment = standardAlignment;
+    return format | (alignment == BS_CENTER ? DT_CENTER : alignment == BS_RIGHT ? DT_RIGHT : DT_LEFT);
+}
+
+/// Draws the caption and, around it, the focus rectangle. Text stands in the middle of the height unless BS_TOP or BS_BOTTOM ask for more.
+void DrawCaption(Canvas& canvas, const RECT& area, const Button::Look& look, UINT format)
+{
+    TextRuler ruler(look.font);
+    const SIZE size = ruler.Box(look.text, area.right - area.left, format);
+    RECT cell = area;
+    const DWORD vertical = look.style & BS_VCENTER;
+    const int spare = area.bottom - area.top - size.cy;
+    cell.top += vertical == BS_TOP ? 0 : vertical == BS_BOTTOM ? spare : spare / 2;
+    cell.bottom = cell.top + size.cy;
+    canvas.BackMode(TRANSPARENT);
+    if (!look.enabled && !look.themed) {
+        RECT relief{cell.left + 1, cell.top + 1, cell.right + 1, cell.bottom + 1};
+        canvas.TextColor(SystemColor(COLOR_BTNHIGHLIGHT));
+        canvas.Text(look.text, relief, format);
+    }
+    if (!look.enabled)
+        canvas.TextColor(SystemColor(COLOR_GRAYTEXT));
+    RECT text = cell;
+    canvas.Text(look.text, text, format);
+    if ((look.state & BST_FOCUS) && !(look.hiddenCues & UISF_HIDEFOCUS) && (look.style & BS_TYPEMASK) >= BS_CHECKBOX &&
+        !(look.style & BS_PUSHLIKE)) {
+        RECT focus{cell.left - 1, cell.top, std::min<LONG>(cell.left + size.cx + 1, area.right), cell.bottom};
+        if (format & DT_RIGHT)
+            focus = {std::max<LONG>(area.right - size.cx - 1, area.left), cell.top, area.right, cell.bottom};
+        canvas.FocusRect(focus);
+    }
+}
+
+int StateOf(const Button::Look& look)
+{
+    return !look.enabled ? PBS_DISABLED : look.state & BST_PUSHED ? PBS_PRESSED : look.hot ? PBS_HOT : PBS_NORMAL;
+}
+
+void PaintPush(HDC dc, const RECT& client, const Button::Look& look, HBRUSH background)
+{
+    Canvas canvas(dc);
+    if (look.font)
+        canvas.Font(look.font);
+    canvas.Fill(client, background);
+    const bool pushed = (look.state & (BST_PUSHED | BST_CHECKED)) != 0;
+    const bool isDefault = (look.style & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
+    RECT face = client;
+    if (look.themed) {
+        int state = StateOf(look);
+        if (state == PBS_NORMAL && (pushed || isDefault))
+            state = pushed ? PBS_PRESSED : PBS_DEFAULTED;
+        SimPc::Current().Get<Theme>().Draw(VSCLASS_BUTTON, dc, BP_PUSHBUTTON, state, client);
+    } else {
+        if (isDefault) {
+            canvas.Outline(face, SystemColor(COLOR_WINDOWFRAME));
+            face = Shrunk(face, 1);
+        }
+        canvas.Edge(face, pushed ? EDGE_SUNKEN : EDGE_RAISED, BF_RECT | BF_SOFT | BF_MIDDLE | BF_ADJUST);
+    }
+    RECT text = Shrunk(client, 3);
+    if (pushed && !look.themed)
+        text = {text.left + 1, text.top + 1, text.right + 1, text.bottom + 1};
+    DrawCaption(canvas, text, look, TextFormat(look, BS_CENTER));
+    if ((look.state & BST_FOCUS) && !(look.hiddenCues & UISF_HIDEFOCUS))
+        canvas.FocusRect(Shrunk(client, 3));
+}
+
+void DrawClassicBox(Canvas& canvas, RECT box, const Button::Look& look)
+{
+    const bool grey = !look.enabled || (look.state & BST_PUSHED) || (look.state & 3) == BST_INDETERMINATE;
+    canvas.Edge(box, EDGE_SUNKEN, BF_RECT | BF_ADJUST);
+    canvas.Fill(box, SystemColor(grey ? COLOR_BTNFACE : COLOR_WINDOW));
+    if ((look.state & 3) == BST_UNCHECKED)
+        return;
+    const bool pale = !look.enabled || (look.state & 3) == BST_INDETERMINATE;
+    const COLORREF color = SystemColor(pale ? COLOR_BTNSHADOW : COLOR_WINDOWTEXT);
+    for (int step = 0; step < 7; ++step) {  // The tick: two pixels down, four up, three pixels thick.
+        const int x = box.left + 1 + step;
+        const int y = box.top + (step < 2 ? 3 + step : 7 - step);
+        canvas.Line({x, y}, {x, y + 3}, color);
+    }
+}
+
+void PaintCheckBox(HDC dc, const RECT& client, const Button::Look& look, HBRUSH background)
+{
+    Canvas canvas(dc);
+    if (look.font)
+        canvas.Font(look.font);
+    canvas.Fill(client, background);
+    const DWORD vertical = look.style & BS_VCENTER;
+    RECT box{client.left, client.top, client.left + kBox, 0};
+    box.top = vertical == BS_TOP ? client.top : vertical == BS_BOTTOM ? client.bottom - kBox : (client.top + client.bottom - kBox) / 2;
+    box.bottom = box.top + kBox;
+    RECT text{box.right + kTextGap, client.top, client.right, client.bottom};
+    if (look.style & BS_LEFTTEXT) {
+        box = {client.right - kBox, box.top, client.right, box.bottom};
+        text = {client.left, client.top, box.left - kTextGap, client.bottom};
+    }
+    if (look.themed) {
+        const int first = (look.state & 3) * 4;  // unchecked, checked, mixed: four states each
+        SimPc::Current().Get<Theme>().Draw(VSCLASS_BUTTON, dc, BP_CHECKBOX, first + StateOf(look), box);
+    } else {
+        DrawClassicBox(canvas, box, look);
+    }
+    DrawCaption(canvas, text, look, TextFormat(look, BS_LEFT));
+}
+
+void PaintGroupBox(HDC dc, const RECT& client, const Button::Look& look, HBRUSH background)
+{
+    Canvas canvas(dc);
+    if (look.font)
+        canvas.Font(look.font);
+    TextRuler ruler(look.font);
+    const SIZE size = ruler.Box(look.text, client.right - client.left, DT_SINGLELINE);
+    RECT frame{client.left, client.top + ruler.LineHeight() / 2, client.right, client.bottom};
+    if (look.themed)
+        SimPc::Current().Get<Theme>().Draw(VSCLASS_BUTTON, dc, BP_GROUPBOX, look.enabled ? GBS_NORMAL : GBS_DISABLED, frame);
+    else
+        canvas.Edge(frame, EDGE_ETCHED, BF_RECT);
+    if (look.text.empty())
+        return;
+    const RECT text{client.left + 9, client.top, client.left + 9 + size.cx, client.top + size.cy};
+    canvas.Fill({text.left - 2, text.top, text.right + 2, text.bottom}, background);
+    Button::Look caption = look;
+    caption.state = 0;
+    DrawCaption(canvas, text, caption, TextFormat(look, BS_LEFT));
+}
+
+}  // namespace
+
+void PaintButton(HDC dc, const RECT& client, const Button::Look& look, HBRUSH background)
+{
+    const DWORD kind = look.style & BS_TYPEMASK;
+    if (kind == BS_GROUPBOX)
+        PaintGroupBox(dc, client, look, background);
+    else if (kind >= BS_CHECKBOX && kind <= BS_AUTO3STATE && !(look.style & BS_PUSHLIKE))
+        PaintCheckBox(dc, client, look, background);
+    else
+        PaintPush(dc, client, look, background);
+}
+
+}  // namespace platform

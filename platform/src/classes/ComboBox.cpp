@@ -1,0 +1,212 @@
+// ComboBox: the field of a combo box, its keys and its mouse.
+#include "platform/src/classes/ComboBox.h"
+
+#include "platform/src/classes/SystemClasses.h"
+#include "platform/src/text/Case.h"
+
+#include <algorithm>
+
+namespace platform {
+
+LRESULT CALLBACK ComboBoxProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return ControlProcedure<ComboBox>(window, message, wParam, lParam);
+}
+
+LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message) {
+        case WM_NCCREATE: {
+            const auto& create = *reinterpret_cast<const CREATESTRUCTW*>(lParam);
+            if ((create.style & 3) != CBS_DROPDOWNLIST) {
+                SimPc::Current().Unsupported("ComboBox: a style other than CBS_DROPDOWNLIST");
+                return FALSE;
+            }
+            openHeight_ = create.cy;
+            return inner::DefWindowProc(window_, message, wParam, lParam);
+        }
+        case WM_CREATE:
+            FitHeight();
+            return 0;
+        case WM_DESTROY:
+            if (list_)
+                inner::DestroyWindow(std::exchange(list_, nullptr));
+            return 0;
+        case WM_WINDOWPOSCHANGING: {
+            // Whatever height the window is given is the open one; closed it is as high as its field.
+            auto& place = *reinterpret_cast<WINDOWPOS*>(lParam);
+            if (!(place.flags & SWP_NOSIZE) && place.cy != ClosedHeight()) {
+                openHeight_ = place.cy;
+                place.cy = ClosedHeight();
+            }
+            return inner::DefWindowProc(window_, message, wParam, lParam);
+        }
+        case CB_SHOWDROPDOWN:
+            if (wParam && !dropped_)
+                DropDown();
+            else if (!wParam && dropped_)
+                RollUp(false);
+            return TRUE;
+        case CB_GETDROPPEDSTATE:
+            return dropped_;
+        case CB_GETDROPPEDCONTROLRECT: {
+            RECT rectangle = inner::GetWindowRect(window_);
+            rectangle.bottom += VisibleItems() * ItemHeight() + 2;
+            *reinterpret_cast<RECT*>(lParam) = rectangle;
+            return TRUE;
+        }
+        case WM_GETTEXTLENGTH:
+            return selected_ < 0 ? 0 : static_cast<LRESULT>(items_[static_cast<std::size_t>(selected_)].text.size());
+        case WM_GETTEXT:
+            return CopyText(selected_ < 0 ? u"" : items_[static_cast<std::size_t>(selected_)].text, wParam,
+                            reinterpret_cast<char16_t*>(lParam));
+        case WM_SETTEXT:
+            return CB_ERR;  // The field shows items only.
+        case WM_GETDLGCODE: {
+            const auto* asked = reinterpret_cast<const MSG*>(lParam);
+            const bool closes =
+                dropped_ && asked && asked->message == WM_KEYDOWN && (asked->wParam == VK_RETURN || asked->wParam == VK_ESCAPE);
+            return DLGC_WANTARROWS | DLGC_WANTCHARS | (closes ? DLGC_WANTMESSAGE : 0);
+        }
+        case WM_SETFOCUS:
+            Repaint();
+            Notify(CBN_SETFOCUS);
+            return 0;
+        case WM_KILLFOCUS:
+            if (dropped_)
+                RollUp(false);
+            Repaint();
+            if (Alive())
+                Notify(CBN_KILLFOCUS);
+            return 0;
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+            if (!Focused())
+                inner::SetFocus(window_);
+            if (Alive() && Focused() && !dropped_)
+                DropDown();
+            return 0;
+        case WM_MOUSEWHEEL:
+            if (dropped_)
+                ScrollList(-3 * GET_WHEEL_DELTA_WPARAM(wParam) / WHEEL_DELTA);
+            else
+                ChooseByKey(selected_ + (GET_WHEEL_DELTA_WPARAM(wParam) > 0 ? -1 : 1));
+            return 0;
+        case WM_KEYDOWN:
+        case WM_SYSKEYDOWN:
+            return HandleKey(wParam, message == WM_SYSKEYDOWN) ? 0 : inner::DefWindowProc(window_, message, wParam, lParam);
+        case WM_CHAR:
+            TypeCharacter(static_cast<char16_t>(wParam));
+            return 0;
+        case WM_ERASEBKGND:
+            return 1;
+        case WM_THEMECHANGED:
+        case WM_SYSCOLORCHANGE:
+            Repaint();
+            return 0;
+        default:
+            return message >= 0x0140 && message <= 0x0165 ? HandleItemMessage(message, wParam, lParam)
+                                                          : HandleShared(message, wParam, lParam);
+    }
+}
+
+void ComboBox::FontChanged()
+{
+    FitHeight();
+}
+
+int ComboBox::ItemHeight() const
+{
+    return itemHeight_ ? itemHeight_ : TextRuler(font_).LineHeight();
+}
+
+int ComboBox::FieldHeight() const
+{
+    return fieldHeight_ ? fieldHeight_ : TextRuler(font_).LineHeight() + 2;
+}
+
+void ComboBox::FitHeight() const
+{
+    const RECT now = inner::GetWindowRect(window_);
+    if (now.bottom - now.top != ClosedHeight())
+        inner::SetWindowPos(window_, nullptr, 0, 0, now.right - now.left, ClosedHeight(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+bool ComboBox::HandleKey(WPARAM key, bool alt)
+{
+    const int last = static_cast<int>(items_.size()) - 1;
+    const int current = dropped_ ? highlighted_ : selected_;
+    const int page = std::max(VisibleItems() - 1, 1);
+    if (key == VK_F4 || (alt && (key == VK_UP || key == VK_DOWN))) {
+        if (dropped_)
+            RollUp(true);
+        else
+            DropDown();
+        return true;
+    }
+    if (alt)
+        return false;
+    switch (key) {
+        case VK_UP:
+        case VK_LEFT:
+            ChooseByKey(current - 1);
+            return true;
+        case VK_DOWN:
+        case VK_RIGHT:
+            ChooseByKey(current + 1);
+            return true;
+        case VK_PRIOR:
+            ChooseByKey(std::max(current - page, 0));
+            return true;
+        case VK_NEXT:
+            ChooseByKey(std::min(current + page, last));
+            return true;
+        case VK_HOME:
+            ChooseByKey(0);
+            return true;
+        case VK_END:
+            ChooseByKey(last);
+            return true;
+        case VK_RETURN:
+        case VK_ESCAPE:
+            if (dropped_)
+                RollUp(key == VK_RETURN);
+            return true;
+        default:
+            return false;
+    }
+}
+
+void ComboBox::TypeCharacter(char16_t character)
+{
+    if (character < u' ')
+        return;
+    const char16_t wanted[] = {character, 0};
+    const auto found = Find(dropped_ ? highlighted_ : selected_, wanted, false);
+    if (found != CB_ERR)
+        ChooseByKey(static_cast<int>(found));
+}
+
+void ComboBox::ChooseByKey(int item)
+{
+    const int current = dropped_ ? highlighted_ : selected_;
+    if (item < 0 || item >= static_cast<int>(items_.size()) || item == current)
+        return;
+    // Keys choose at once, in the open list too; giving up there takes back only what the mouse passed over.
+    if (dropped_)
+        Highlight(item);
+    selected_ = highlighted_ = item;
+    Repaint();
+    if (!dropped_)
+        Notify(CBN_SELENDOK);
+    if (Alive())
+        Notify(CBN_SELCHANGE);
+}
+
+void ComboBox::Paint(HDC dc)
+{
+    const HBRUSH background = AskColors(Enabled() ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC, dc);
+    PaintComboField(dc, Client(), {items_, selected_, 0, ItemHeight(), Enabled(), Focused(), dropped_, Themed(), font_}, background);
+}
+
+}  // namespace platform

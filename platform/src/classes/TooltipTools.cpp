@@ -1,0 +1,183 @@
+// TooltipTools: the tools that a tooltip knows, its texts, colours and delays.
+#include "platform/sim/Theme.h"
+#include "platform/src/classes/Tooltip.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace platform {
+
+static_assert(TTTOOLINFOW_V1_SIZE == 56 && TTTOOLINFOW_V2_SIZE == 64 && TTTOOLINFOW_V3_SIZE == 72);
+static_assert(offsetof(TTTOOLINFOW, rect) == 24 && offsetof(TTTOOLINFOW, hinst) == 40 && offsetof(TTTOOLINFOW, lpszText) == 48);
+static_assert(sizeof(INITCOMMONCONTROLSEX) == 8 && sizeof(NMHDR) == 24);
+
+namespace {
+
+constexpr int kDefaultInitialDelay = 500;
+
+bool KnownSize(UINT size)
+{
+    // Version 5 of the common controls refuses the record of version 6, which is longer.
+    const bool longest = SimPc::Current().Get<Theme>().CommonControlsVersion() >= 6;
+    return size == TTTOOLINFOW_V1_SIZE || size == TTTOOLINFOW_V2_SIZE || (longest && size == TTTOOLINFOW_V3_SIZE);
+}
+
+std::u16string TextOf(LPCWSTR text)
+{
+    if (text == reinterpret_cast<LPCWSTR>(static_cast<LONG_PTR>(-1)) || (text && IS_INTRESOURCE(text))) {
+        SimPc::Current().Unsupported("tooltips_class32: a text from a callback or from the string table");
+        return {};
+    }
+    return text ? text : u"";
+}
+
+LRESULT CALLBACK FollowTool(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id, DWORD_PTR)
+{
+    if ((message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) || message == WM_NCMOUSEMOVE) {
+        const auto tooltip = SimPc::Current().Get<ControlTable>().Find(reinterpret_cast<HWND>(id));
+        if (tooltip)
+            std::static_pointer_cast<Tooltip>(tooltip)->Relay(window, message, lParam);
+    }
+    return inner::DefSubclassProc(window, message, wParam, lParam);
+}
+
+}  // namespace
+
+LRESULT Tooltip::HandleTooltipMessage(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message) {
+        case TTM_ADDTOOLW:
+        case TTM_DELTOOLW:
+        case TTM_GETTOOLINFOW:
+        case TTM_GETTEXTW:
+        case TTM_UPDATETIPTEXTW: {
+            auto* info = reinterpret_cast<TTTOOLINFOW*>(lParam);
+            return info && KnownSize(info->cbSize) ? HandleToolMessage(message, wParam, *info) : FALSE;
+        }
+        case TTM_GETTOOLCOUNT:
+            return static_cast<LRESULT>(tools_.size());
+        case TTM_ACTIVATE:
+            active_ = wParam != 0;
+            if (!active_)
+                Pop();
+            return 0;
+        case TTM_POP:
+            Pop();
+            return 0;
+        case TTM_SETDELAYTIME:
+            SetDelay(wParam, static_cast<SHORT>(LOWORD(lParam)));
+            return 0;
+        case TTM_GETDELAYTIME:
+            return Delay(wParam);
+        case TTM_SETMAXTIPWIDTH:
+            return std::exchange(maxWidth_, static_cast<int>(lParam));
+        case TTM_GETMAXTIPWIDTH:
+            return maxWidth_;
+        case TTM_SETTIPBKCOLOR:
+            backColor_ = static_cast<COLORREF>(wParam);
+            return 0;
+        case TTM_GETTIPBKCOLOR:
+            return static_cast<LRESULT>(backColor_);
+        case TTM_SETTIPTEXTCOLOR:
+            textColor_ = static_cast<COLORREF>(wParam);
+            return 0;
+        case TTM_GETTIPTEXTCOLOR:
+            return static_cast<LRESULT>(textColor_);
+        case TTM_SETTITLEW:
+            title_ = TextOf(reinterpret_cast<LPCWSTR>(lParam));
+            icon_ = static_cast<int>(wParam);
+            return TRUE;
+        default:
+            SimPc::Current().Unsupported("tooltips_class32: message " + std::to_string(message));
+            return 0;
+    }
+}
+
+LRESULT Tooltip::HandleToolMessage(UINT message, WPARAM wParam, TTTOOLINFOW& info)
+{
+    if (message == TTM_ADDTOOLW)
+        return AddTool(info);
+    const int index = IndexOf(info);
+    if (index < 0)
+        return FALSE;
+    Tool& tool = tools_[static_cast<std::size_t>(index)];
+    const auto copyText = [&](std::size_t capacity) { info.lpszText[tool.text.copy(info.lpszText, capacity)] = 0; };
+    switch (message) {
+        case TTM_DELTOOLW:
+            RemoveTool(static_cast<std::size_t>(index));
+            return 0;
+        case TTM_GETTEXTW:
+            if (info.lpszText)
+                copyText(wParam ? wParam - 1 : std::u16string::npos);
+            return 0;
+        case TTM_UPDATETIPTEXTW:
+            tool.text = TextOf(info.lpszText);
+            if (shown_ && index == current_)
+                Show(index);
+            return 0;
+        default:
+            info.uFlags = tool.flags;
+            info.rect = tool.rectangle;
+            info.hinst = tool.instance;
+            if (info.cbSize >= TTTOOLINFOW_V2_SIZE)
+                info.lParam = tool.data;
+            if (info.lpszText)
+                copyText(std::u16string::npos);
+            return TRUE;
+    }
+}
+
+bool Tooltip::AddTool(const TTTOOLINFOW& info)
+{
+    const LPARAM data = info.cbSize >= TTTOOLINFOW_V2_SIZE ? info.lParam : 0;
+    tools_.push_back({info.uFlags, info.hwnd, info.uId, info.rect, info.hinst, TextOf(info.lpszText), data});
+    if (info.uFlags & TTF_SUBCLASS)
+        inner::SetWindowSubclass(WindowOfTool(tools_.back()), FollowTool, reinterpret_cast<UINT_PTR>(window_), 0);
+    return true;
+}
+
+void Tooltip::RemoveTool(std::size_t index)
+{
+    if (static_cast<int>(index) == current_) {
+        Pop();
+        current_ = -1;
+    } else if (static_cast<int>(index) < current_) {
+        --current_;
+    }
+    const Tool gone = tools_[index];
+    tools_.erase(tools_.begin() + static_cast<std::ptrdiff_t>(index));
+    const HWND window = WindowOfTool(gone);
+    const bool stillFollowed = std::any_of(tools_.begin(), tools_.end(),
+                                           [&](const Tool& tool) { return (tool.flags & TTF_SUBCLASS) && WindowOfTool(tool) == window; });
+    if ((gone.flags & TTF_SUBCLASS) && !stillFollowed)
+        inner::RemoveWindowSubclass(window, FollowTool, reinterpret_cast<UINT_PTR>(window_));
+}
+
+int Tooltip::IndexOf(const TTTOOLINFOW& info) const
+{
+    const auto found =
+        std::find_if(tools_.begin(), tools_.end(), [&](const Tool& tool) { return tool.window == info.hwnd && tool.id == info.uId; });
+    return found == tools_.end() ? -1 : static_cast<int>(found - tools_.begin());
+}
+
+void Tooltip::SetDelay(WPARAM which, int milliseconds)
+{
+    if (which == TTDT_AUTOMATIC) {
+        initialDelay_ = milliseconds < 0 ? kDefaultInitialDelay : milliseconds;
+        autoPopDelay_ = initialDelay_ * 10;
+        reshowDelay_ = initialDelay_ / 5;
+        return;
+    }
+    int& delay = which == TTDT_INITIAL ? initialDelay_ : which == TTDT_AUTOPOP ? autoPopDelay_ : reshowDelay_;
+    const int standard = which == TTDT_INITIAL   ? kDefaultInitialDelay
+                         : which == TTDT_AUTOPOP ? kDefaultInitialDelay * 10
+                                                 : kDefaultInitialDelay / 5;
+    delay = milliseconds < 0 ? standard : milliseconds;
+}
+
+int Tooltip::Delay(WPARAM which) const
+{
+    return which == TTDT_AUTOPOP ? autoPopDelay_ : which == TTDT_RESHOW ? reshowDelay_ : initialDelay_;
+}
+
+}  // namespace platform

@@ -1,0 +1,119 @@
+// Files and folders by name. https://learn.microsoft.com/windows/win32/api/fileapi/
+#include "platform/src/core/Gate.h"
+#include "platform/src/file/FileNode.h"
+#include "platform/src/text/Buffers.h"
+
+#include <shlobj.h>
+#include <windows.h>
+
+#include <algorithm>
+
+using namespace platform;
+
+namespace {
+
+/// Error of making a folder, NO_ERROR when it was made.
+DWORD MakeOneFolder(Volumes& volumes, std::u16string_view path)
+{
+    const Volumes::Place place = volumes.Find(path);
+    if (place.node)
+        return ERROR_ALREADY_EXISTS;
+    if (place.error != ERROR_FILE_NOT_FOUND)
+        return place.error;
+    if (!volumes.Allows(place, FILE_ADD_SUBDIRECTORY))
+        return ERROR_ACCESS_DENIED;
+    volumes.Add(place, true);
+    return NO_ERROR;
+}
+
+DWORD MakeFoldersAlong(Volumes& volumes, std::u16string_view path)
+{
+    const DWORD error = MakeOneFolder(volumes, path);
+    const std::size_t slash = path.rfind(u'\\');
+    if (error != ERROR_PATH_NOT_FOUND || slash == std::u16string_view::npos || slash < 3)
+        return error;
+    const DWORD above = MakeFoldersAlong(volumes, path.substr(0, slash));
+    return above == NO_ERROR || above == ERROR_ALREADY_EXISTS ? MakeOneFolder(volumes, path) : above;
+}
+
+bool IsOpen(const FileNode& node)
+{
+    return std::any_of(node.opens.begin(), node.opens.end(), [](const auto& open) { return !open.expired(); });
+}
+
+/// Error of deleting a file or an empty folder.
+DWORD Delete(Volumes& volumes, std::u16string_view path, bool folder)
+{
+    const Volumes::Place place = volumes.Find(path);
+    if (!place.node)
+        return place.error;
+    if (place.node->folder != folder)
+        return folder ? ERROR_DIRECTORY : ERROR_ACCESS_DENIED;
+    if (!place.parent || (place.node->attributes & FILE_ATTRIBUTE_READONLY) != 0)
+        return ERROR_ACCESS_DENIED;
+    const Volumes::Place holder{place.volume, nullptr, place.parent, {}, NO_ERROR};
+    if (!volumes.Allows(place, DELETE) && !volumes.Allows(holder, FILE_DELETE_CHILD))
+        return ERROR_ACCESS_DENIED;
+    if (!place.node->children.empty())
+        return ERROR_DIR_NOT_EMPTY;
+    if (IsOpen(*place.node))
+        return ERROR_SHARING_VIOLATION;
+    place.parent->children.erase(place.name);
+    return NO_ERROR;
+}
+
+BOOL Report(SimPc& pc, DWORD error)
+{
+    return error == NO_ERROR || pc.Fail(error, FALSE);
+}
+
+}  // namespace
+
+DWORD WINAPI GetFileAttributesW(LPCWSTR name)
+{
+    SIM_CALL(INVALID_FILE_ATTRIBUTES, ERROR_ACCESS_DENIED, name);
+    SimPc& pc = SimPc::Current();
+    const Volumes::Place place = pc.Get<Volumes>().Find(OrEmpty(name));
+    if (!place.node)
+        return pc.Fail(place.error, INVALID_FILE_ATTRIBUTES);
+    const DWORD attributes = place.node->attributes | (place.node->folder ? FILE_ATTRIBUTE_DIRECTORY : FILE_ATTRIBUTE_ARCHIVE);
+    return attributes;
+}
+
+BOOL WINAPI CreateDirectoryW(LPCWSTR name, LPSECURITY_ATTRIBUTES)
+{
+    SIM_CALL(FALSE, ERROR_ACCESS_DENIED, name);
+    SimPc& pc = SimPc::Current();
+    return Report(pc, MakeOneFolder(pc.Get<Volumes>(), OrEmpty(name)));
+}
+
+BOOL WINAPI RemoveDirectoryW(LPCWSTR name)
+{
+    SIM_CALL(FALSE, ERROR_ACCESS_DENIED, name);
+    SimPc& pc = SimPc::Current();
+    return Report(pc, Delete(pc.Get<Volumes>(), OrEmpty(name), true));
+}
+
+BOOL WINAPI DeleteFileW(LPCWSTR name)
+{
+    SIM_CALL(FALSE, ERROR_ACCESS_DENIED, name);
+    SimPc& pc = SimPc::Current();
+    return Report(pc, Delete(pc.Get<Volumes>(), OrEmpty(name), false));
+}
+
+INT WINAPI SHCreateDirectoryExW(HWND, LPCWSTR path, const SECURITY_ATTRIBUTES*)
+{
+    SIM_CALL(static_cast<INT>(SimPc::Current().LastError()), ERROR_ACCESS_DENIED, path);
+    SimPc& pc = SimPc::Current();
+    std::u16string_view whole = OrEmpty(path);
+    const bool absolute = whole.starts_with(u"\\\\") || (whole.size() > 2 && whole[1] == u':' && whole[2] == u'\\');
+    if (!absolute)
+        return ERROR_BAD_PATHNAME;
+    while (whole.size() > 3 && whole.ends_with(u'\\'))
+        whole.remove_suffix(1);
+    DWORD error = MakeFoldersAlong(pc.Get<Volumes>(), whole);
+    if (error == ERROR_ALREADY_EXISTS && pc.Get<Volumes>().IsFile(whole))
+        error = ERROR_FILE_EXISTS;
+    pc.LastError(error);
+    return static_cast<INT>(error);
+}

@@ -1,0 +1,184 @@
+// Device contexts of memory, and what all device contexts remember: colours, modes, origins.
+#include "platform/src/core/Gate.h"
+#include "platform/src/gdi/DeviceContext.h"
+
+#include <windows.h>
+
+using namespace platform;
+
+HDC WINAPI CreateCompatibleDC(HDC dc)
+{
+    SIM_CALL(nullptr, ERROR_NOT_ENOUGH_MEMORY, dc);
+    if (dc && !FindDc(dc))
+        return nullptr;
+    return OpenObject<HDC>(std::make_shared<DeviceContext>(SimPc::Current().Get<Graphics>()));
+}
+
+BOOL WINAPI DeleteDC(HDC dc)
+{
+    SIM_NOTE(dc);
+    const auto context = FindDc(dc);
+    // Device contexts of windows go back by ReleaseDC only.
+    return context && context->IsMemory() && SimPc::Current().Get<Graphics>().CloseDc(dc);
+}
+
+int WINAPI SaveDC(HDC dc)
+{
+    SIM_CALL(0, ERROR_NOT_ENOUGH_MEMORY, dc);
+    const auto context = FindDc(dc);
+    if (!context)
+        return 0;
+    context->saved.push_back(context->state);
+    return static_cast<int>(context->saved.size());
+}
+
+BOOL WINAPI RestoreDC(HDC dc, int saved)
+{
+    SIM_NOTE(dc, saved);
+    const auto context = FindDc(dc);
+    if (!context)
+        return FALSE;
+    const int level = saved < 0 ? static_cast<int>(context->saved.size()) + 1 + saved : saved;
+    if (level < 1 || level > static_cast<int>(context->saved.size()))
+        return SimPc::Current().Fail(ERROR_INVALID_PARAMETER, FALSE);
+    context->state = context->saved[static_cast<std::size_t>(level) - 1];
+    context->saved.resize(static_cast<std::size_t>(level) - 1);
+    if (context->IsMemory())
+        context->SelectBitmap(static_cast<HBITMAP>(context->state.bitmap.Handle()), context->state.bitmap.Get());
+    context->ClipChanged();
+    return TRUE;
+}
+
+int WINAPI GetDeviceCaps(HDC dc, int index)
+{
+    SIM_NOTE(dc, index);
+    const auto context = FindDc(dc);
+    if (!context)
+        return 0;
+    const Graphics& graphics = SimPc::Current().Get<Graphics>();
+    const auto millimetres = [&](LONG pixels) { return static_cast<int>(pixels * 254 / graphics.Dpi() / 10); };
+    switch (index) {
+        case TECHNOLOGY:
+            return 1;
+        case HORZSIZE:
+            return millimetres(graphics.ScreenSize().cx);
+        case VERTSIZE:
+            return millimetres(graphics.ScreenSize().cy);
+        case HORZRES:
+            return graphics.ScreenSize().cx;
+        case VERTRES:
+            return graphics.ScreenSize().cy;
+        case LOGPIXELSX:
+        case LOGPIXELSY:
+            return graphics.Dpi();
+        case BITSPIXEL:
+            return 32;
+        case PLANES:
+            return 1;
+        case NUMCOLORS:
+            return -1;
+        case RASTERCAPS:
+            return 0x7E99;
+        default:
+            SimPc::Current().Unsupported("GetDeviceCaps: index " + std::to_string(index));
+            return 0;
+    }
+}
+
+namespace {
+
+/// Replaces one value of a device context's state and returns the one before, or `failure` for a handle that is none.
+template <class T>
+T Exchange(HDC dc, T DeviceContext::State::*member, T value, T failure)
+{
+    const auto context = FindDc(dc);
+    return context ? std::exchange(context->state.*member, value) : failure;
+}
+
+template <class T>
+T Read(HDC dc, T DeviceContext::State::*member, T failure)
+{
+    const auto context = FindDc(dc);
+    return context ? context->state.*member : failure;
+}
+
+BOOL SetPoint(HDC dc, POINT DeviceContext::State::*member, POINT value, LPPOINT before)
+{
+    const auto context = FindDc(dc);
+    if (!context)
+        return FALSE;
+    const POINT old = std::exchange(context->state.*member, value);
+    if (before)
+        *before = old;
+    return TRUE;
+}
+
+}  // namespace
+
+COLORREF WINAPI SetBkColor(HDC dc, COLORREF color)
+{
+    SIM_NOTE(dc, color);
+    return Exchange(dc, &DeviceContext::State::backColor, color, CLR_INVALID);
+}
+
+COLORREF WINAPI GetBkColor(HDC dc)
+{
+    SIM_NOTE(dc);
+    return Read(dc, &DeviceContext::State::backColor, CLR_INVALID);
+}
+
+COLORREF WINAPI SetTextColor(HDC dc, COLORREF color)
+{
+    SIM_NOTE(dc, color);
+    return Exchange(dc, &DeviceContext::State::textColor, color, CLR_INVALID);
+}
+
+COLORREF WINAPI GetTextColor(HDC dc)
+{
+    SIM_NOTE(dc);
+    return Read(dc, &DeviceContext::State::textColor, CLR_INVALID);
+}
+
+int WINAPI SetBkMode(HDC dc, int mode)
+{
+    SIM_NOTE(dc, mode);
+    return Exchange(dc, &DeviceContext::State::backMode, mode, 0);
+}
+
+int WINAPI GetBkMode(HDC dc)
+{
+    SIM_NOTE(dc);
+    return Read(dc, &DeviceContext::State::backMode, 0);
+}
+
+int WINAPI SetROP2(HDC dc, int rop2)
+{
+    SIM_NOTE(dc, rop2);
+    return rop2 < R2_BLACK || rop2 > R2_WHITE ? 0 : Exchange(dc, &DeviceContext::State::rop2, rop2, 0);
+}
+
+UINT WINAPI SetTextAlign(HDC dc, UINT align)
+{
+    SIM_NOTE(dc, align);
+    return Exchange(dc, &DeviceContext::State::textAlign, align, GDI_ERROR);
+}
+
+BOOL WINAPI SetViewportOrgEx(HDC dc, int x, int y, LPPOINT before)
+{
+    SIM_NOTE(dc, x, y);
+    return SetPoint(dc, &DeviceContext::State::viewport, {x, y}, before);
+}
+
+BOOL WINAPI OffsetViewportOrgEx(HDC dc, int x, int y, LPPOINT before)
+{
+    SIM_NOTE(dc, x, y);
+    const POINT old = Read(dc, &DeviceContext::State::viewport, POINT{});
+    return SetPoint(dc, &DeviceContext::State::viewport, {old.x + x, old.y + y}, before);
+}
+
+COLORREF WINAPI GetNearestColor(HDC dc, COLORREF color)
+{
+    SIM_NOTE(dc, color);
+    const auto context = FindDc(dc);
+    return context ? SwapRedBlue(context->PixelOf(color)) : CLR_INVALID;
+}

@@ -1,0 +1,135 @@
+// Sending messages: to windows of the own process at once, to those of others as that process.
+#include "platform/src/core/Gate.h"
+#include "platform/src/message/MessageQueues.h"
+#include "platform/src/message/Waiting.h"
+#include "platform/src/window/Inner.h"
+
+namespace platform {
+
+namespace {
+
+LRESULT Call(const WindowPtr& window, WNDPROC procedure, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    SimPc& pc = SimPc::Current();
+    if (window->actor == pc.CurrentActor())
+        return procedure(window->handle, message, wParam, lParam);
+    LRESULT result = 0;
+    ThreadQueue& queue = Queues().Of(*window);
+    ++queue.handlingSent;
+    pc.ActAs(window->actor, [&] { result = procedure(window->handle, message, wParam, lParam); });
+    --queue.handlingSent;
+    return result;
+}
+
+bool Hangs(const Window& window)
+{
+    return window.actor != SimPc::Current().CurrentActor() && Queues().Of(window).hangs;
+}
+
+}  // namespace
+
+namespace inner {
+
+LRESULT SendMessage(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const WindowPtr window = RequireWindow(handle);
+    if (!window || !window->procedure)
+        return 0;
+    if (Hangs(*window)) {
+        SimPc::Current().Unsupported("a message sent without a time limit to a thread that hangs");
+        return 0;
+    }
+    return Call(window, window->procedure, message, wParam, lParam);
+}
+
+LRESULT CallWindowProc(WNDPROC procedure, HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const WindowPtr window = WindowOf(handle);
+    return window && procedure ? Call(window, procedure, message, wParam, lParam) : 0;
+}
+
+BOOL PostMessage(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (!handle) {
+        Queues().Post(Queues().Current(), nullptr, message, wParam, lParam);
+        return TRUE;
+    }
+    const WindowPtr window = RequireWindow(handle);
+    if (!window)
+        return FALSE;
+    Queues().Post(Queues().Of(*window), handle, message, wParam, lParam);
+    return TRUE;
+}
+
+void PostQuitMessage(int exitCode)
+{
+    ThreadQueue& queue = Queues().Current();
+    queue.quits = true;
+    queue.exitCode = exitCode;
+    queue.fresh |= QS_POSTMESSAGE;
+}
+
+}  // namespace inner
+
+}  // namespace platform
+
+using namespace platform;
+
+LRESULT WINAPI SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    SIM_NOTE(window, message, wParam, lParam);
+    return inner::SendMessage(window, message, wParam, lParam);
+}
+
+LRESULT WINAPI SendMessageTimeoutW(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT flags, UINT timeout, DWORD_PTR* result)
+{
+    SIM_CALL(0, ERROR_TIMEOUT, window, message, wParam, lParam, flags, timeout);
+    const WindowPtr found = RequireWindow(window);
+    if (!found)
+        return 0;
+    if (Hangs(*found)) {
+        if (!(flags & SMTO_ABORTIFHUNG))
+            PassTime(timeout);
+        return SimPc::Current().Fail(ERROR_TIMEOUT, 0);
+    }
+    const LRESULT answer = inner::SendMessage(window, message, wParam, lParam);
+    if (result)
+        *result = static_cast<DWORD_PTR>(answer);
+    return 1;
+}
+
+BOOL WINAPI SendNotifyMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    SIM_CALL(FALSE, ERROR_INVALID_WINDOW_HANDLE, window, message, wParam, lParam);
+    const WindowPtr found = RequireWindow(window);
+    if (!found)
+        return FALSE;
+    if (found->actor != SimPc::Current().CurrentActor())
+        return inner::PostMessage(window, message, wParam, lParam);
+    inner::SendMessage(window, message, wParam, lParam);
+    return TRUE;
+}
+
+BOOL WINAPI PostMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    SIM_CALL(FALSE, ERROR_INVALID_WINDOW_HANDLE, window, message, wParam, lParam);
+    return inner::PostMessage(window, message, wParam, lParam);
+}
+
+void WINAPI PostQuitMessage(int exitCode)
+{
+    SIM_NOTE(exitCode);
+    inner::PostQuitMessage(exitCode);
+}
+
+LRESULT WINAPI CallWindowProcW(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    SIM_NOTE(window, message, wParam, lParam);
+    return inner::CallWindowProc(procedure, window, message, wParam, lParam);
+}
+
+LRESULT WINAPI DefWindowProcW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    SIM_NOTE(window, message, wParam, lParam);
+    return inner::DefWindowProc(window, message, wParam, lParam);
+}

@@ -1,0 +1,91 @@
+// Kernel handles: closing them, waiting for them; mutexes. https://learn.microsoft.com/windows/win32/api/synchapi/
+#include "platform/src/core/Gate.h"
+#include "platform/src/process/Mutex.h"
+#include "platform/src/process/ProcessHandle.h"
+#include "platform/src/text/Buffers.h"
+
+#include <windows.h>
+
+#include <algorithm>
+
+using namespace platform;
+
+namespace {
+/// Longer than any scene lasts; a wait without end that is not over by then never will be.
+constexpr DWORD kLongEnough = 10 * 60 * 1000;
+}  // namespace
+
+namespace platform {
+
+bool MutexHandle::Signalled() const
+{
+    return mutex->owner == 0 || mutex->owner == SimPc::Current().CurrentActor().thread;
+}
+
+void MutexHandle::WaitEnded()
+{
+    mutex->owner = SimPc::Current().CurrentActor().thread;
+    ++mutex->depth;
+}
+
+std::shared_ptr<KernelObject> FindWaitable(HANDLE handle)
+{
+    SimPc& pc = SimPc::Current();
+    auto object = pc.Handles().Find<KernelObject>(handle);
+    if (!object || !object->Waitable())
+        return pc.Fail(object ? ERROR_ACCESS_DENIED : ERROR_INVALID_HANDLE, std::shared_ptr<KernelObject>());
+    return object;
+}
+
+}  // namespace platform
+
+BOOL WINAPI CloseHandle(HANDLE object)
+{
+    SIM_NOTE(object);
+    SimPc& pc = SimPc::Current();
+    return pc.Handles().Close<KernelObject>(object) || pc.Fail(ERROR_INVALID_HANDLE, FALSE);
+}
+
+DWORD WINAPI WaitForSingleObject(HANDLE object, DWORD milliseconds)
+{
+    SIM_CALL(WAIT_FAILED, ERROR_INVALID_HANDLE, object, milliseconds);
+    SimPc& pc = SimPc::Current();
+    const auto waitable = FindWaitable(object);
+    if (!waitable)
+        return WAIT_FAILED;
+    if (pc.Block(std::min(milliseconds, kLongEnough), [&] { return waitable->Signalled(); })) {
+        waitable->WaitEnded();
+        return WAIT_OBJECT_0;
+    }
+    if (milliseconds != INFINITE)
+        return WAIT_TIMEOUT;
+    pc.Unsupported("WaitForSingleObject waits for ever");
+    return WAIT_FAILED;
+}
+
+HANDLE WINAPI CreateMutexW(LPSECURITY_ATTRIBUTES, BOOL initialOwner, LPCWSTR name)
+{
+    SIM_CALL(nullptr, ERROR_ACCESS_DENIED, initialOwner, name);
+    SimPc& pc = SimPc::Current();
+    bool existed = false;
+    auto mutex = OrEmpty(name).empty() ? std::make_shared<Mutex>() : pc.Get<Processes>().OpenMutex(name, existed);
+    const auto handle = std::make_shared<MutexHandle>(std::move(mutex));
+    if (!existed && initialOwner)
+        handle->WaitEnded();
+    pc.LastError(existed ? ERROR_ALREADY_EXISTS : NO_ERROR);
+    return OpenHandle(pc, handle);
+}
+
+BOOL WINAPI ReleaseMutex(HANDLE mutex)
+{
+    SIM_NOTE(mutex);
+    SimPc& pc = SimPc::Current();
+    const auto handle = pc.Handles().Find<MutexHandle>(mutex);
+    if (!handle)
+        return pc.Fail(ERROR_INVALID_HANDLE, FALSE);
+    if (handle->mutex->owner != pc.CurrentActor().thread)
+        return pc.Fail(ERROR_NOT_OWNER, FALSE);
+    if (--handle->mutex->depth == 0)
+        handle->mutex->owner = 0;
+    return TRUE;
+}

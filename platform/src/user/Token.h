@@ -1,0 +1,22 @@
+// Token: a handle to the access token of the program.
+#pragma once
+
+#include "platform/src/process/KernelObject.h"
+
+#include <winnt.h>
+
+#include <optional>
+
+namespace platform {
+
+/// There is one token, the user's; thread tokens carry how far they may be used.
+class Token : public KernelObject {
+public:
+    Token(DWORD access, std::optional<SECURITY_IMPERSONATION_LEVEL> impersonation) : KernelObject(access), impersonation_(impersonation) {}
+    [[nodiscard]] std::optional<SECURITY_IMPERSONATION_LEVEL> Impersonation() const { return impersonation_; }
+
+private:
+    std::optional<SECURITY_IMPERSONATION_LEVEL> impersonation_;
+};
+
+}  // namespace platform

@@ -1,0 +1,312 @@
+#include "platform/sim/Desktop.h"
+
+#include "platform/sim/Graphics.h"
+#include "platform/src/classes/SystemClasses.h"
+#include "platform/src/input/Cursors.h"
+#include "platform/src/input/Hardware.h"
+#include "platform/src/text/Case.h"
+#include "platform/src/window/Frame.h"
+#include "platform/src/window/Inner.h"
+#include "platform/src/window/WindowClasses.h"
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+constexpr int kTaskbarHeight = 40;
+
+UINT ButtonMessage(MouseButton button, bool up)
+{
+    const UINT down = button == MouseButton::Left ? WM_LBUTTONDOWN : button == MouseButton::Right ? WM_RBUTTONDOWN : WM_MBUTTONDOWN;
+    return up ? down + 1 : down;
+}
+
+void InjectButton(MouseButton button, bool up)
+{
+    HardwareEvent event;
+    event.kind = HardwareEvent::Kind::Button;
+    event.message = ButtonMessage(button, up);
+    Inject(event);
+}
+
+/// The arrow keys and their neighbours are extended keys: the number pad has the plain ones.
+bool IsExtended(int key)
+{
+    return (key >= VK_PRIOR && key <= VK_DOWN) || key == VK_INSERT || key == VK_DELETE || key == VK_APPS;
+}
+
+std::vector<HWND> Handles(const std::vector<WindowPtr>& windows)
+{
+    std::vector<HWND> handles;
+    for (const WindowPtr& window : windows)
+        handles.push_back(window->handle);
+    return handles;
+}
+
+}  // namespace
+
+Desktop::Desktop(SimPc& pc) : Area(pc)
+{
+    ScreenSize({1280, 800});
+    RegisterSystemClasses(*this);
+}
+
+int Desktop::Dpi() const
+{
+    return pc_.Get<Graphics>().Dpi();
+}
+
+void Desktop::Dpi(int dotsPerInch)
+{
+    pc_.Get<Graphics>().Dpi(dotsPerInch);
+}
+
+SIZE Desktop::ScreenSize() const
+{
+    return pc_.Get<Graphics>().ScreenSize();
+}
+
+void Desktop::ScreenSize(SIZE size)
+{
+    pc_.Get<Graphics>().ScreenSize(size);
+    Window& root = pc_.Get<WindowTree>().Desktop();
+    root.frame = root.client = {0, 0, size.cx, size.cy};
+}
+
+RECT Desktop::WorkArea() const
+{
+    const SIZE screen = ScreenSize();
+    return {0, 0, screen.cx, screen.cy - kTaskbarHeight};
+}
+
+void Desktop::Settle()
+{
+    pc_.Settle();
+}
+
+void Desktop::MouseMove(int x, int y)
+{
+    HardwareEvent event;
+    event.point = {x, y};
+    Inject(event);
+    Settle();
+}
+
+void Desktop::MouseDown(MouseButton button)
+{
+    InjectButton(button, false);
+    Settle();
+}
+
+void Desktop::MouseUp(MouseButton button)
+{
+    InjectButton(button, true);
+    Settle();
+}
+
+void Desktop::MouseWheel(int delta)
+{
+    HardwareEvent event;
+    event.kind = HardwareEvent::Kind::Wheel;
+    event.wheel = delta;
+    Inject(event);
+    Settle();
+}
+
+void Desktop::Hover(HWND window, int x, int y)
+{
+    const POINT point = inner::MapPoint(window, nullptr, {x, y});
+    MouseMove(point.x, point.y);
+}
+
+void Desktop::Click(HWND window, int x, int y, MouseButton button)
+{
+    Hover(window, x, y);
+    MouseDown(button);
+    MouseUp(button);
+}
+
+void Desktop::DoubleClick(HWND window, int x, int y, MouseButton button)
+{
+    Click(window, x, y, button);
+    MouseDown(button);
+    MouseUp(button);
+}
+
+void Desktop::KeyDown(int virtualKey)
+{
+    InjectKey(static_cast<WORD>(virtualKey), false, ScanCode(static_cast<WORD>(virtualKey)), IsExtended(virtualKey));
+    Settle();
+}
+
+void Desktop::KeyUp(int virtualKey)
+{
+    InjectKey(static_cast<WORD>(virtualKey), true, ScanCode(static_cast<WORD>(virtualKey)), IsExtended(virtualKey));
+    Settle();
+}
+
+void Desktop::Press(int virtualKey, int shift)
+{
+    static constexpr struct {
+        int bit;
+        int key;
+    } shiftKeys[] = {{kShift, VK_SHIFT}, {kControl, VK_CONTROL}, {kAlt, VK_MENU}};
+    for (const auto& [bit, key] : shiftKeys)
+        if (shift & bit)
+            KeyDown(key);
+    KeyDown(virtualKey);
+    KeyUp(virtualKey);
+    for (const auto& [bit, key] : shiftKeys)
+        if (shift & bit)
+            KeyUp(key);
+}
+
+void Desktop::Type(std::u16string_view text)
+{
+    for (const char16_t character : text) {
+        if (const auto key = KeyFor(character)) {
+            Press(key->virtualKey, key->shift ? kShift : kNoShift);
+            continue;
+        }
+        for (const bool up : {false, true})
+            InjectKey(VK_PACKET, up, character);
+        Settle();
+    }
+}
+
+void Desktop::ClickCloseBox(HWND window)
+{
+    const WindowPtr found = WindowOf(window);
+    const RECT box = found ? CaptionBox(*found, HTCLOSE) : RECT{};
+    if (box.right <= box.left)
+        return pc_.Unsupported("a click on the close box of a window that has none");
+    MouseMove((box.left + box.right) / 2, (box.top + box.bottom) / 2);
+    MouseDown();
+    MouseUp();
+}
+
+Image Desktop::Snapshot(HWND window) const
+{
+    const WindowPtr found = WindowOf(window);
+    if (!found || !found->TopLevel().pixels)
+        return {};
+    const Window& top = found->TopLevel();
+    return top.pixels->Part(Shifted(found->frame, -top.frame.left, -top.frame.top));
+}
+
+std::vector<HWND> Desktop::Windows() const
+{
+    return Handles(WindowTree::Children(Tree().Desktop()));
+}
+
+std::vector<HWND> Desktop::WindowsOf(DWORD process) const
+{
+    std::vector<WindowPtr> windows = Tree().All();
+    std::erase_if(windows, [&](const WindowPtr& window) { return window->actor.process != process; });
+    return Handles(windows);
+}
+
+std::u16string Desktop::Text(HWND window) const
+{
+    return inner::GetText(window);
+}
+
+std::u16string Desktop::ClassName(HWND window) const
+{
+    const WindowPtr found = WindowOf(window);
+    return found ? found->windowClass->name : std::u16string();
+}
+
+HWND Desktop::FindByText(std::u16string_view text) const
+{
+    for (const Window* window : Tree().Desktop().children)
+        if (window->text == text)
+            return window->handle;
+    return nullptr;
+}
+
+HWND Desktop::Focus() const
+{
+    const auto& foreground = Queues().Foreground();
+    return foreground ? foreground->focus : nullptr;
+}
+
+HWND Desktop::Foreground() const
+{
+    const auto& foreground = Queues().Foreground();
+    return foreground ? foreground->active : nullptr;
+}
+
+HWND Desktop::WindowAt(POINT screen) const
+{
+    const Window* window = WindowUnder(screen);
+    return window ? window->handle : nullptr;
+}
+
+POINT Desktop::CursorPosition() const
+{
+    return Queues().cursor;
+}
+
+std::size_t Desktop::TimersOf(DWORD process) const
+{
+    std::size_t count = 0;
+    for (const ThreadQueue& queue : Queues().All())
+        if (queue.actor.process == process)
+            count += queue.timers.size();
+    return count;
+}
+
+namespace {
+
+/// Each window hears it, the topmost first and a parent before its children, and paints itself anew.
+void Announce(UINT message)
+{
+    for (const WindowPtr& window : Tree().All())
+        if (WindowOf(window->handle))
+            inner::SendMessage(window->handle, message, 0, 0);
+    inner::RedrawWindow(nullptr, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
+}  // namespace
+
+void Desktop::AnnounceThemeChange()
+{
+    Announce(WM_THEMECHANGED);
+    Settle();
+}
+
+void Desktop::AnnounceColorChange()
+{
+    for (const WindowPtr& window : WindowTree::Children(Tree().Desktop()))
+        if (WindowOf(window->handle))
+            inner::SendMessage(window->handle, WM_SYSCOLORCHANGE, 0, 0);
+    inner::RedrawWindow(nullptr, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+    Settle();
+}
+
+void Desktop::Hang(Actor thread, bool hangs)
+{
+    Queues().Of(thread).hangs = hangs;
+}
+
+bool Desktop::HasIconResource(std::u16string_view name) const
+{
+    return std::any_of(iconResources_.begin(), iconResources_.end(), [&](const std::u16string& known) { return SameName(known, name); });
+}
+
+void Desktop::RegisterSystemClass(LPCWSTR name, WNDPROC procedure, UINT style, int extraBytes, LPCWSTR cursor, HBRUSH background)
+{
+    WindowClass windowClass;
+    windowClass.name = name;
+    windowClass.procedure = procedure;
+    windowClass.style = style;
+    windowClass.windowExtra = extraBytes;
+    windowClass.cursor = StockCursor(cursor);
+    windowClass.background = background;
+    pc_.Get<WindowClasses>().Register(std::move(windowClass));
+}
+
+}  // namespace platform

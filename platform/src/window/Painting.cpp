@@ -1,0 +1,286 @@
+#include "platform/src/window/Painting.h"
+
+#include "platform/sim/Graphics.h"
+#include "platform/src/core/Gate.h"
+#include "platform/src/window/Inner.h"
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+Region FrameRegion(const Window& window)
+{
+    const Region frame(window.frame);
+    return window.shape ? frame.Intersect(window.shape->Offset(window.frame.left, window.frame.top)) : frame;
+}
+
+bool Covers(const Window& window)
+{
+    return (window.style & WS_VISIBLE) && !(window.exStyle & WS_EX_TRANSPARENT);
+}
+
+Region FromCorner(const Window& window, const Region& screen)
+{
+    return screen.Offset(-window.frame.left, -window.frame.top);
+}
+
+bool NeedsPaint(const Window& window)
+{
+    return (!window.invalid.IsEmpty() || window.internalPaint) && window.IsShown();
+}
+
+WindowPtr FindToPaint(const Window& parent, Actor thread, const std::function<bool(HWND)>& wanted)
+{
+    for (Window* window : parent.children) {
+        if (!(window->style & WS_VISIBLE))
+            continue;
+        if (window->actor == thread && NeedsPaint(*window) && wanted(window->handle))
+            return window->shared_from_this();
+        if (WindowPtr child = FindToPaint(*window, thread, wanted))
+            return child;
+    }
+    return nullptr;
+}
+
+void EraseBackground(Window& window, HDC dc)
+{
+    window.eraseWaits = false;
+    const HWND handle = window.handle;
+    const bool erased = inner::SendMessage(handle, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0) != 0;
+    if (!erased && WindowOf(handle))
+        window.eraseWaits = true;
+}
+
+}  // namespace
+
+Region VisibleRegion(const Window& window, bool whole, bool clipChildren)
+{
+    if (!window.IsShown())
+        return {};
+    Region visible(whole ? window.frame : window.client);
+    for (const Window* level = &window; level->parent; level = level->parent) {
+        if (level->shape)
+            visible = visible.Intersect(FrameRegion(*level));
+        if (level->IsTopLevel())
+            break;
+        visible = visible.Intersect(Region(level->parent->client));
+        if (!(level->style & WS_CLIPSIBLINGS))
+            continue;
+        for (const Window* sibling : level->parent->children) {
+            if (sibling == level)
+                break;
+            if (Covers(*sibling))
+                visible = visible.Subtract(FrameRegion(*sibling));
+        }
+    }
+    if (clipChildren)
+        for (const Window* child : window.children)
+            if (Covers(*child))
+                visible = visible.Subtract(FrameRegion(*child));
+    return visible;
+}
+
+void Mark(Window& window, const Region& area, UINT flags)
+{
+    if (window.redrawOff || !window.IsShown())
+        return;
+    const bool clips = (window.style & WS_CLIPCHILDREN) != 0;
+    const Region own = area.Intersect(VisibleRegion(window, (flags & (RDW_FRAME | RDW_VALIDATE)) != 0, clips));
+    if (flags & RDW_INVALIDATE) {
+        window.invalid = window.invalid.Union(FromCorner(window, own));
+        window.eraseWaits |= (flags & RDW_ERASE) && !own.IsEmpty();
+        const Region border = Region(window.frame).Subtract(Region(window.client));
+        window.frameWaits |= (flags & RDW_FRAME) && !own.Intersect(border).IsEmpty();
+    } else if (flags & RDW_VALIDATE) {
+        window.invalid = window.invalid.Subtract(FromCorner(window, own));
+        if (flags & RDW_NOERASE)
+            window.eraseWaits = false;
+        if (window.invalid.IsEmpty())
+            window.eraseWaits = window.frameWaits = false;
+    }
+    if (!(flags & RDW_NOCHILDREN) && ((flags & RDW_ALLCHILDREN) || !clips))
+        for (const WindowPtr& child : WindowTree::Children(window))
+            Mark(*child, area, flags | ((flags & RDW_INVALIDATE) ? RDW_FRAME : 0));
+}
+
+void PaintFrameAndBackground(Window& window)
+{
+    const WindowPtr keep = window.shared_from_this();
+    if (!window.IsShown())
+        return;
+    if (std::exchange(window.frameWaits, false))
+        inner::SendMessage(window.handle, WM_NCPAINT, 1, 0);
+    if (!window.eraseWaits || !WindowOf(window.handle))
+        return;
+    const Region area = window.invalid.Offset(window.frame.left, window.frame.top);
+    auto& dcs = SimPc::Current().Get<WindowDcs>();
+    const HDC dc = dcs.Open(window, false, (window.style & WS_CLIPCHILDREN) != 0, &area);
+    EraseBackground(window, dc);
+    dcs.Close(dc);
+}
+
+void PaintNow(Window& window, bool children)
+{
+    const WindowPtr keep = window.shared_from_this();
+    if (NeedsPaint(window))
+        inner::SendMessage(window.handle, WM_PAINT, 0, 0);
+    if (!children)
+        return;
+    for (const WindowPtr& child : WindowTree::Children(window))
+        if (WindowOf(child->handle))
+            PaintNow(*child, true);
+}
+
+WindowPtr NextToPaint(Actor thread, const std::function<bool(HWND)>& wanted)
+{
+    return FindToPaint(Tree().Desktop(), thread, wanted);
+}
+
+void FitPixels(Window& topLevel)
+{
+    const int width = std::max(topLevel.Width(), 0);
+    const int height = std::max(topLevel.Height(), 0);
+    const std::shared_ptr<Image> old = topLevel.pixels;
+    if (old && old->width == width && old->height == height)
+        return;
+    topLevel.pixels = std::make_shared<Image>(width, height);
+    for (int y = 0; old && y < std::min(height, old->height); ++y)
+        std::copy_n(&old->pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(old->width)], std::min(width, old->width),
+                    &topLevel.pixels->pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width)]);
+}
+
+namespace inner {
+
+BOOL RedrawWindow(HWND handle, const RECT* rectangle, const Region* region, UINT flags)
+{
+    if (!handle) {  // The whole screen.
+        for (const WindowPtr& window : WindowTree::Children(Tree().Desktop()))
+            if (WindowOf(window->handle))
+                inner::RedrawWindow(window->handle, nullptr, nullptr, flags | RDW_ALLCHILDREN);
+        return TRUE;
+    }
+    const WindowPtr window = RequireWindow(handle);
+    if (!window)
+        return FALSE;
+    Region area((flags & RDW_FRAME) || !(flags & RDW_INVALIDATE) ? window->frame : window->client);
+    if (region)
+        area = region->Offset(window->client.left, window->client.top);
+    else if (rectangle)
+        area = Region(Shifted(*rectangle, window->client.left, window->client.top));
+    if (flags & (RDW_INVALIDATE | RDW_VALIDATE))
+        Mark(*window, area, flags);
+    if (flags & (RDW_INTERNALPAINT | RDW_NOINTERNALPAINT))
+        window->internalPaint = (flags & RDW_INTERNALPAINT) != 0;
+    if (flags & RDW_UPDATENOW)
+        PaintNow(*window, !(flags & RDW_NOCHILDREN));
+    else if (flags & RDW_ERASENOW)
+        PaintFrameAndBackground(*window);
+    return TRUE;
+}
+
+void InvalidateRect(HWND window, const RECT* rectangle, bool erase)
+{
+    inner::RedrawWindow(window, rectangle, nullptr, RDW_INVALIDATE | (erase ? RDW_ERASE : 0));
+}
+
+void ValidateRect(HWND window, const RECT* rectangle)
+{
+    inner::RedrawWindow(window, rectangle, nullptr, RDW_VALIDATE | (rectangle ? 0 : RDW_NOERASE));
+}
+
+void UpdateWindow(HWND window)
+{
+    inner::RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
+HDC BeginPaint(HWND handle, PAINTSTRUCT& paint)
+{
+    const WindowPtr window = RequireWindow(handle);
+    if (!window)
+        return nullptr;
+    window->internalPaint = false;
+    if (std::exchange(window->frameWaits, false))
+        SendMessage(handle, WM_NCPAINT, 1, 0);
+    if (!WindowOf(handle))
+        return nullptr;
+    const Region area = std::exchange(window->invalid, Region()).Offset(window->frame.left, window->frame.top);
+    const bool clips = (window->style & WS_CLIPCHILDREN) != 0;
+    const HDC dc = SimPc::Current().Get<WindowDcs>().Open(*window, false, clips, &area);
+    paint = PAINTSTRUCT{};
+    paint.hdc = dc;
+    paint.rcPaint = Shifted(area.Intersect(VisibleRegion(*window, false, clips)).Bounds(), -window->client.left, -window->client.top);
+    if (paint.rcPaint.right <= paint.rcPaint.left)
+        paint.rcPaint = RECT{};
+    if (window->eraseWaits)
+        EraseBackground(*window, dc);
+    paint.fErase = std::exchange(window->eraseWaits, false);
+    return dc;
+}
+
+void EndPaint(HWND, const PAINTSTRUCT& paint)
+{
+    SimPc::Current().Get<WindowDcs>().Close(paint.hdc);
+}
+
+}  // namespace inner
+
+}  // namespace platform
+
+using namespace platform;
+
+HDC WINAPI BeginPaint(HWND window, LPPAINTSTRUCT paint)
+{
+    SIM_CALL(nullptr, ERROR_NOT_ENOUGH_MEMORY, window);
+    return inner::BeginPaint(window, *paint);
+}
+
+BOOL WINAPI EndPaint(HWND window, const PAINTSTRUCT* paint)
+{
+    SIM_NOTE(window);
+    inner::EndPaint(window, *paint);
+    return TRUE;
+}
+
+BOOL WINAPI InvalidateRect(HWND window, const RECT* rectangle, BOOL erase)
+{
+    SIM_CALL(FALSE, ERROR_INVALID_WINDOW_HANDLE, window, rectangle, erase);
+    return inner::RedrawWindow(window, rectangle, nullptr, RDW_INVALIDATE | (erase ? RDW_ERASE : 0));
+}
+
+BOOL WINAPI ValidateRect(HWND window, const RECT* rectangle)
+{
+    SIM_CALL(FALSE, ERROR_INVALID_WINDOW_HANDLE, window, rectangle);
+    inner::ValidateRect(window, rectangle);
+    return WindowOf(window) != nullptr;
+}
+
+BOOL WINAPI RedrawWindow(HWND window, const RECT* rectangle, HRGN region, UINT flags)
+{
+    SIM_CALL(FALSE, ERROR_INVALID_WINDOW_HANDLE, window, rectangle, region, flags);
+    const Region* area = region ? SimPc::Current().Get<Graphics>().RegionOf(region) : nullptr;
+    return inner::RedrawWindow(window, rectangle, area, flags);
+}
+
+BOOL WINAPI UpdateWindow(HWND window)
+{
+    SIM_CALL(FALSE, ERROR_INVALID_WINDOW_HANDLE, window);
+    return inner::RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
+BOOL WINAPI GetUpdateRect(HWND window, LPRECT rectangle, BOOL erase)
+{
+    SIM_NOTE(window, erase);
+    const WindowPtr found = RequireWindow(window);
+    if (!found)
+        return FALSE;
+    const RECT screen = Shifted(found->invalid.Bounds(), found->frame.left, found->frame.top);
+    const Region inClient = Region(screen).Intersect(Region(found->client));
+    const bool any = !found->invalid.IsEmpty() && !inClient.IsEmpty();
+    if (rectangle)
+        *rectangle = any ? Shifted(inClient.Bounds(), -found->client.left, -found->client.top) : RECT{};
+    if (erase)
+        PaintFrameAndBackground(*found);
+    return any;
+}
