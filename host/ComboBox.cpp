@@ -1,0 +1,98 @@
+// ComboBox: the list, the selection and the events.
+#include "host/ComboBox.h"
+
+#include "host/KeyRouting.h"
+
+namespace host {
+
+namespace {
+
+constexpr const WCHAR* listKey = TEXT("List");
+constexpr int droppedHeight = 130;
+
+}  // namespace
+
+StockControl::SystemWindow ComboBox::Describe() const
+{
+    return {TEXT("ComboBox"), CBS_DROPDOWNLIST | CBS_HASSTRINGS | WS_VSCROLL | WS_TABSTOP, {}};
+}
+
+void ComboBox::Made()
+{
+    for (const base::String& item : items_)
+        SendMessageW(hWnd(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.c_str()));
+    SendMessageW(hWnd(), CB_SETCURSEL, static_cast<WPARAM>(listIndex_), 0);
+}
+
+/// Windows counts the list that drops down into the height of the window.
+RECT ComboBox::WindowRect(RECT place) const
+{
+    place.bottom += droppedHeight;
+    return place;
+}
+
+void ComboBox::AddItem(base::StringView text)
+{
+    const base::String& item = items_.emplace_back(text);
+    if (hWnd() != nullptr)
+        SendMessageW(hWnd(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.c_str()));
+}
+
+base::String ComboBox::List(int index) const
+{
+    return index >= 0 && index < ListCount() ? items_[static_cast<std::size_t>(index)] : base::String{};
+}
+
+void ComboBox::ListIndex(int index)
+{
+    if (index < 0 || index >= ListCount())
+        index = -1;
+    if (index == listIndex_)
+        return;
+    listIndex_ = index;
+    if (hWnd() != nullptr)
+        SendMessageW(hWnd(), CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    Click.Raise();
+}
+
+void ComboBox::Command(WORD notification)
+{
+    if (notification != CBN_SELCHANGE)
+        return;
+    const int index = static_cast<int>(SendMessageW(hWnd(), CB_GETCURSEL, 0, 0));
+    if (std::exchange(listIndex_, index) != index)
+        Click.Raise();
+}
+
+bool ComboBox::WantsKey(std::int16_t keyCode) const
+{
+    if (keyCode == VK_RETURN || keyCode == VK_ESCAPE)
+        return SendMessageW(hWnd(), CB_GETDROPPEDSTATE, 0, 0) != FALSE;
+    return keyCode != VK_TAB;
+}
+
+bool ComboBox::Key(UINT message, WPARAM& wParam)
+{
+    auto code = static_cast<std::int16_t>(wParam);
+    std::int16_t shift = ShiftState();
+    if (message == WM_CHAR)
+        KeyPress.Raise(code);
+    else if (message == WM_KEYDOWN || message == WM_SYSKEYDOWN)
+        KeyDown.Raise(code, shift);
+    else
+        KeyUp.Raise(code, shift);
+    wParam = static_cast<WORD>(code);
+    return code == 0;
+}
+
+void ComboBox::ReadProperties(const PropertyBag& bag)
+{
+    items_ = bag.Read<TextList>(listKey, {});
+}
+
+void ComboBox::WriteProperties(PropertyBag& bag)
+{
+    bag.Write(listKey, items_, {});
+}
+
+}  // namespace host

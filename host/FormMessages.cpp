@@ -1,0 +1,138 @@
+// Form: the messages of its window, the focus and the timers.
+#include "host/Form.h"
+#include "host/KeyRouting.h"
+#include "host/TabOrder.h"
+
+namespace host {
+
+LRESULT Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message) {
+        case WM_CLOSE:
+        case WM_DESTROY:
+            // WM_DESTROY finds a loaded form only when somebody else destroys its window.
+            Unload();
+            return 0;
+        case WM_ERASEBKGND:
+        case WM_PRINTCLIENT:
+            Fill(reinterpret_cast<HDC>(wParam));
+            return 1;
+        case WM_PAINT:
+            // A window that stands on the form may ask for the background behind it and gives a DC for it.
+            if (wParam == 0)
+                break;
+            Fill(reinterpret_cast<HDC>(wParam));
+            return 0;
+        case WM_SETFOCUS:
+            RestoreFocus();
+            return 0;
+        case WM_KEYDOWN:
+        case WM_SYSKEYDOWN:
+        case WM_KEYUP:
+        case WM_SYSKEYUP:
+        case WM_CHAR:
+            if (!HandleKey(message, wParam))
+                return 0;
+            break;
+        case WM_TIMER:
+            if (const auto timer = timers_.find(wParam); timer != timers_.end()) {
+                const std::function<void()> tick = timer->second;
+                tick();
+            }
+            return 0;
+        case WM_COMMAND:
+            if (Control* const control = ControlOf(reinterpret_cast<HWND>(lParam)))
+                control->Command(HIWORD(wParam));
+            break;
+        case WM_SYSCOLORCHANGE:
+            // Windows tells only top-level windows.
+            ForwardToControls(message, wParam, lParam);
+            break;
+        default:
+            break;
+    }
+    return Default(message, wParam, lParam);
+}
+
+void Form::Fill(HDC target) const
+{
+    const base::BrushHandle brush(CreateSolidBrush(ToRgb(backColor_)));
+    RECT client{};
+    GetClientRect(hWnd(), &client);
+    if (brush)
+        FillRect(target, &client, brush.Get());
+}
+
+void Form::ForwardToControls(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    for (Control* const control : Controls()) {
+        const HWND own = control->OwnHandle(), shown = control->hWnd();
+        if (own != nullptr)
+            SendMessageW(own, message, wParam, lParam);
+        if (shown != nullptr && shown != own)
+            SendMessageW(shown, message, wParam, lParam);
+    }
+}
+
+void Form::Activate(Control* control)
+{
+    if (active_ == control || !IsLoaded())
+        return;
+    Control* const former = std::exchange(active_, control);
+    if (former != nullptr) {
+        former->LostFocus();
+        if (IsLoaded())
+            former->ExitFocus();
+    }
+    // A handler may have moved on, or unloaded the form.
+    if (control != nullptr && active_ == control)
+        control->EnterFocus();
+}
+
+/// Windows gives the focus to the form's own window when the form is activated, and to a container's when it hides the control in it.
+void Form::RestoreFocus()
+{
+    if (!IsLoaded())
+        return;
+    Control* const control = active_ != nullptr && CanGetFocusNow(*active_) ? active_ : NextInTabOrder(*this, -1, false);
+    if (control != nullptr)
+        control->SetFocus();
+}
+
+void Form::PassFocusOn(Control& from)
+{
+    if (active_ != &from || !IsLoaded())
+        return;
+    Control* const next = NextInTabOrder(*this, from.GetExtender().TabIndex(), false, &from);
+    if (next != nullptr && GetActiveWindow() == hWnd())
+        next->SetFocus();
+    else
+        Activate(next);
+}
+
+bool Form::HandleKey(UINT message, WPARAM& wParam)
+{
+    auto code = static_cast<std::int16_t>(wParam);
+    std::int16_t shift = ShiftState();
+    if (message == WM_CHAR)
+        Form_KeyPress(code);
+    else if (message == WM_KEYDOWN || message == WM_SYSKEYDOWN)
+        Form_KeyDown(code, shift);
+    else
+        Form_KeyUp(code, shift);
+    wParam = static_cast<WORD>(code);
+    return code != 0;
+}
+
+UINT_PTR Form::AddTimer(std::function<void()> tick)
+{
+    timers_.emplace(nextTimer_, std::move(tick));
+    return nextTimer_++;
+}
+
+void Form::RemoveTimer(UINT_PTR timer)
+{
+    timers_.erase(timer);
+}
+
+}  // namespace host

@@ -1,0 +1,137 @@
+// KeyRouting: the order in which form, access keys, buttons and the tab order get a key.
+#include "host/KeyRouting.h"
+
+#include "host/Form.h"
+#include "host/TabOrder.h"
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+constexpr std::int16_t shiftHeld = 1, ctrlHeld = 2, altHeld = 4;
+
+int TabIndexOf(const Control* control)
+{
+    return control != nullptr ? control->GetExtender().TabIndex() : -1;
+}
+
+bool AnswersTo(const Control& control, base::StringView key)
+{
+    return control.Enabled() && control.OwnHandle() != nullptr && IsWindowVisible(control.OwnHandle()) &&
+           IsWindowEnabled(control.OwnHandle()) && base::FindIgnoringCase(control.AccessKey(), key) != base::String::npos;
+}
+
+/// Of several controls with the same letter the next one after the active control, so that pressing it again goes round.
+Control* ControlWithAccessKey(const Form& form, base::StringView key)
+{
+    std::vector<Control*> controls = form.Controls();
+    std::erase_if(controls, [=](const Control* control) { return !AnswersTo(*control, key); });
+    const int own = TabIndexOf(form.ActiveControl());
+    const auto next = std::ranges::min_element(controls, {}, [=](const Control* control) {
+        const int index = TabIndexOf(control);
+        return std::pair(index <= own, index);
+    });
+    return next == controls.end() ? nullptr : *next;
+}
+
+bool PressAccessKey(Form& form, WCHAR key)
+{
+    Control* const control = ControlWithAccessKey(form, {&key, 1});
+    if (control == nullptr)
+        return false;
+    if (control->CanGetFocus())
+        control->SetFocus();
+    else if (Control* const next = NextInTabOrder(form, TabIndexOf(control), false))
+        next->SetFocus();
+    if (form.IsLoaded())
+        control->AccessKeyPress(static_cast<std::int16_t>(key));
+    return true;
+}
+
+/// Enter and Esc go to the button that the form names for them, without moving the focus.
+bool PressButton(const Form& form, bool (Extender::*isIt)() const, std::int16_t key)
+{
+    for (Control* const control : form.Controls()) {
+        if ((control->GetExtender().*isIt)() && control->Enabled() && control->OwnHandle() != nullptr &&
+            IsWindowVisible(control->OwnHandle())) {
+            control->AccessKeyPress(key);
+            return true;
+        }
+    }
+    return false;
+}
+
+bool Navigate(const Form& form, const Control* focused, std::int16_t key)
+{
+    const std::int16_t shift = ShiftState();
+    if ((focused != nullptr && focused->WantsKey(key)) || (shift & (ctrlHeld | altHeld)) != 0)
+        return false;
+    switch (key) {
+        case VK_RETURN:
+            return PressButton(form, &Extender::Default, key);
+        case VK_ESCAPE:
+            return PressButton(form, &Extender::Cancel, key);
+        case VK_TAB:
+            if (Control* const next =
+                    NextInTabOrder(form, TabIndexOf(focused != nullptr ? focused : form.ActiveControl()), (shift & shiftHeld) != 0))
+                next->SetFocus();
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool RouteKey(Form& form, MSG& message)
+{
+    const bool isForForm = message.hwnd == form.hWnd();
+    const Control* const control = form.ControlOf(message.hwnd);
+    if (!isForForm && (control == nullptr || control->OwnHandle() != message.hwnd))
+        return false;
+    if (!isForForm && form.KeyPreview() && (!form.HandleKey(message.message, message.wParam) || !form.IsLoaded()))
+        return true;
+    return message.message == WM_KEYDOWN && Navigate(form, control, static_cast<std::int16_t>(message.wParam));
+}
+
+/// A system window that a control hosts takes the focus by itself when it is clicked. The control that has it must hear before
+/// its windows lose it that it is left.
+void LeaveActiveControl(Form& form, HWND clicked)
+{
+    const Control* const control = form.ControlOf(clicked);
+    if (control != nullptr && control != form.ActiveControl() && control->OwnHandle() != clicked && control->CanGetFocus())
+        form.Activate(nullptr);
+}
+
+}  // namespace
+
+std::int16_t ShiftState()
+{
+    return static_cast<std::int16_t>((GetKeyState(VK_SHIFT) < 0 ? shiftHeld : 0) | (GetKeyState(VK_CONTROL) < 0 ? ctrlHeld : 0) |
+                                     (GetKeyState(VK_MENU) < 0 ? altHeld : 0));
+}
+
+bool RouteMessage(MSG& message)
+{
+    Form* const form = Form::Of(message.hwnd);
+    if (form == nullptr)
+        return false;
+    switch (message.message) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+            LeaveActiveControl(*form, message.hwnd);
+            return false;
+        case WM_SYSCHAR:
+            return PressAccessKey(*form, static_cast<WCHAR>(message.wParam));
+        case WM_KEYDOWN:
+        case WM_SYSKEYDOWN:
+        case WM_KEYUP:
+        case WM_SYSKEYUP:
+        case WM_CHAR:
+            return RouteKey(*form, message);
+        default:
+            return false;
+    }
+}
+
+}  // namespace host

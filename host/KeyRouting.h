@@ -1,0 +1,22 @@
+// KeyRouting: what the host does with keys and mouse presses before a window sees them.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+
+namespace host {
+
+class Control;
+class Form;
+
+/// Offers the message to the forms: a form with KeyPreview sees keys first (a code set to 0 ends the key's way), Alt with a letter goes to
+/// the control with that access key, Enter and Esc press the default and the cancel button, Tab moves the focus from stock controls.
+/// Windows that a control hosts beside its own (of its check box or text box) get their keys untouched, save access keys.
+/// True when the message is done with and no window must see it.
+[[nodiscard]] bool RouteMessage(MSG& message);
+
+/// The Shift argument of key and mouse events: 1 Shift, 2 Ctrl, 4 Alt held as of the present message.
+[[nodiscard]] std::int16_t ShiftState();
+
+}  // namespace host

@@ -1,0 +1,43 @@
+// Label: its caption.
+#include "host/Label.h"
+
+namespace host {
+
+namespace {
+
+constexpr const WCHAR* captionKey = TEXT("Caption");
+
+}  // namespace
+
+StockControl::SystemWindow Label::Describe() const
+{
+    return {TEXT("Static"), SS_LEFT, caption_};
+}
+
+void Label::Caption(base::StringView caption)
+{
+    caption_ = caption;
+    if (hWnd() != nullptr)
+        SetWindowTextW(hWnd(), caption_.c_str());
+}
+
+base::String Label::AccessKey() const
+{
+    for (std::size_t at = caption_.find(TEXT('&')); at != base::String::npos && at + 1 < caption_.size();
+         at = caption_.find(TEXT('&'), at + 2))
+        if (caption_[at + 1] != TEXT('&'))
+            return caption_.substr(at + 1, 1);
+    return {};
+}
+
+void Label::ReadProperties(const PropertyBag& bag)
+{
+    caption_ = bag.Read<base::String>(captionKey, {});
+}
+
+void Label::WriteProperties(PropertyBag& bag)
+{
+    bag.Write(captionKey, caption_, {});
+}
+
+}  // namespace host

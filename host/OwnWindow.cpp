@@ -1,0 +1,61 @@
+// OwnWindow: the two window classes and their one window procedure.
+#include "host/OwnWindow.h"
+
+#include "host/Wall.h"
+
+namespace host {
+
+bool OwnWindow::Make(const WindowShape& shape)
+{
+    const HINSTANCE instance = GetModuleHandleW(nullptr);
+    const WCHAR* const className = (shape.style & WS_CHILD) != 0 ? controlClass : formClass;
+    WNDCLASSEXW windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.style = CS_DBLCLKS;
+    windowClass.lpfnWndProc = &OwnWindow::Procedure;
+    windowClass.hInstance = instance;
+    windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    windowClass.lpszClassName = className;
+    // From the second window on the class is known and this fails, which does no harm.
+    RegisterClassExW(&windowClass);
+
+    const RECT& place = shape.place;
+    const HWND window = CreateWindowExW(shape.extendedStyle, className, shape.text.c_str(), shape.style, place.left, place.top,
+                                        place.right - place.left, place.bottom - place.top, shape.parent, nullptr, instance, this);
+    if (window == nullptr)
+        handle_ = nullptr;
+    window_.Reset(window);
+    return window != nullptr;
+}
+
+LRESULT OwnWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return Default(message, wParam, lParam);
+}
+
+LRESULT OwnWindow::Default(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return DefWindowProcW(handle_, message, wParam, lParam);
+}
+
+LRESULT CALLBACK OwnWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
+{
+    const auto byDefault = [=] { return DefWindowProcW(window, message, wParam, lParam); };
+    if (message == WM_NCCREATE) {
+        auto* const creator = static_cast<OwnWindow*>(reinterpret_cast<const CREATESTRUCTW*>(lParam)->lpCreateParams);
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(creator));
+        creator->handle_ = window;
+    }
+    auto* const self = reinterpret_cast<OwnWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (self == nullptr || self->handle_ != window)
+        return byDefault();
+    if (message == WM_NCDESTROY) {
+        // The window is gone for everybody, also when Windows destroyed it with its parent.
+        self->handle_ = nullptr;
+        (void)self->window_.Release();
+        return byDefault();
+    }
+    return BehindWall([=] { return self->OnMessage(message, wParam, lParam); }, byDefault);
+}
+
+}  // namespace host

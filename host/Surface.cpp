@@ -1,0 +1,126 @@
+// Surface: the picture in memory and its DC.
+#include "host/Surface.h"
+
+#include "host/UserControl.h"
+
+namespace host {
+
+HDC Surface::Dc()
+{
+    if (!dc_)
+        return nullptr;
+    SelectFont();
+    if (window_ != nullptr)
+        InvalidateRect(window_, nullptr, FALSE);
+    return dc_.Get();
+}
+
+/// A font that has changed is another GDI font; the one selected so far lives as long as it is selected.
+void Surface::SelectFont()
+{
+    const std::shared_ptr<const base::FontHandle> font = font_ ? font_->Share() : nullptr;
+    if (font == selectedFont_)
+        return;
+    const HGDIOBJ former = SelectObject(dc_.Get(), font ? static_cast<HGDIOBJ>(font->Get()) : formerFont_);
+    if (formerFont_ == nullptr)
+        formerFont_ = former;
+    selectedFont_ = font;
+}
+
+void Surface::Clear()
+{
+    const HDC dc = Dc();
+    const base::BrushHandle brush(CreateSolidBrush(ToRgb(backColor_)));
+    if (dc == nullptr || !brush)
+        return;
+    const RECT all{0, 0, size_.cx, size_.cy};
+    FillRect(dc, &all, brush.Get());
+}
+
+void Surface::Enabled(bool enabled)
+{
+    enabled_ = enabled;
+    if (window_ != nullptr)
+        EnableWindow(window_, enabled);
+}
+
+void Surface::Resize(SIZE size)
+{
+    Release();
+    size_ = size;
+    if (size.cx <= 0 || size.cy <= 0)
+        return;
+    base::MemoryDc dc(CreateCompatibleDC(nullptr));
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = size.cx;
+    info.bmiHeader.biHeight = -size.cy;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader.biCompression = BI_RGB;
+    void* bits = nullptr;
+    base::BitmapHandle picture(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    if (!dc || !picture)
+        return;
+    formerPicture_ = SelectObject(dc.Get(), picture.Get());
+    if (formerPicture_ == nullptr)
+        return;
+    dc_ = std::move(dc);
+    picture_ = std::move(picture);
+    Clear();
+}
+
+void Surface::CopyTo(HDC target) const
+{
+    if (dc_)
+        BitBlt(target, 0, 0, size_.cx, size_.cy, dc_.Get(), 0, 0, SRCCOPY);
+}
+
+void Surface::Release()
+{
+    if (dc_) {
+        SelectObject(dc_.Get(), formerPicture_);
+        if (formerFont_ != nullptr)
+            SelectObject(dc_.Get(), formerFont_);
+    }
+    dc_.Reset();
+    picture_.Reset();
+    selectedFont_.reset();
+    formerPicture_ = nullptr;
+    formerFont_ = nullptr;
+    size_ = {};
+}
+
+LPCWSTR Surface::CursorName() const
+{
+    switch (mousePointer_) {
+        case 2:
+            return IDC_CROSS;
+        case 3:
+            return IDC_IBEAM;
+        case 5:
+            return IDC_SIZEALL;
+        case 6:
+            return IDC_SIZENESW;
+        case 7:
+            return IDC_SIZENS;
+        case 8:
+            return IDC_SIZENWSE;
+        case 9:
+            return IDC_SIZEWE;
+        case 10:
+            return IDC_UPARROW;
+        case 11:
+            return IDC_WAIT;
+        case 12:
+            return IDC_NO;
+        case 13:
+            return IDC_APPSTARTING;
+        case 14:
+            return IDC_HELP;
+        default:
+            return nullptr;
+    }
+}
+
+}  // namespace host

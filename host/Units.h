@@ -1,0 +1,30 @@
+// Units: twips and pixels. A twip is 1/1440 inch; the screen's LOGPIXELSX and LOGPIXELSY say how many pixels an inch has.
+#pragma once
+
+#include <windows.h>
+
+namespace host {
+
+/// How a container counts positions and sizes.
+enum class ScaleMode : int { twips = 1, pixels = 3 };
+
+/// The screen's resolution in pixels per inch; 96 when no screen DC can be had.
+struct ScreenResolution {
+    int x = 96;
+    int y = 96;
+    [[nodiscard]] static ScreenResolution Get();
+};
+
+[[nodiscard]] int TwipsToPixelsX(float twips);
+[[nodiscard]] int TwipsToPixelsY(float twips);
+[[nodiscard]] float PixelsToTwipsX(int pixels);
+[[nodiscard]] float PixelsToTwipsY(int pixels);
+/// 15 at 96 dpi.
+[[nodiscard]] float TwipsPerPixelX();
+[[nodiscard]] float TwipsPerPixelY();
+
+/// From a container's units to pixels.
+[[nodiscard]] int ToPixelsX(float value, ScaleMode mode);
+[[nodiscard]] int ToPixelsY(float value, ScaleMode mode);
+
+}  // namespace host

@@ -1,0 +1,22 @@
+// Wall: the one place where exceptions end before Windows would meet them.
+#pragma once
+
+#include <windows.h>
+
+#include <utility>
+
+namespace host {
+
+/// Runs `handle` and gives its result. Windows' own code lies between a window procedure and its caller and knows nothing of C++
+/// exceptions, so none may leave: after an exception `fallback`, the message's default treatment, answers instead.
+template <class Handle, class Fallback>
+LRESULT BehindWall(Handle&& handle, Fallback&& fallback) noexcept
+{
+    try {
+        return std::forward<Handle>(handle)();
+    } catch (...) {
+        return std::forward<Fallback>(fallback)();
+    }
+}
+
+}  // namespace host
