@@ -1,0 +1,21 @@
+// CheckBoxLayout: the box is as wide as a menu's check mark, with edges around it.
+#include "controls/CheckBox/CheckBoxLayout.h"
+
+namespace controls {
+
+DWORD AlignmentBits(std::int32_t alignment)
+{
+    return alignment == TextRight ? BS_RIGHT : alignment == TextCenter ? BS_CENTER : BS_LEFT;
+}
+
+int AutoSizeWidth(int textWidth)
+{
+    return textWidth + GetSystemMetrics(SM_CXMENUCHECK) + 4 * GetSystemMetrics(SM_CXEDGE);
+}
+
+int RoomForCaption(int width)
+{
+    return width - (GetSystemMetrics(SM_CXMENUCHECK) + 3 * GetSystemMetrics(SM_CXEDGE));
+}
+
+}  // namespace controls

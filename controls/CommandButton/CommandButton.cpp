@@ -1,0 +1,263 @@
+// CommandButton: persistence, life, layout and drawing.
+#include "controls/CommandButton/CommandButton.h"
+
+#include "controls/AccessKey.h"
+#include "controls/CommandButton/CommandButtonPainter.h"
+#include "controls/FontRule.h"
+#include "controls/PropertyTable.h"
+#include "controls/ThemeState.h"
+#include "controls/ZedOrder.h"
+
+namespace controls {
+
+using base::String;
+using base::StringView;
+using host::PropertyBag;
+
+namespace {
+
+auto SystemRgb(int index)
+{
+    return [index](CommandButton&) { return GetSysColor(index); };
+}
+
+}  // namespace
+
+/// Several keys differ from their properties' names in the case of a letter; they stay as they are in the files.
+const PropertyTable<CommandButton>& CommandButton::Properties()
+{
+    using B = CommandButton;
+    using std::int32_t;
+    using std::uint32_t;
+    using std::uint8_t;
+    const auto face = host::SystemColor(COLOR_BTNFACE);
+    const auto whatever = WhenDefault::Stored;
+    static const PropertyTable<B> table{
+        StoredAs<B, uint8_t>(TEXT("CaptionHide"), &B::captionHide_, 0),
+        StoredAs<B, String>(TEXT("CaptionUniChars"), &B::captionUniChars_, String()),
+        StoredAs<B, String>(TEXT("Caption"), &B::caption_, String()),
+        StoredAs<B, int32_t>(TEXT("FontAutoSize"), &B::fontAutoSize_, AutoSizeOff),
+        StoredAs<B, String>(
+            TEXT("ToolTipTextW"), [](B & button) -> auto& { return button.tip_.text; }, String()),
+        StoredAs<B, uint8_t>(TEXT("ForceTrueType"), &B::forceTrueType_, 0),
+        StoredAs<B, int32_t>(TEXT("GradientDirection"), &B::gradientDirection_, GradientDiagonal),
+        StoredAs<B, int32_t>(TEXT("CaptionFx"), &B::captionFx_, CaptionFxNone),
+        StoredAs<B, int32_t>(TEXT("RoundedValue"), &B::roundedValue_, 5),
+        StoredAs<B, uint32_t>(TEXT("ContourColor"), &B::contourColor_, 0),
+        StoredAs<B, int32_t>(TEXT("ContourStyle"), &B::contourStyle_, Contour3D),
+        StoredAs<B, int32_t>(TEXT("PictureDisabledStyle"), &B::pictureDisabledStyle_, DisabledPictureUnchanged),
+        StoredAs<B, int32_t>(TEXT("Style"), &B::style_, ThemeStyle),
+        StoredAs<B, uint8_t>(TEXT("UseClassicTheme"), &B::useClassicTheme_, 0),
+        StoredAs<B, int32_t>(TEXT("CaptionAlign"), &B::captionAlign_, AlignCentre).WrittenLater(1),
+        StoredAs<B, int32_t>(TEXT("PictureAlign"), &B::pictureAlign_, AlignLeft),
+        StoredAs<B, int32_t>(TEXT("NonThemeStyle"), &B::nonThemeStyle_, ClassicStyle).WrittenEarlier(3),
+        StoredThrough<B, bool>(
+            TEXT("Enabled"), [](B& button) { return button.Enabled(); }, [](B& button, bool on) { button.GetSurface().Enabled(on); }, true),
+        StoredAs<B, uint8_t>(TEXT("ShowFocus"), &B::showFocus_, 0),
+        StoredAs<B, uint8_t>(TEXT("USeCustomColors"), &B::useCustomColors_, 0),
+        StoredAs<B, uint32_t>(TEXT("BackColor"), &B::backColor_, face),
+        StoredAs<B, uint32_t>(TEXT("BackColorDisabled"), &B::backColorDisabled_, face),
+        StoredAs<B, uint32_t>(TEXT("HighlightColor"), &B::highLightColor_, SystemRgb(COLOR_HIGHLIGHT)),
+        StoredAs<B, uint32_t>(TEXT("FontColor"), &B::fontColor_, SystemRgb(COLOR_BTNTEXT)),
+        StoredAs<B, uint32_t>(TEXT("FontHighlightColor"), &B::fontHighlightColor_, SystemRgb(COLOR_BTNTEXT)),
+        StoredAs<B, String>(
+            TEXT("Tooltiptitle"), [](B & button) -> auto& { return button.tip_.title; }, String(), whatever),
+        StoredAs<B, int32_t>(
+            TEXT("ToolTipIcon"), [](B & button) -> auto& { return button.tip_.icon; }, 0, whatever),
+        StoredAs<B, uint8_t>(
+            TEXT("TooltipBalloon"), [](B & button) -> auto& { return button.tip_.balloon; }, 0, whatever),
+        StoredAs<B, uint8_t>(
+            TEXT("ToolTipCentred"), [](B & button) -> auto& { return button.tip_.centred; }, 0),
+        StoredAs<B, int32_t>(
+            TEXT("ToolTipWidth"), [](B & button) -> auto& { return button.tip_.width; }, 0),
+        StoredAs<B, uint32_t>(
+            TEXT("ToolTipBackColor"), [](B & button) -> auto& { return button.tip_.backColor; }, 0x80000018),
+        StoredAs<B, uint32_t>(
+            TEXT("ToolTipForeColor"), [](B & button) -> auto& { return button.tip_.foreColor; }, 0x80000017),
+        StoredAs<B, int32_t>(TEXT("ButtonType"), &B::buttonType_, PushButton),
+        StoredAs<B, int32_t>(TEXT("Value"), &B::value_, 0),
+        StoredAs<B, uint8_t>(TEXT("MaskColorEnabled"), &B::maskColorEnabled_, 0).WrittenLater(1),
+        StoredAs<B, uint32_t>(TEXT("MaskColor"), &B::maskColor_, 0xC0C0C0),
+        StoredThrough<B, std::int16_t>(
+            TEXT("MousePointer"), [](B& button) { return button.MousePointer(); },
+            [](B& button, std::int16_t pointer) { button.GetSurface().MousePointer(pointer); }, 0),
+        StoredAs<B, uint8_t>(TEXT("RoundedBordersByTheme"), &B::roundedBordersByTheme_, 1),
+        StoredAs<B, bool>(TEXT("RightToLeft"), &B::rightToLeft_, false),
+        StoredAs<B, std::shared_ptr<host::Font>>(
+            TEXT("Font"), &B::font_, [](B& button) { return button.Ambient().Font(); }, whatever)
+            .WrittenEarlier(7),
+    };
+    return table;
+}
+
+CommandButton::CommandButton()
+    : ToolTip(static_cast<host::UserControl&>(*this), {.icon = TEXT("TooltipIcon"), .backColor = TEXT("ToolTipBackColor")})
+{
+    subclassControl_.WndProc.Connect([this](HWND window, UINT message, auto&&...) { SubclassControl_WndProc(window, message); });
+}
+
+void CommandButton::UserControl_InitProperties()
+{
+    RoundedValue(5);
+    font_ = Ambient().Font();
+    baseFontSize_ = font_->Size();
+    GetSurface().Font(font_);
+    backColor_ = backColorDisabled_ = TranslateOleColor(host::SystemColor(COLOR_BTNFACE));
+    fontHighlightColor_ = TranslateOleColor(host::SystemColor(COLOR_BTNTEXT));
+    if (Ambient().UserMode())
+        subclassControl_.TryEnable(hWnd());
+    Caption(Ambient().DisplayName());
+}
+
+void CommandButton::UserControl_ReadProperties(const PropertyBag& bag)
+{
+    Properties().Read(*this, bag);
+    GetSurface().Font(font_);
+    state_ = StateNormal;
+    if (forceTrueType_)
+        ApplyForceTrueType(*font_, ForceTrueTypeChoice::FirstFamily);
+    baseFontSize_ = font_->Size();
+    GetSurface().AccessKey(AccessKeyOf(caption_));
+    if (Ambient().UserMode())
+        subclassControl_.TryEnable(hWnd());
+    Relayout();
+    Caption(caption_);
+    savedStyle_ = style_;
+    UseClassicTheme(useClassicTheme_);
+    if (!captionUniChars_.empty())
+        CaptionUniChars(captionUniChars_);
+}
+
+void CommandButton::UserControl_WriteProperties(PropertyBag& bag)
+{
+    Properties().Write(*this, bag);
+}
+
+void CommandButton::UserControl_Terminate()
+{
+    DestroyToolTip();
+    subclassControl_.Disable();
+    narrowedFont_.Reset();
+}
+
+void CommandButton::UserControl_Show()
+{
+    shown_ = true;
+    if (Ambient().UserMode())
+        AdoptExtenderToolTip();
+    Relayout();
+}
+
+void CommandButton::Relayout()
+{
+    if (fontAutoSize_ != AutoSizeOff)
+        FitFont();
+    host::Surface& surface = GetSurface();
+    const int width = surface.ScaleWidth();
+    const int height = surface.ScaleHeight();
+    RECT block = CaptionStart(width, height);
+    const HDC dc = surface.Dc();
+    const HGDIOBJ former = narrowedFont_ ? SelectObject(dc, narrowedFont_.Get()) : nullptr;
+    DrawTextW(dc, caption_.c_str(), static_cast<int>(caption_.size()), &block,
+              DT_CALCRECT | DT_WORDBREAK | (rightToLeft_ ? DT_RTLREADING : 0));
+    if (former)
+        SelectObject(dc, former);
+    captionPlace_ = PlaceCaption(width, height, block, captionAlign_, contentMargin_, rightToLeft_);
+    if (const HWND window = hWnd()) {
+        const ButtonStyle* const style = FindButtonStyle(style_);
+        ApplyButtonShape(window, style ? style->shape : ButtonShape::Rectangle, width, height);
+    }
+    DrawControl();
+}
+
+/// The state as it is drawn: a designer shows buttons hot, a toggle button that is on is pressed, a disabled button is disabled.
+ButtonLook CommandButton::Look()
+{
+    host::Surface& surface = GetSurface();
+    ButtonLook look{.surface = surface};
+    look.window = hWnd();
+    look.width = surface.ScaleWidth();
+    look.height = surface.ScaleHeight();
+    look.state = state_;
+    if (!Ambient().UserMode() && style_ != SilverStyle)
+        look.state = StateHot;
+    look.pressedByToggle = buttonType_ == ToggleButton && value_ == 1;
+    if (look.pressedByToggle)
+        look.state = StatePressed;
+    if (!Enabled()) {
+        look.state = StateDisabled;
+        look.pressedByToggle = false;
+    }
+    look.isDefault = GetExtender().Default();
+    look.useCustomColors = useCustomColors_;
+    look.contourStyle = contourStyle_;
+    look.gradientDirection = gradientDirection_;
+    look.roundedValue = roundedValue_;
+    look.backColor = backColor_;
+    look.stateBackColor = look.state == StateDisabled ? backColorDisabled_ : backColor_;
+    look.highlightColor = highLightColor_;
+    look.contourColor = contourColor_;
+    return look;
+}
+
+void CommandButton::DrawControl()
+{
+    if (!shown_)
+        return;
+    ButtonLook look = Look();
+    look.surface.Clear();
+    if (look.state == StateDisabled) {
+        look.surface.BackColor(look.Custom(backColorDisabled_));
+        look.surface.Clear();
+    }
+    look.dc = look.surface.Dc();
+    const HGDIOBJ former = narrowedFont_ ? SelectObject(look.dc, narrowedFont_.Get()) : nullptr;
+
+    std::int32_t number = style_;
+    if (number == ThemeStyle) {
+        const std::int32_t themeState = hasFocus_ && look.state == StateNormal ? StateDefaulted : look.state;
+        if (IsThemeAvailable()) {
+            look.surface.BackColor(host::SystemColor(COLOR_BTNFACE));
+            look.surface.Clear();
+        }
+        if (!IsThemeAvailable() || !DrawThemeButton(look, themeState, roundedBordersByTheme_))
+            number = nonThemeStyle_;
+    }
+    contentMargin_ = 3;
+    if (const ButtonStyle* const style = FindButtonStyle(number)) {
+        contentMargin_ = style->margin;
+        if (style->painter)
+            style->painter(look);
+        if (style->focusInset >= 0 && look.state != StateDisabled && hasFocus_ && showFocus_)
+            PaintButtonFocus(look, style->focusInset);
+    }
+    if (!captionHide_)
+        PaintButtonCaption(look, {caption_, captionPlace_, captionFx_, fontColor_, fontHighlightColor_});
+    if (former)
+        SelectObject(look.dc, former);
+}
+
+void CommandButton::Refresh()
+{
+    const HWND window = hWnd();
+    if (!window)
+        return;
+    const host::Extender& extender = GetExtender();
+    if (extender.Top() != lastTop_ || extender.Left() != lastLeft_) {
+        lastTop_ = extender.Top();
+        lastLeft_ = extender.Left();
+        const RECT place = extender.PixelRect();
+        SetWindowPos(window, HWND_TOP, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                     SWP_FRAMECHANGED | SWP_NOOWNERZORDER);
+    }
+    Relayout();
+    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+}
+
+void CommandButton::ZedOrder(HWND insertAfter)
+{
+    if (MoveInZOrder(hWnd(), ContainerWindow(), insertAfter))
+        Refresh();
+}
+
+}  // namespace controls

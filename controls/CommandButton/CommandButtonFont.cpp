@@ -1,0 +1,72 @@
+// CommandButtonFont: fitting the caption's font to the button.
+#include "controls/CommandButton/CommandButton.h"
+#include "controls/FontNarrowing.h"
+
+namespace controls {
+
+namespace {
+
+/// The next smaller size in points.
+float Smaller(float points)
+{
+    return points - (points > 20 ? 2.0F : points > 12 ? 1.0F : 0.5F);
+}
+
+SIZE SizeOf(const RECT& rectangle)
+{
+    return {rectangle.right - rectangle.left, rectangle.bottom - rectangle.top};
+}
+
+}  // namespace
+
+void CommandButton::FitFont()
+{
+    const bool wasApplied = autoSizeApplied_;
+    autoSizeApplied_ = false;
+    if (caption_.empty())
+        return;
+    if (wasApplied) {
+        narrowedFont_.Reset();
+        if (font_->Size() < baseFontSize_)
+            font_->Size(baseFontSize_);
+    }
+    if (fontAutoSize_ == AutoSizeNarrow)
+        NarrowFont();
+    else
+        ShrinkFont();
+}
+
+void CommandButton::ShrinkFont()
+{
+    const SIZE room = SizeOf(GetExtender().PixelRect());
+    for (;;) {
+        SIZE text{};
+        if (!GetTextExtentPoint32W(GetSurface().Dc(), caption_.c_str(), static_cast<int>(caption_.size()), &text))
+            return;
+        if ((text.cy + 2 < room.cy && text.cx + 2 < room.cx) || font_->Size() < 1)
+            return;
+        font_->Size(Smaller(font_->Size()));
+    }
+}
+
+/// Starts from the width that the font has by itself. The narrowed font is selected for each drawing, and the window is told of it for
+/// those who ask.
+void CommandButton::NarrowFont()
+{
+    const HDC dc = GetSurface().Dc();
+    TEXTMETRICW metrics{};
+    if (!GetTextMetricsW(dc, &metrics))
+        return;
+    LOGFONTW start = font_->LogicalFont();
+    start.lfWidth = metrics.tmAveCharWidth;
+    const HGDIOBJ own = GetCurrentObject(dc, OBJ_FONT);
+    narrowedFont_ = NarrowToFit(dc, start, caption_, SizeOf(GetExtender().PixelRect()).cx);
+    SelectObject(dc, own);
+    if (!narrowedFont_)
+        return;
+    autoSizeApplied_ = true;
+    SendMessageUnsubclassed(subclassControl_, hWnd(), WM_SETFONT, reinterpret_cast<WPARAM>(narrowedFont_.Get()), TRUE);
+    RedrawWindow(hWnd(), nullptr, nullptr, RDW_INVALIDATE);
+}
+
+}  // namespace controls

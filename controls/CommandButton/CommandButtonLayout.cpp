@@ -1,0 +1,58 @@
+// CommandButtonLayout: the five places of a caption.
+#include "controls/CommandButton/CommandButtonLayout.h"
+
+#include "controls/CommandButton/CommandButtonValues.h"
+
+#include <cmath>
+
+namespace controls {
+
+namespace {
+
+/// Half of a number of pixels, rounded to nearest.
+LONG Half(LONG pixels)
+{
+    return static_cast<LONG>(std::lrint(pixels / 2.0));
+}
+
+}  // namespace
+
+RECT CaptionStart(int width, int height)
+{
+    return {0, 3, width, height - 3};
+}
+
+CaptionPlace PlaceCaption(int width, int height, const RECT& block, std::int32_t align, int margin, bool rightToLeft)
+{
+    const auto [l, t, r, b] = block;
+    const LONG textHeight = b - t;
+    const LONG centredLeft = Half(width - l - r);
+    const LONG centredRight = Half(width - l + r);
+    const LONG middleTop = Half(height - t - b) + 3;
+    const LONG middleBottom = Half(height - t + b);
+
+    CaptionPlace place{};
+    switch (align) {
+        case AlignLeft:
+            place = {{margin, middleTop, margin + r, middleBottom}, DT_LEFT | DT_VCENTER | DT_WORDBREAK};
+            break;
+        case AlignRight:
+            place = {{width - margin - l - r, middleTop, width - margin - l, middleBottom}, DT_RIGHT | DT_VCENTER | DT_WORDBREAK};
+            break;
+        case AlignTop:
+            place = {{centredLeft, margin, centredRight, margin + textHeight}, DT_CENTER | DT_TOP | DT_WORDBREAK};
+            break;
+        case AlignBottom:
+            place = {{centredLeft, height - margin - textHeight, centredRight, height - margin}, DT_CENTER | DT_BOTTOM | DT_WORDBREAK};
+            break;
+        case AlignCentre:
+        default:
+            place = {{centredLeft, middleTop, centredRight, middleBottom}, DT_CENTER | DT_VCENTER | DT_WORDBREAK};
+            break;
+    }
+    if (rightToLeft)
+        place.format |= DT_RTLREADING;
+    return place;
+}
+
+}  // namespace controls

@@ -1,0 +1,27 @@
+// CommandButtonValues: the numbers that a button's properties take.
+#pragma once
+
+#include <cstdint>
+
+namespace controls {
+
+enum ButtonTypeValue : std::int32_t { PushButton, ToggleButton };
+
+enum FontAutoSizeValue : std::int32_t { AutoSizeOff, AutoSizeNarrow, AutoSizeShrink };
+
+enum ContentAlignValue : std::int32_t { AlignCentre, AlignLeft, AlignRight, AlignTop, AlignBottom };
+
+enum PictureDisabledStyleValue : std::int32_t { DisabledPictureUnchanged, DisabledPictureFaded, DisabledPictureGrey };
+
+enum ContourStyleValue : std::int32_t { ContourNone, ContourFlat, Contour3D };
+
+enum CaptionFxValue : std::int32_t { CaptionFxNone, CaptionFxRaised, CaptionFxSunken, CaptionFxShadow };
+
+enum GradientDirectionValue : std::int32_t { GradientDiagonal = 1, GradientHorizontal = 2, GradientMirrored = 3, GradientVertical = 4 };
+
+enum ButtonStyleValue : std::int32_t { ClassicStyle = 0, ThemeStyle = 7, SoftRoundStyle = 10, SilverStyle = 15 };
+
+/// The visual states, numbered as the visual style's push-button states.
+enum ButtonState : std::int32_t { StateNormal = 1, StateHot, StatePressed, StateDisabled, StateDefaulted };
+
+}  // namespace controls

@@ -1,0 +1,218 @@
+// DSubclass: routing, pausing and releasing.
+#include "controls/DSubclass.h"
+
+#include "controls/OutOfMemory.h"
+#include "controls/SubclassHeap.h"
+
+#include <commctrl.h>
+
+#include <new>
+#include <unordered_map>
+
+namespace controls {
+
+/// What stands behind a DSubclass. It outlives its owner while a delivery is in progress.
+class DSubclass::Link : public std::enable_shared_from_this<Link> {
+public:
+    explicit Link(DSubclass& owner) : owner_(&owner) {}
+    ~Link();
+
+    bool Enable(HWND window);
+    bool Disable();
+    /// The owner goes. Its events end here; deliveries in progress hold the link until the outermost one has its result.
+    void Release();
+
+    HWND window_ = nullptr;
+    bool isPaused_ = false;
+
+private:
+    /// The routing entry that lies in the block of the window's heap.
+    struct Route {
+        UINT_PTR identifier;
+        Link* link;
+    };
+
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR identifier, DWORD_PTR) noexcept;
+    static std::unordered_map<UINT_PTR, Route*>& Routes();
+
+    void WriteRoute(HWND window);
+    LRESULT Deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    bool Raise(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) noexcept;
+    Route* RouteOf() const { return static_cast<Route*>(block_.Get()); }
+
+    DSubclass* owner_;
+    SubclassBlock block_;
+};
+
+/// All links that may hear messages, by subclass identifier. Identifiers are never used twice: a window that kept an identifier
+/// beyond its link (RemoveWindowSubclass can fail) finds nothing here, where an object's address might have been taken by another.
+std::unordered_map<UINT_PTR, DSubclass::Link::Route*>& DSubclass::Link::Routes()
+{
+    static std::unordered_map<UINT_PTR, Route*> routes;
+    return routes;
+}
+
+void DSubclass::Link::WriteRoute(HWND window)
+{
+    static UINT_PTR lastIdentifier = 0;
+    if (block_)
+        return;
+    block_.Allocate(window, sizeof(Route));
+    Route* const route = new (block_.Get()) Route{++lastIdentifier, this};
+    try {
+        Routes()[route->identifier] = route;
+    } catch (const std::bad_alloc&) {
+        block_.Free();
+        throw OutOfMemory();
+    }
+}
+
+DSubclass::Link::~Link()
+{
+    if (!block_)
+        return;
+    Routes().erase(RouteOf()->identifier);
+}
+
+bool DSubclass::Link::Enable(HWND window)
+{
+    if (window_ && !Disable())
+        return false;
+    if (!window || !IsWindow(window))
+        return false;
+    WriteRoute(window);
+    if (!SetWindowSubclass(window, &Link::Procedure, RouteOf()->identifier, 0))
+        return false;
+    window_ = window;
+    return true;
+}
+
+bool DSubclass::Link::Disable()
+{
+    if (!window_)
+        return false;
+    const bool removed = RemoveWindowSubclass(window_, &Link::Procedure, RouteOf()->identifier) != FALSE;
+    if (!removed && IsWindow(window_))
+        return false;
+    window_ = nullptr;
+    isPaused_ = false;
+    return removed;
+}
+
+void DSubclass::Link::Release()
+{
+    owner_ = nullptr;
+    Disable();
+}
+
+LRESULT CALLBACK DSubclass::Link::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR identifier,
+                                            DWORD_PTR) noexcept
+{
+    const auto found = Routes().find(identifier);
+    if (found == Routes().end())
+        return DefSubclassProc(window, message, wParam, lParam);
+    // Holds the link until its result is out, also when the owner lets go of it meanwhile. The last of nested deliveries to end frees it.
+    const std::shared_ptr<Link> self = found->second->link->shared_from_this();
+    return self->Deliver(window, message, wParam, lParam);
+}
+
+LRESULT DSubclass::Link::Deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    LRESULT result = 0;
+    // The handler may take the object off this window, or even put it on another one.
+    const bool handled = !isPaused_ && Raise(window, message, wParam, lParam, result);
+    if (!handled && window_ == window)
+        result = DefSubclassProc(window, message, wParam, lParam);
+    if (!handled && message == WM_DESTROY && window_ == window)
+        Disable();
+    return result;
+}
+
+/// Asks the owner; true when it handled the message. No exception of a handler gets into Windows: the message then counts as not handled.
+bool DSubclass::Link::Raise(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) noexcept
+{
+    bool handled = false;
+    if (!owner_)
+        return false;
+    try {
+        owner_->WndProc.Raise(window, message, wParam, lParam, result, handled);
+    } catch (...) {
+        handled = false;
+    }
+    return handled;
+}
+
+DSubclass::DSubclass() : link_(std::make_shared<Link>(*this)) {}
+
+DSubclass::~DSubclass()
+{
+    link_->Release();
+}
+
+bool DSubclass::Enable(HWND window)
+{
+    return link_->Enable(window);
+}
+
+bool DSubclass::TryEnable(HWND window) noexcept
+{
+    try {
+        return Enable(window);
+    } catch (const OutOfMemory&) {
+        return false;
+    }
+}
+
+bool DSubclass::Disable()
+{
+    return link_->Disable();
+}
+
+bool DSubclass::PauseSubclass()
+{
+    if (!link_->window_ || link_->isPaused_)
+        return false;
+    link_->isPaused_ = true;
+    return true;
+}
+
+bool DSubclass::ResumeSubclass()
+{
+    if (!link_->window_ || !link_->isPaused_)
+        return false;
+    link_->isPaused_ = false;
+    return true;
+}
+
+bool DSubclass::IsSubclassed() const
+{
+    return link_->window_ != nullptr;
+}
+
+bool DSubclass::IsPaused() const
+{
+    return link_->isPaused_;
+}
+
+HWND DSubclass::hWnd() const
+{
+    return link_->window_;
+}
+
+LRESULT DSubclass::CallOriginalProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, bool& handled)
+{
+    if (!IsSubclassed())
+        return 0;
+    handled = true;
+    return DefSubclassProc(window, message, wParam, lParam);
+}
+
+LRESULT SendMessageUnsubclassed(DSubclass& subclass, HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (!window)
+        return 0;
+    const SubclassPause pause(subclass);
+    return SendMessageW(window, message, wParam, lParam);
+}
+
+}  // namespace controls

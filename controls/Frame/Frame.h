@@ -1,0 +1,154 @@
+// Frame: a group box that holds other controls.
+#pragma once
+
+#include "controls/DSubclass.h"
+#include "controls/GoldenSection.h"
+#include "controls/ToolTip.h"
+#include "controls/WindowDc.h"
+#include "host/Event.h"
+#include "host/UserControl.h"
+
+#include <cstdint>
+#include <vector>
+
+struct IDataObject;
+
+namespace controls {
+
+template <class Control>
+class PropertyTable;
+
+/// A border round its area with a caption set into the top edge. Never takes the keyboard focus.
+class Frame final : public host::UserControl, public ToolTip {
+public:
+    Frame();
+
+    [[nodiscard]] base::StringView Kind() const override { return TEXT("Frame"); }
+    [[nodiscard]] bool CanGetFocus() const override { return false; }
+    [[nodiscard]] bool TabStop() const { return false; }
+
+    /// One "&" marks the access key, "&&" is a literal ampersand. Reading makes the window's text equal to it again.
+    [[nodiscard]] base::String Caption();
+    void Caption(const base::String& caption);
+    [[nodiscard]] base::String Default() { return Caption(); }
+    void Default(const base::String& caption) { Caption(caption); }
+
+    [[nodiscard]] OleColor BackColor() const { return GetSurface().BackColor(); }
+    void BackColor(OleColor color);
+    [[nodiscard]] OleColor ForeColor() const { return GetSurface().ForeColor(); }
+    void ForeColor(OleColor color);
+    /// 0 own colours; 1 takes both from the container at each drawing.
+    [[nodiscard]] std::int32_t BackStyle() const { return backStyle_; }
+    void BackStyle(std::int32_t style);
+    /// 0 none, 1 border.
+    [[nodiscard]] std::int32_t BorderStyle() const { return borderStyle_; }
+    void BorderStyle(std::int32_t style);
+    /// Classic look: 0 flat, 1 etched, 2 etched the other way round.
+    [[nodiscard]] std::uint8_t Appearance() const { return appearance_; }
+    void Appearance(std::uint8_t appearance);
+    /// Corner diameter of the classic border in pixels, 0 to 20; other values become the nearest of these.
+    [[nodiscard]] std::int32_t BorderRound() const { return borderRound_; }
+    void BorderRound(std::int32_t round);
+    [[nodiscard]] OleColor BorderColorDark() const { return borderColorDark_; }
+    void BorderColorDark(OleColor color);
+    [[nodiscard]] OleColor BorderColorLight() const { return borderColorLight_; }
+    void BorderColorLight(OleColor color);
+    /// Only the background is drawn.
+    [[nodiscard]] bool Invisible() const { return invisible_; }
+    void Invisible(bool invisible);
+    [[nodiscard]] bool Enabled() const override { return enabled_; }
+    void Enabled(bool enabled) override;
+    /// Setting `Enabled` also enables or disables the controls in the frame; those that were disabled before stay so.
+    [[nodiscard]] bool EnableDisableChilds() const { return enableDisableChilds_; }
+    void EnableDisableChilds(bool enable);
+    [[nodiscard]] const std::shared_ptr<host::Font>& Font() const { return GetSurface().Font(); }
+    void Font(const std::shared_ptr<host::Font>& font);
+    /// The window accepts files from the shell.
+    [[nodiscard]] bool DragDropEnabled() const { return dragDropEnabled_; }
+    void DragDropEnabled(bool enable);
+    [[nodiscard]] std::int16_t OLEDropMode() const { return GetSurface().OleDropMode(); }
+    void OLEDropMode(std::int16_t mode);
+    [[nodiscard]] bool UseClassicTheme() const { return useClassicTheme_; }
+    void UseClassicTheme(bool classic);
+    [[nodiscard]] bool ForceTrueType() const { return forceTrueType_; }
+    void ForceTrueType(bool force);
+    /// True makes width to height the golden ratio. Reads false.
+    [[nodiscard]] bool GoldenSection() const { return false; }
+    void GoldenSection(bool apply);
+
+    void Refresh() override { DrawFrame(); }
+    void DrawFrame();
+    /// Paints the top row of the window in the background colour, over a dark line that Windows otherwise leaves there.
+    void FixBlackLine();
+    /// Does the same once more 10 ms later, when the paint is over.
+    void FixBlackLineRetard();
+
+    host::Event<1> Click;
+    host::Event<2> DblClick;
+    host::Event<3> ContextMenu;
+    host::Event<4, std::int16_t&, std::int16_t&, float&, float&> MouseDown;
+    host::Event<5, std::int16_t&, std::int16_t&, float&, float&> MouseMove;
+    host::Event<6, std::int16_t&, std::int16_t&, float&, float&> MouseUp;
+    host::Event<7, std::vector<base::String>&, std::int16_t&> DragDropFile;
+    // OLE drag and drop is the host's to begin; a host without it never raises these.
+    host::Event<8, std::int32_t&> OLECompleteDrag;
+    host::Event<9, IDataObject*, std::int32_t&, std::int16_t&, std::int16_t&, float&, float&> OLEDragDrop;
+    host::Event<10, IDataObject*, std::int32_t&, std::int16_t&, std::int16_t&, float&, float&, std::int16_t&> OLEDragOver;
+    host::Event<11, std::int32_t&, bool&> OLEGiveFeedback;
+    host::Event<12, IDataObject*, std::int16_t&> OLESetData;
+    host::Event<13, IDataObject*, std::int32_t&> OLEStartDrag;
+
+private:
+    static const PropertyTable<Frame>& Properties();
+
+    void UserControl_InitProperties() override;
+    void UserControl_ReadProperties(const host::PropertyBag& bag) override;
+    void UserControl_WriteProperties(host::PropertyBag& bag) override;
+    void UserControl_Terminate() override;
+    void UserControl_Show() override;
+    void UserControl_Paint() override;
+    void UserControl_Resize() override;
+    void UserControl_AmbientChanged(base::StringView name) override;
+    void UserControl_Click() override { Click.Raise(); }
+    void UserControl_DblClick() override { DblClick.Raise(); }
+    void UserControl_MouseDown(std::int16_t& button, std::int16_t& shift, float& x, float& y) override
+    {
+        MouseDown.Raise(button, shift, x, y);
+    }
+    void UserControl_MouseMove(std::int16_t& button, std::int16_t& shift, float& x, float& y) override
+    {
+        MouseMove.Raise(button, shift, x, y);
+    }
+    void UserControl_MouseUp(std::int16_t& button, std::int16_t& shift, float& x, float& y) override { MouseUp.Raise(button, shift, x, y); }
+
+    void Start();
+    /// Reports a change and draws.
+    void Changed(const WCHAR* name);
+    void RepaintWindow();
+    void EnableChildren(bool enabled);
+    void AcceptFiles(bool accept);
+    void SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled);
+    void OnDropFiles(WPARAM drop);
+
+    base::String caption_;
+    std::int32_t backStyle_ = 0;
+    std::int32_t borderStyle_ = 1;
+    std::uint8_t appearance_ = 1;
+    std::int32_t borderRound_ = 0;
+    OleColor borderColorDark_ = host::SystemColor(COLOR_BTNSHADOW);
+    OleColor borderColorLight_ = host::SystemColor(COLOR_BTNHIGHLIGHT);
+    bool invisible_ = false;
+    bool enabled_ = true;
+    bool enableDisableChilds_ = false;
+    bool dragDropEnabled_ = false;
+    bool useClassicTheme_ = false;
+    bool forceTrueType_ = false;
+
+    bool drawnOnce_ = false;
+    bool fixPending_ = false;
+    std::vector<base::String> disabledBefore_;
+    WindowDc windowDc_;
+    DSubclass subclassControl_;
+};
+
+}  // namespace controls

@@ -1,0 +1,34 @@
+// FrameLayout: the caption stands 9 pixels from the left, its background begins 2 pixels before.
+#include "controls/Frame/FrameLayout.h"
+
+#include "controls/AccessKey.h"
+
+namespace controls {
+
+using base::String;
+using base::StringView;
+
+FrameCaption AnalyseFrameCaption(StringView caption)
+{
+    FrameCaption result;
+    result.accessKey = AccessKeyOf(caption);
+    for (std::size_t place = 0; place < caption.size(); ++place) {
+        if (caption[place] != TEXT('&')) {
+            result.measured += caption[place];
+        } else if (caption.substr(place, 2) == TEXT("&&")) {
+            // A literal ampersand is measured as wide as an A.
+            result.measured += TEXT('A');
+            ++place;
+        }
+    }
+    if (caption.empty())
+        result.measured = TEXT(" ");
+    return result;
+}
+
+FrameGeometry LayOutFrame(int width, int height, SIZE text)
+{
+    return {{0, text.cy / 2, width, height - 1}, {9, 0, 9 + text.cx, text.cy}, {7, 0, text.cx + 9, text.cy}};
+}
+
+}  // namespace controls

@@ -1,0 +1,161 @@
+// HostedWindow: making, placing and showing the window. The focus is in HostedWindowFocus.cpp.
+#include "controls/HostedWindow.h"
+
+#include "controls/ZedOrder.h"
+#include "host/Form.h"
+
+namespace controls {
+
+using base::String;
+
+HostedWindow::HostedWindow(host::UserControl& control) : control_(control) {}
+
+void HostedWindow::Attach()
+{
+    container_ = control_.ContainerWindow();
+    form_ = control_.ParentForm().hWnd();
+}
+
+/// The focus waits on the control's own window while there is no hosted one. Windows would give it to the container otherwise, and the
+/// form would take that for a change of its active control.
+HostedWindow::Creation::Creation(HostedWindow& hosted) : hosted_(hosted), hadFocus_(hosted.window_ && GetFocus() == hosted.window_)
+{
+    ++hosted_.creating_;
+    if (hadFocus_)
+        SetFocus(hosted_.control_.OwnHandle());
+}
+
+HostedWindow::Creation::~Creation()
+{
+    if (hadFocus_ && hosted_.window_)
+        hosted_.TakeFocus();
+    --hosted_.creating_;
+}
+
+bool HostedWindow::Create(const Shape& shape)
+{
+    const host::Extender& extender = control_.GetExtender();
+    const RECT place = extender.PixelRect();
+    DWORD style = WS_CHILD | WS_CLIPSIBLINGS | shape.style;
+    if (extender.Visible())
+        style |= WS_VISIBLE;
+    if (!shape.enabled)
+        style |= WS_DISABLED;
+    if (extender.TabStop())
+        style |= WS_TABSTOP;
+    window_ = CreateWindowExW(shape.extendedStyle, shape.className, shape.text.c_str(), style, place.left, place.top,
+                              place.right - place.left, place.bottom - place.top, container_, nullptr, GetModuleHandleW(nullptr), nullptr);
+    shown_ = window_ && extender.Visible();
+    // A new child stands below its older siblings, among them the control's own window.
+    Cover();
+    return window_ != nullptr;
+}
+
+void HostedWindow::Subclass()
+{
+    if (!window_ || !control_.Ambient().UserMode())
+        return;
+    SubclassControl.TryEnable(window_);
+    SubclassParent.TryEnable(container_);
+    if (!ContainerIsForm())
+        SubclassOwner.TryEnable(form_);
+}
+
+void HostedWindow::Destroy()
+{
+    SubclassControl.Disable();
+    SubclassParent.Disable();
+    SubclassOwner.Disable();
+    // Its container may have gone before it.
+    if (window_ && IsWindow(window_))
+        DestroyWindow(window_);
+    window_ = nullptr;
+    shown_ = false;
+    windowFocused_ = false;
+}
+
+LRESULT HostedWindow::Send(UINT message, WPARAM wParam, LPARAM lParam) const
+{
+    return SendMessageUnsubclassed(const_cast<DSubclass&>(SubclassControl), window_, message, wParam, lParam);
+}
+
+String HostedWindow::Text() const
+{
+    String text(static_cast<std::size_t>(Send(WM_GETTEXTLENGTH)) + 1, TEXT('\0'));
+    text.resize(static_cast<std::size_t>(Send(WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
+    return text;
+}
+
+void HostedWindow::Cover()
+{
+    if (!window_)
+        return;
+    const host::Extender& extender = control_.GetExtender();
+    const RECT place = extender.PixelRect();
+    lastLeft_ = extender.Left();
+    lastTop_ = extender.Top();
+    SetWindowPos(window_, HWND_TOP, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                 SWP_FRAMECHANGED | SWP_NOOWNERZORDER);
+}
+
+void HostedWindow::FollowControl()
+{
+    const host::Extender& extender = control_.GetExtender();
+    if (extender.Left() != lastLeft_ || extender.Top() != lastTop_)
+        Cover();
+}
+
+void HostedWindow::Redraw()
+{
+    FollowControl();
+    if (window_)
+        RedrawAll(window_);
+}
+
+void HostedWindow::ControlPainted()
+{
+    FollowControl();
+    ControlShown();
+}
+
+void HostedWindow::ControlShown()
+{
+    if (!window_ || shown_ || !control_.GetExtender().Visible())
+        return;
+    ShowWindow(window_, SW_SHOW);
+    shown_ = true;
+}
+
+void HostedWindow::ControlHidden()
+{
+    if (!window_ || control_.GetExtender().Visible())
+        return;
+    ShowWindow(window_, SW_HIDE);
+    shown_ = false;
+}
+
+void HostedWindow::Painted()
+{
+    if (firstPaintDone_)
+        return;
+    firstPaintDone_ = true;
+    ControlHidden();
+}
+
+BorderBits BorderBitsOf(std::uint8_t borderStyle)
+{
+    switch (borderStyle) {
+        case 1:
+            return {WS_BORDER, 0};
+        case 2:
+            return {0, WS_EX_STATICEDGE};
+        case 3:
+            return {0, WS_EX_CLIENTEDGE};
+        case 4:
+            return {WS_DLGFRAME, WS_EX_WINDOWEDGE};
+        default:
+            return {0, 0};
+    }
+}
+
+}  // namespace controls

@@ -1,0 +1,82 @@
+// HostedWindow: where the keyboard focus goes.
+#include "controls/HostedWindow.h"
+#include "host/Form.h"
+
+namespace controls {
+
+namespace {
+
+bool IsDownNow(int key)
+{
+    return GetAsyncKeyState(key) < 0;
+}
+
+bool IsOfThisProcess(HWND window)
+{
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    return process == GetCurrentProcessId();
+}
+
+}  // namespace
+
+void HostedWindow::TakeFocus()
+{
+    const SubclassPause pause(SubclassControl);
+    if (GetFocus() != window_)
+        SetFocus(window_);
+    windowFocused_ = true;
+}
+
+void HostedWindow::ControlGotFocus(bool enabled, FocusScope backward)
+{
+    controlFocused_ = true;
+    if (creating_ > 0)
+        return;
+    if (enabled) {
+        if (window_ && !windowFocused_)
+            TakeFocus();
+    } else if (IsDownNow(VK_TAB)) {
+        MoveFocus(IsDownNow(VK_SHIFT) ? FocusDirection::Backward : FocusDirection::Forward, FocusScope::AllContainers);
+    } else if (IsDownNow(VK_RIGHT) || IsDownNow(VK_DOWN)) {
+        MoveFocus(FocusDirection::Forward, FocusScope::OwnContainer);
+    } else if (IsDownNow(VK_LEFT) || IsDownNow(VK_UP)) {
+        MoveFocus(FocusDirection::Backward, backward);
+    }
+}
+
+void HostedWindow::MoveFocus(FocusDirection direction, FocusScope scope)
+{
+    if (!window_)
+        return;
+    const TabOrderSearch search{.tabIndex = control_.GetExtender().TabIndex(),
+                                .ownWindow = window_,
+                                .containerWindow = container_,
+                                .skipContainer = true,
+                                .direction = direction,
+                                .scope = scope};
+    if (host::Control* const next = FindTabStop(control_.ParentForm(), search))
+        next->SetFocus();
+}
+
+/// Windows gives an activated form's focus to the form itself; the window that had it before takes it back here.
+void HostedWindow::FormMessage(UINT message, WPARAM wParam, bool enabled, bool& handled)
+{
+    if (message != WM_ACTIVATE && message != WM_ACTIVATEAPP)
+        return;
+    if (!controlFocused_ || !enabled || !shown_)
+        return;
+    const HWND foreground = GetForegroundWindow();
+    if (message == WM_ACTIVATE && !IsOfThisProcess(foreground))
+        return;
+    if (wParam == 0) {
+        Send(WM_KILLFOCUS);
+        windowFocused_ = false;
+    } else if (foreground == form_) {
+        control_.SetFocus();
+        TakeFocus();
+        handled = true;
+    }
+}
+
+}  // namespace controls

@@ -1,0 +1,257 @@
+// TextBoxInput: the messages that a text box watches on its edit, its container and its form.
+#include "controls/DroppedFiles.h"
+#include "controls/TextBox/TextBox.h"
+#include "host/Form.h"
+#include "host/KeyRouting.h"
+
+#include <algorithm>
+
+namespace controls {
+
+void TextBox::SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled)
+{
+    switch (message) {
+        case WM_MOUSEMOVE:
+        case WM_MOUSELEAVE:
+        case WM_LBUTTONUP:
+        case WM_LBUTTONDBLCLK:
+        case WM_MOUSEWHEEL:
+            OnMouse(window, message, wParam);
+            break;
+        case WM_SETFOCUS:
+            if (!hosted_.WindowFocused()) {
+                hosted_.WindowFocused(true);
+                SetFocus();
+            }
+            break;
+        case WM_KILLFOCUS:
+            OnKillFocus(handled);
+            break;
+        case WM_KEYDOWN:
+            OnKeyDown(wParam, lParam, handled);
+            break;
+        case WM_SYSKEYDOWN:
+        case WM_KEYUP:
+        case WM_SYSKEYUP:
+            OnOtherKey(message, wParam, lParam, handled);
+            break;
+        case WM_CHAR:
+            OnChar(window, wParam, lParam, result, handled);
+            break;
+        case WM_CONTEXTMENU:
+            ContextMenu.Raise(handled);
+            break;
+        case WM_DROPFILES: {
+            handled = true;
+            std::vector<base::String> paths = TakeDroppedFiles(reinterpret_cast<HDROP>(wParam));
+            auto count = static_cast<std::int16_t>(paths.size());
+            DragDropFile.Raise(paths, count);
+            break;
+        }
+        case WM_PAINT:
+            hosted_.Painted();
+            break;
+        case WM_THEMECHANGED:
+        case WM_SYSCOLORCHANGE:
+            CreateEdit();
+            break;
+        default:
+            break;
+    }
+}
+
+void TextBox::OnMouse(HWND window, UINT message, WPARAM wParam)
+{
+    switch (message) {
+        case WM_MOUSEMOVE:
+            if (MouseMovedOver(window))
+                MouseEnter.Raise();
+            break;
+        case WM_MOUSELEAVE:
+            MouseLeft();
+            MouseLeave.Raise();
+            break;
+        case WM_LBUTTONUP:
+            Click.Raise();
+            FixFocus();
+            break;
+        case WM_LBUTTONDBLCLK:
+            DblClick.Raise();
+            FixFocus();
+            break;
+        default:
+            MouseWheel.Raise(static_cast<std::int32_t>(wParam) > 0 ? 1 : 0);
+            break;
+    }
+}
+
+/// The control is the form's active one, but its edit has not got the keyboard focus.
+void TextBox::FixFocus()
+{
+    if (hosted_.ControlFocused() && !hosted_.WindowFocused() && hosted_.Window() && ParentForm().ActiveControl() == this)
+        hosted_.TakeFocus();
+}
+
+void TextBox::OnKillFocus(bool& handled)
+{
+    hosted_.WindowFocused(false);
+    if (!tabKeyTextual_) {
+        if (enabled_ && backColor_ != backColorSelected_)
+            MakeBackgroundBrush();
+    } else if (GetKeyState(VK_TAB) < 0) {
+        // Tab is text here: whoever moved the focus because of it has moved it in vain.
+        hosted_.TakeFocus();
+        ReplaceSelection(TEXT("    "));
+        handled = true;
+    }
+}
+
+void TextBox::OnKeyDown(WPARAM wParam, LPARAM lParam, bool& handled)
+{
+    auto keyCode = static_cast<std::int16_t>(wParam);
+    std::int16_t shift = host::ShiftState();
+    if (shift == 0 && ForwardFocus(keyCode)) {
+        handled = true;
+        return;
+    }
+    if (keyCode == VK_TAB) {
+        if (!tabKeyTextual_)
+            hosted_.MoveFocus((shift & 1) != 0 ? FocusDirection::Backward : FocusDirection::Forward, FocusScope::AllContainers);
+        return;
+    }
+    hosted_.Keys.Forward(ParentForm(), WM_KEYDOWN, lParam, keyCode, shift);
+    // The form may have gone by now, and the edit with it.
+    if (hosted_.Window() && !hosted_.ContainerIsForm())
+        PostToFormButtons(ParentForm(), keyCode);
+    KeyDown.Raise(keyCode, shift);
+    handled = keyCode == 0;
+}
+
+void TextBox::OnOtherKey(UINT message, WPARAM wParam, LPARAM lParam, bool& handled)
+{
+    auto keyCode = static_cast<std::int16_t>(wParam);
+    std::int16_t shift = host::ShiftState();
+    hosted_.Keys.Forward(ParentForm(), message, lParam, keyCode, shift);
+    if (message == WM_SYSKEYDOWN)
+        KeyDown.Raise(keyCode, shift);
+    else
+        KeyUp.Raise(keyCode, shift);
+    handled = keyCode == 0;
+}
+
+void TextBox::OnChar(HWND window, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled)
+{
+    handled = true;
+    const auto typed = static_cast<WCHAR>(wParam);
+    std::int16_t keyAscii = PassesFilter(typed, rules_) ? static_cast<std::int16_t>(typed) : std::int16_t{0};
+    if (keyAscii == VK_TAB && (!tabKeyTextual_ || GetFocus() != window))
+        return;
+    std::int16_t shift = host::ShiftState();
+    hosted_.Keys.Forward(ParentForm(), WM_CHAR, lParam, keyAscii, shift);
+    KeyPress.Raise(keyAscii);
+    if (keyAscii != 0)
+        result = hosted_.SubclassControl.CallOriginalProc(window, WM_CHAR, static_cast<WORD>(keyAscii), lParam, handled);
+}
+
+/// Up and down always move on; left and right only from the end of the text that they point to. In another text box the caret keeps its
+/// place as far as it goes, or stands at the end that it came in by.
+bool TextBox::ForwardFocus(std::int16_t keyCode)
+{
+    host::Control* target = nullptr;
+    switch (keyCode) {
+        case VK_UP:
+            target = forwardFocusUp_;
+            break;
+        case VK_DOWN:
+            target = forwardFocusDown_;
+            break;
+        case VK_RIGHT:
+            target = SelStart() == Length() ? forwardFocusRight_ : nullptr;
+            break;
+        case VK_LEFT:
+            target = SelStart() == 0 ? forwardFocusLeft_ : nullptr;
+            break;
+        default:
+            break;
+    }
+    if (!target)
+        return false;
+    target->SetFocus();
+    if (auto* const box = dynamic_cast<TextBox*>(target)) {
+        const std::int32_t start = keyCode == VK_RIGHT ? 0 : keyCode == VK_LEFT ? box->Length() : SelStart();
+        box->SelStart(std::min(start, box->Length()));
+    }
+    return true;
+}
+
+void TextBox::UserControl_GotFocus()
+{
+    hosted_.ControlGotFocus(enabled_, FocusScope::AllContainers);
+    if (enabled_ && backColor_ != backColorSelected_)
+        MakeBackgroundBrush();
+}
+
+void TextBox::SetFocusEx()
+{
+    if (!hosted_.ControlFocused() && !hosted_.WindowFocused())
+        SetFocus();
+}
+
+// Keys that reach the control's own window belong to the edit.
+
+void TextBox::UserControl_KeyDown(std::int16_t& keyCode, std::int16_t&)
+{
+    if (hosted_.Window())
+        SendMessageW(hosted_.Window(), WM_KEYDOWN, static_cast<WORD>(keyCode), 0);
+}
+
+void TextBox::UserControl_KeyUp(std::int16_t& keyCode, std::int16_t&)
+{
+    if (hosted_.Window())
+        SendMessageW(hosted_.Window(), WM_KEYUP, static_cast<WORD>(keyCode), 0);
+}
+
+void TextBox::UserControl_KeyPress(std::int16_t& keyAscii)
+{
+    if (hosted_.Window())
+        SendMessageW(hosted_.Window(), WM_CHAR, static_cast<WORD>(keyAscii), 0);
+}
+
+void TextBox::SubclassParent_WndProc(HWND, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled)
+{
+    if (hosted_.Window() && reinterpret_cast<HWND>(lParam) == hosted_.Window()) {
+        if (message == WM_COMMAND) {
+            OnNotification(HIWORD(wParam));
+        } else if (message == WM_CTLCOLOREDIT || message == WM_CTLCOLORSTATIC) {
+            const auto dc = reinterpret_cast<HDC>(wParam);
+            SetBkColor(dc, TranslateOleColor(CurrentBackColor()));
+            SetTextColor(dc, TranslateOleColor(foreColor_));
+            result = reinterpret_cast<LRESULT>(backgroundBrush_.Get());
+            handled = true;
+        }
+    }
+    if (hosted_.ContainerIsForm())
+        hosted_.FormMessage(message, wParam, enabled_, handled);
+}
+
+void TextBox::OnNotification(WORD code)
+{
+    switch (code) {
+        case EN_CHANGE:
+            lineWindowStale_ = true;
+            PropertyChanged(TEXT("Text"));
+            Change.Raise();
+            break;
+        case EN_HSCROLL:
+        case EN_VSCROLL:
+            Scroll.Raise();
+            break;
+        case EN_MAXTEXT:
+            BufferOverflow.Raise();
+            break;
+        default:
+            break;
+    }
+}
+
+}  // namespace controls

@@ -1,0 +1,26 @@
+// ZedOrder: SetWindowPos and what must be repainted after it.
+#include "controls/ZedOrder.h"
+
+namespace controls {
+
+bool MoveInZOrder(HWND window, HWND container, HWND insertAfter)
+{
+    const bool toEnd = insertAfter == HWND_TOP || insertAfter == HWND_BOTTOM;
+    if (!toEnd && !IsWindow(insertAfter))
+        return false;
+    SetWindowPos(window, insertAfter, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_FRAMECHANGED | SWP_NOOWNERZORDER);
+    if (insertAfter == HWND_BOTTOM) {
+        RedrawAll(container);
+    } else if (!toEnd) {
+        RedrawAll(window);
+        RedrawAll(insertAfter);
+    }
+    return insertAfter == HWND_TOP;
+}
+
+void RedrawAll(HWND window)
+{
+    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+}
+
+}  // namespace controls
