@@ -1,0 +1,56 @@
+// The agent as an ordinary process: it is known by a window of its own with a certain title, and closed through its main window.
+#include "app/EnabledOnChange.h"
+#include "app/Form1.h"
+#include "app/helpers/Paths.h"
+#include "app/helpers/RunProcess.h"
+
+namespace app {
+
+namespace {
+
+constexpr base::StringView identification = TEXT("VELMORA-IDENTIFICATION-WINDOW");
+
+}  // namespace
+
+bool Form1::IsAgentRunning() const
+{
+    return ProcessTools->GetHWndByCaptionCount(identification, true) >= 1;
+}
+
+base::String Form1::AgentPath() const
+{
+    return helpers::GetAppPath() + AgentName + TEXT(".exe");
+}
+
+void Form1::TimerMonitorIfVelmoraRunning_Timer()
+{
+    const bool running = IsAgentRunning();
+    SetEnabled(*CommandStartVelmora, !running);
+    SetEnabled(*CommandCloseVelmora, running);
+}
+
+void Form1::CommandStartVelmora_Click()
+{
+    if (IsAgentRunning()) {
+        CommandStartVelmora->Enabled(false);
+        return;
+    }
+    if (PasswordEdited) {
+        SavePassword();
+        PasswordEdited = false;
+    }
+    if (helpers::RunProcess(AgentPath(), {}, false, true, NORMAL_PRIORITY_CLASS) != 0)
+        CommandStartVelmora->Enabled(false);
+}
+
+void Form1::CommandCloseVelmora_Click()
+{
+    const HWND window = ProcessTools->FindHWndByCaption(identification, true);
+    if (!window || !ProcessTools->ExistsWindow(window))
+        return;
+    const DWORD process = ProcessTools->GetPIDFromhWnd(window);
+    if (const HWND main = ProcessTools->GetMainWindowFromPID(process))
+        ProcessTools->CloseWindow(main);
+}
+
+}  // namespace app

@@ -1,0 +1,117 @@
+#include "app/helpers/FileAccess.h"
+
+#include "app/helpers/Paths.h"
+#include "base/Handles.h"
+
+#include <array>
+#include <vector>
+
+namespace helpers {
+
+using base::String;
+using base::StringView;
+
+namespace {
+
+constexpr int granted = 1;
+constexpr int denied = 0;
+constexpr int noAccessControl = -1;
+constexpr int failed = -2;
+constexpr int missing = -3;
+
+DWORD AccessMask(int code, bool isFolder)
+{
+    constexpr DWORD readFolder = FILE_LIST_DIRECTORY | FILE_READ_EA;
+    constexpr DWORD writeFolder = FILE_ADD_FILE | FILE_ADD_SUBDIRECTORY;
+    switch (code) {
+        case ReadAccess:
+            return isFolder ? readFolder : FILE_GENERIC_READ;
+        case WriteAccess:
+            return isFolder ? writeFolder : FILE_GENERIC_WRITE;
+        case ReadAndWriteAccess:
+            return isFolder ? readFolder | writeFolder : FILE_GENERIC_READ | FILE_GENERIC_WRITE;
+        default:
+            return static_cast<DWORD>(code);
+    }
+}
+
+/// `C:\` or `\\server\share\`; empty for a path without a root.
+String RootOf(const String& path)
+{
+    if (path.starts_with(TEXT("\\\\"))) {
+        std::size_t end = 1;
+        for (int backslash = 3; backslash <= 4; ++backslash) {
+            end = path.find(TEXT('\\'), end + 1);
+            if (end == String::npos)
+                return path + TEXT('\\');
+        }
+        return path.substr(0, end + 1);
+    }
+    return path.find(TEXT(":\\")) == 1 ? path.substr(0, 3) : String();
+}
+
+bool HasAccessControl(const String& root)
+{
+    DWORD flags = 0;
+    GetVolumeInformationW(root.c_str(), nullptr, 0, nullptr, nullptr, &flags, nullptr, 0);
+    return flags & FILE_PERSISTENT_ACLS;
+}
+
+/// The path's owner, group and discretionary list; empty when they cannot be read.
+std::vector<BYTE> SecurityOf(const String& path)
+{
+    constexpr SECURITY_INFORMATION wanted = OWNER_SECURITY_INFORMATION | GROUP_SECURITY_INFORMATION | DACL_SECURITY_INFORMATION;
+    DWORD size = 0;
+    if (GetFileSecurityW(path.c_str(), wanted, nullptr, 0, &size) || GetLastError() != ERROR_INSUFFICIENT_BUFFER)
+        return {};
+    std::vector<BYTE> descriptor(size);
+    if (!GetFileSecurityW(path.c_str(), wanted, descriptor.data(), size, &size))
+        return {};
+    return descriptor;
+}
+
+int Check(std::vector<BYTE>& descriptor, DWORD mask)
+{
+    base::KernelHandle token;
+    if (!OpenThreadToken(GetCurrentThread(), TOKEN_QUERY, TRUE, token.Receive()))
+        return failed;
+    GENERIC_MAPPING mapping = {FILE_GENERIC_READ, FILE_GENERIC_WRITE, FILE_GENERIC_EXECUTE, FILE_ALL_ACCESS};
+    MapGenericMask(&mask, &mapping);
+    alignas(PRIVILEGE_SET) std::array<BYTE, 32> privileges = {};
+    DWORD privilegesSize = static_cast<DWORD>(privileges.size());
+    DWORD grantedMask = 0;
+    BOOL status = FALSE;
+    AccessCheck(descriptor.data(), token.Get(), mask, &mapping, reinterpret_cast<PRIVILEGE_SET*>(privileges.data()), &privilegesSize,
+                &grantedMask, &status);
+    return status ? granted : denied;
+}
+
+}  // namespace
+
+int CheckPathAccess(StringView path, int code, bool isFolder)
+{
+    String target = base::Trim(path);
+    if (isFolder && !target.ends_with(TEXT('\\')))
+        target += TEXT('\\');
+    const String root = RootOf(target);
+    if (root.empty())
+        return failed;
+    if (!HasAccessControl(root))
+        return noAccessControl;
+    std::vector<BYTE> descriptor = SecurityOf(target);
+    if (descriptor.empty())
+        return failed;
+    // AccessCheck takes an impersonation token only, which a process gets by impersonating itself.
+    if (!ImpersonateSelf(SecurityDelegation))
+        return failed;
+    const int result = Check(descriptor, AccessMask(code, isFolder));
+    RevertToSelf();
+    return result;
+}
+
+int CheckFolderAccess(StringView folder, int code)
+{
+    return FolderExists(folder) ? CheckPathAccess(folder, code, true) : missing;
+}
+
+}  // namespace helpers

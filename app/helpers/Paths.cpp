@@ -1,0 +1,91 @@
+#include "app/helpers/Paths.h"
+
+#include "app/helpers/Caches.h"
+
+#include <shlwapi.h>
+
+#include <array>
+
+namespace helpers {
+
+using base::String;
+using base::StringView;
+
+namespace {
+
+constexpr StringView forbiddenInPath = TEXT("/*?<>|\"\n\r");
+constexpr StringView forbiddenInFileName = TEXT("\\/:*?<>|\"\n\r");
+constexpr StringView longPathPrefix = TEXT("\\\\?\\");
+
+bool HasDotAtEitherEnd(StringView text)
+{
+    return text.front() == TEXT('.') || text.back() == TEXT('.');
+}
+
+}  // namespace
+
+String GetAppPath()
+{
+    String& path = ProcessCaches().appPath;
+    if (path.empty()) {
+        std::array<WCHAR, 260> buffer = {};
+        const DWORD length = GetModuleFileNameW(nullptr, buffer.data(), static_cast<DWORD>(buffer.size()));
+        path = GetFolderFromPath(StringView(buffer.data(), length));
+    }
+    return path;
+}
+
+String GetAppExeName()
+{
+    String& name = ProcessCaches().appExeName;
+    if (name.empty()) {
+        std::array<WCHAR, 520> buffer = {};
+        GetModuleFileNameW(nullptr, buffer.data(), 519);
+        WCHAR* const file = PathFindFileNameW(buffer.data());
+        PathRemoveExtensionW(file);
+        name = file;
+    }
+    return name;
+}
+
+String GetFolderFromPath(StringView path)
+{
+    String folder = base::Trim(path);
+    if (const auto backslash = folder.rfind(TEXT('\\')); backslash != String::npos)
+        folder.resize(backslash + 1);
+    return folder;
+}
+
+bool FileExists(StringView path)
+{
+    const String trimmed = base::Trim(path);
+    return !trimmed.empty() && PathFileExistsW(trimmed.c_str()) == TRUE && !PathIsDirectoryW(trimmed.c_str());
+}
+
+bool FolderExists(StringView path)
+{
+    const String trimmed = base::Trim(path);
+    return !trimmed.empty() && PathIsDirectoryW(trimmed.c_str());
+}
+
+bool IsValidFileName(StringView name)
+{
+    const String trimmed = base::Trim(name);
+    return !trimmed.empty() && !HasDotAtEitherEnd(trimmed) && trimmed.find_first_of(forbiddenInFileName) == String::npos;
+}
+
+bool IsValidPath(StringView path)
+{
+    String trimmed = base::Trim(path);
+    if (trimmed.size() > longPathPrefix.size() && trimmed.starts_with(longPathPrefix))
+        trimmed.erase(0, longPathPrefix.size());
+    if (trimmed.empty() || HasDotAtEitherEnd(trimmed) || trimmed.find_first_of(forbiddenInPath) != String::npos)
+        return false;
+    if (trimmed.front() != TEXT('\\') && trimmed.find(TEXT(":\\")) == String::npos)
+        return false;
+    // A path that ends in a backslash comes back from PathFindFileNameW with that backslash, or whole when it is a root: neither is a file
+    // name.
+    return IsValidFileName(PathFindFileNameW(trimmed.c_str()));
+}
+
+}  // namespace helpers
