@@ -1,0 +1,146 @@
+// The agent as an ordinary process.
+#include "platform/sim/Desktop.h"
+#include "platform/sim/Processes.h"
+#include "platform/sim/Volumes.h"
+#include "tests/support/UtilityScene.h"
+
+#include <gtest/gtest.h>
+
+using namespace platform;
+
+namespace {
+
+constexpr const char16_t* exe = u"C:\\Tools\\Velmora.exe";
+
+class Form1Agent : public testing::Test, protected tests::UtilityScene {
+protected:
+    void ExpectButtons(bool start, bool close)
+    {
+        EXPECT_EQ(Enabled(TEXT("CommandStartVelmora")), start);
+        EXPECT_EQ(Enabled(TEXT("CommandCloseVelmora")), close);
+    }
+    std::size_t Launches() { return The<Processes>().Requests().size(); }
+};
+
+TEST_F(Form1Agent, StartedAndClosed_TurnsTheButtonsAround)
+{
+    ASSERT_TRUE(Open());
+    ExpectButtons(true, false);
+    Click(TEXT("CommandStartVelmora"));
+    ASSERT_EQ(Launches(), 1u);
+    const auto& request = The<Processes>().Requests()[0];
+    EXPECT_EQ(request.commandLine, exe);
+    EXPECT_EQ(request.folder, u"C:\\Tools\\");
+    EXPECT_EQ(request.flags, 32u);
+    EXPECT_EQ(request.showWindow, SW_SHOWNORMAL);
+    ExpectButtons(false, false);
+    pc.Advance(2000);
+    ExpectButtons(false, true);
+    Click(TEXT("CommandCloseVelmora"));
+    ExpectButtons(false, true);
+    pc.Advance(2000);
+    ExpectButtons(true, false);
+    EXPECT_TRUE(The<Processes>().Running(exe).empty());
+}
+
+TEST_F(Form1Agent, RunningAtTheStart_IsSeenAtOnce)
+{
+    const DWORD process = The<Processes>().Launch(exe);
+    pc.Advance(1000);
+    ASSERT_TRUE(Open());
+    ExpectButtons(false, true);
+    The<Processes>().End(process);
+    pc.Advance(2000);
+    ExpectButtons(true, false);
+}
+
+TEST_F(Form1Agent, StartWhileItRuns_OnlyDisablesTheButton)
+{
+    ASSERT_TRUE(Open());
+    The<Processes>().Launch(exe);
+    pc.Advance(700);
+    ExpectButtons(true, false);
+    Click(TEXT("CommandStartVelmora"));
+    EXPECT_EQ(Launches(), 0u);
+    EXPECT_FALSE(Enabled(TEXT("CommandStartVelmora")));
+}
+
+TEST_F(Form1Agent, ExecutableGone_LeavesTheButtonEnabled)
+{
+    ASSERT_TRUE(Open());
+    The<Volumes>().Remove(exe);
+    Click(TEXT("CommandStartVelmora"));
+    ExpectButtons(true, false);
+}
+
+TEST_F(Form1Agent, AgentThatStays_IsShownAsRunning)
+{
+    agent->ignoresClose = true;
+    The<Processes>().Launch(exe);
+    pc.Advance(1000);
+    ASSERT_TRUE(Open());
+    Click(TEXT("CommandCloseVelmora"));
+    pc.Advance(4000);
+    ExpectButtons(false, true);
+    EXPECT_EQ(The<Processes>().Running(exe).size(), 1u);
+}
+
+TEST_F(Form1Agent, AgentThatVanishes_IsNotClosed)
+{
+    const DWORD process = The<Processes>().Launch(exe);
+    pc.Advance(1000);
+    ASSERT_TRUE(Open());
+    The<Processes>().End(process);
+    pc.Trace().Start();
+    Click(TEXT("CommandCloseVelmora"));
+    for (const CallRecord& call : pc.Trace().Of("PostMessageW"))
+        EXPECT_EQ(call.arguments.find(", 0x10,"), std::string::npos) << call.Text();
+    EXPECT_TRUE(IsOpen());
+}
+
+TEST_F(Form1Agent, OwnWindowOfThatTitle_IsNotTheAgent)
+{
+    ASSERT_TRUE(Open());
+    const HWND own =
+        CreateWindowExW(0, TEXT("Static"), TEXT("VELMORA-IDENTIFICATION-WINDOW"), WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+    pc.Advance(2000);
+    ExpectButtons(true, false);
+    DestroyWindow(own);
+}
+
+TEST_F(Form1Agent, EditedPassword_IsSavedOnceBeforeTheLaunch)
+{
+    ASSERT_TRUE(Open());
+    Click(TEXT("CommandStartVelmora"));
+    EXPECT_EQ(Settings(), std::nullopt) << "nothing was edited";
+    for (const DWORD process : The<Processes>().Running(exe))
+        The<Processes>().End(process);
+    pc.Advance(2000);
+    Text(TEXT("TextPassword")).Text(TEXT("abc"));
+    Click(TEXT("CommandStartVelmora"));
+    EXPECT_EQ(Settings(), "[Settings]\r\nPwd=AYWJj\r\n");
+    for (const DWORD process : The<Processes>().Running(exe))
+        The<Processes>().End(process);
+    pc.Advance(2000);
+    WriteSettings("[Settings]\r\nPwd=other\r\n");
+    Click(TEXT("CommandStartVelmora"));
+    EXPECT_EQ(Settings(), "[Settings]\r\nPwd=other\r\n");
+    EXPECT_EQ(Launches(), 3u);
+}
+
+TEST_F(Form1Agent, OtherFileName_StartsItsOwnAgent)
+{
+    The<Processes>().OwnImage(u"C:\\Tools\\Foo Bar.exe");
+    AgentProgram::Install(pc, u"C:\\Tools\\Foo.exe");
+    WriteSettings("[Settings]\r\nPwd=AYWJj\r\n", u"C:\\Tools\\Foo.ini");
+    ASSERT_TRUE(Open());
+    EXPECT_EQ(Password(), TEXT("abc"));
+    Click(TEXT("CommandStartVelmora"));
+    ASSERT_EQ(Launches(), 1u);
+    EXPECT_EQ(The<Processes>().Requests()[0].commandLine, u"C:\\Tools\\Foo.exe");
+    Check(TEXT("CheckAutoStart")).Value(1);
+    Click(TEXT("CommandOk"));
+    EXPECT_EQ(AutoStart(), u"\"C:\\Tools\\Foo.exe\"");
+}
+
+}  // namespace

@@ -1,0 +1,248 @@
+// The service panel.
+#include "platform/sim/Services.h"
+#include "platform/sim/Users.h"
+#include "tests/support/UtilityScene.h"
+
+#include <gtest/gtest.h>
+
+using namespace platform;
+
+namespace {
+
+constexpr const char16_t* name = u"Velmora";
+constexpr const char16_t* exe = u"C:\\Tools\\Velmora.exe";
+/// The panel's fields that an installed service takes away, in the form's order.
+constexpr const char16_t* fields = u"lblAccount txtAccount lblPassword txtPassword chkSystem lblStartup ComboStartup";
+
+class Form1Service : public testing::Test, protected tests::UtilityScene {
+protected:
+    /// What the panel shows: captions of the two buttons, and the disabled controls of the two frames.
+    void ExpectPanel(const WCHAR* install, const WCHAR* start, const std::u16string& disabled)
+    {
+        EXPECT_EQ(Button(TEXT("cmdInstall")).Caption(), install);
+        EXPECT_EQ(Button(TEXT("cmdStart")).Caption(), start);
+        EXPECT_EQ(Disabled(), disabled + u" CommandCloseVelmora");
+    }
+    Service& Installed() { return The<Services>().Install(name, exe); }
+    void ExpectInstalled(bool installEnabled, bool startEnabled, const WCHAR* start)
+    {
+        ExpectPanel(TEXT("Uninstall Service"), start,
+                    std::u16string(u"CheckAutoStart CheckHideTrayIcon CheckSoundStart ") + (installEnabled ? u"" : u"cmdInstall ") +
+                        (startEnabled ? u"" : u"cmdStart ") + fields);
+    }
+    void ExpectMissing()
+    {
+        ExpectPanel(TEXT("Install Service"), TEXT("Start Service"),
+                    u"CheckHideTrayIcon CheckSoundStart cmdStart lblAccount txtAccount lblPassword txtPassword");
+    }
+};
+
+TEST_F(Form1Service, EveryState_HasItsPanel)
+{
+    Installed();
+    ASSERT_TRUE(Open());
+    const struct {
+        DWORD state;
+        bool install;
+        bool start;
+        const WCHAR* caption;
+    } states[] = {
+        {SERVICE_STOPPED, true, true, TEXT("Start Service")},           {SERVICE_START_PENDING, false, false, TEXT("Start Service")},
+        {SERVICE_RUNNING, false, true, TEXT("Stop Service")},           {SERVICE_STOP_PENDING, false, false, TEXT("Stop Service")},
+        {SERVICE_CONTINUE_PENDING, false, false, TEXT("Stop Service")}, {SERVICE_PAUSE_PENDING, false, false, TEXT("Stop Service")},
+        {SERVICE_PAUSED, false, false, TEXT("Stop Service")},           {SERVICE_STOPPED, true, true, TEXT("Start Service")},
+    };
+    for (const auto& s : states) {
+        The<Services>().SetState(name, s.state);
+        pc.Advance(1000);
+        SCOPED_TRACE(s.state);
+        ExpectInstalled(s.install, s.start, s.caption);
+    }
+}
+
+TEST_F(Form1Service, ChangesFromOutside_ShowWithinASecond)
+{
+    ASSERT_TRUE(Open());
+    ExpectMissing();
+    Check(TEXT("CheckAutoStart")).Value(1);
+    Installed().startType = SERVICE_DISABLED;
+    pc.Advance(1000);
+    ExpectInstalled(true, true, TEXT("Start Service"));
+    EXPECT_EQ(Check(TEXT("CheckAutoStart")).Value(), 0);
+    EXPECT_EQ(Startup().Text(), TEXT("Disabled"));
+    The<Services>().Find(name)->startType = SERVICE_AUTO_START;
+    pc.Advance(1000);
+    EXPECT_EQ(Startup().Text(), TEXT("Automatic"));
+    The<Services>().Find(name)->startType = SERVICE_BOOT_START;
+    pc.Advance(1000);
+    EXPECT_EQ(Startup().Text(), TEXT("Automatic")) << "no entry of the list";
+    The<Services>().Delete(name);
+    pc.Advance(1000);
+    ExpectMissing();
+}
+
+TEST_F(Form1Service, OpenPanel_ShowsTheInstalledConfiguration)
+{
+    const struct {
+        DWORD startType;
+        const WCHAR* shown;
+    } cases[] = {{2, TEXT("Automatic")}, {3, TEXT("Manual")}, {4, TEXT("Disabled")}, {1, TEXT("Automatic")}, {0, TEXT("Automatic")}};
+    Installed().account = u"OFFICE\\jdoe";
+    for (const auto& c : cases) {
+        The<Services>().Find(name)->startType = c.startType;
+        ASSERT_TRUE(Open());
+        EXPECT_EQ(Startup().Text(), c.shown);
+        EXPECT_EQ(Check(TEXT("chkSystem")).Value(), 0);
+        EXPECT_EQ(Text(TEXT("txtAccount")).Text(), TEXT("OFFICE\\jdoe"));
+        ExpectInstalled(true, true, TEXT("Start Service"));
+        Close();
+    }
+}
+
+TEST_F(Form1Service, Install_TakesTheChosenStartupType)
+{
+    for (const int index : {0, 1, 2, -1}) {
+        ASSERT_TRUE(Open());
+        Startup().ListIndex(index);
+        Click(TEXT("cmdInstall"));
+        const Service* const service = The<Services>().Find(name);
+        ASSERT_NE(service, nullptr);
+        EXPECT_EQ(service->startType, index < 0 ? 2u : 2u + static_cast<DWORD>(index));
+        EXPECT_EQ(service->type, 16u);
+        EXPECT_EQ(service->errorControl, 1u);
+        EXPECT_EQ(service->account, u"LocalSystem");
+        EXPECT_EQ(service->password, u"");
+        EXPECT_EQ(service->path, u"\"C:\\Tools\\Velmora.exe\"");
+        EXPECT_EQ(service->displayName, u"Velmora Service");
+        EXPECT_EQ(service->description,
+                  u"Server remoto di Korvane installato come servizio (opzionale), serve a permettere lo spegnimento di questo PC da "
+                  u"remoto in una LAN");
+        ExpectInstalled(true, true, TEXT("Start Service"));
+        Click(TEXT("cmdInstall"));
+        EXPECT_EQ(The<Services>().Find(name), nullptr);
+        ExpectMissing();
+        Close();
+    }
+}
+
+TEST_F(Form1Service, Install_QualifiesTheAccount)
+{
+    const struct {
+        const char16_t* domain;
+        const WCHAR* typed;
+        const char16_t* account;
+    } cases[] = {
+        {u"OFFICE", TEXT("jdoe"), u"OFFICE\\jdoe"},
+        {u"", TEXT("jdoe"), u".\\jdoe"},
+        {u"OFFICE", TEXT("OTHER\\jdoe"), u"OTHER\\jdoe"},
+        {u"OFFICE", TEXT("localsystem"), u"OFFICE\\localsystem"},
+    };
+    for (const auto& c : cases) {
+        The<Users>().LogonDomain(c.domain);
+        The<Users>().AddAccount(c.account, u"secret");
+        ASSERT_TRUE(Open());
+        Check(TEXT("chkSystem")).Value(0);
+        EXPECT_TRUE(Enabled(TEXT("txtAccount")));
+        EXPECT_TRUE(Enabled(TEXT("lblPassword")));
+        EXPECT_EQ(Text(TEXT("txtAccount")).Text(), TEXT(""));
+        Text(TEXT("txtAccount")).Text(c.typed);
+        Text(TEXT("txtPassword")).Text(TEXT("secret"));
+        Click(TEXT("cmdInstall"));
+        ASSERT_NE(The<Services>().Find(name), nullptr);
+        EXPECT_EQ(The<Services>().Find(name)->account, c.account);
+        EXPECT_EQ(The<Services>().Find(name)->password, u"secret");
+        The<Services>().Delete(name);
+        Close();
+    }
+}
+
+TEST_F(Form1Service, FailedInstall_LeavesTheButtonReady)
+{
+    ASSERT_TRUE(Open());
+    Check(TEXT("chkSystem")).Value(0);
+    Text(TEXT("txtAccount")).Text(TEXT("nobody"));
+    Click(TEXT("cmdInstall"));
+    EXPECT_EQ(The<Services>().Count(), 0u);
+    EXPECT_TRUE(Enabled(TEXT("cmdInstall")));
+    EXPECT_EQ(Text(TEXT("txtAccount")).Text(), TEXT("nobody"));
+    EXPECT_EQ(Button(TEXT("cmdInstall")).Caption(), TEXT("Install Service"));
+}
+
+TEST_F(Form1Service, SystemAccount_FillsAndLocksTheAccountFields)
+{
+    ASSERT_TRUE(Open());
+    Check(TEXT("chkSystem")).Value(0);
+    Text(TEXT("txtPassword")).Text(TEXT("secret"));
+    Check(TEXT("chkSystem")).Value(1);
+    EXPECT_EQ(Text(TEXT("txtAccount")).Text(), TEXT("LocalSystem"));
+    EXPECT_EQ(Text(TEXT("txtPassword")).Text(), TEXT(""));
+    ExpectMissing();
+}
+
+TEST_F(Form1Service, StartAndStop_PassThroughTheirPendingStates)
+{
+    Installed().startTime = 3000;
+    The<Services>().Find(name)->stopTime = 2500;
+    ASSERT_TRUE(Open());
+    Click(TEXT("cmdStart"));
+    ExpectInstalled(false, false, TEXT("Start Service"));
+    pc.Advance(2000);
+    ExpectInstalled(false, false, TEXT("Start Service"));
+    pc.Advance(2000);
+    ExpectInstalled(false, true, TEXT("Stop Service"));
+    Click(TEXT("cmdStart"));
+    ExpectInstalled(false, false, TEXT("Stop Service"));
+    pc.Advance(4000);
+    ExpectInstalled(true, true, TEXT("Start Service"));
+}
+
+TEST_F(Form1Service, FailedStart_LeavesTheCaptions)
+{
+    Installed().denied = SERVICE_START;
+    ASSERT_TRUE(Open());
+    Click(TEXT("cmdStart"));
+    ExpectInstalled(true, true, TEXT("Start Service"));
+}
+
+TEST_F(Form1Service, FailedUninstall_LeavesTheInstalledPanel)
+{
+    Installed().denied = DELETE;
+    ASSERT_TRUE(Open());
+    Click(TEXT("cmdInstall"));
+    ExpectInstalled(true, true, TEXT("Start Service"));
+}
+
+TEST_F(Form1Service, ServiceThatStartsMeanwhile_IsNotUninstalled)
+{
+    Installed();
+    ASSERT_TRUE(Open());
+    The<Services>().SetState(name, SERVICE_RUNNING);
+    Click(TEXT("cmdInstall"));
+    EXPECT_NE(The<Services>().Find(name), nullptr);
+    ExpectInstalled(false, true, TEXT("Stop Service"));
+}
+
+TEST_F(Form1Service, StartButton_SavesThePasswordFirst)
+{
+    Installed();
+    ASSERT_TRUE(Open());
+    Text(TEXT("TextPassword")).Text(TEXT("abc"));
+    Click(TEXT("cmdStart"));
+    EXPECT_EQ(Settings(), "[Settings]\r\nPwd=AYWJj\r\n");
+}
+
+TEST_F(Form1Service, ToolTips_FollowTheCaptions)
+{
+    ASSERT_TRUE(Open());
+    EXPECT_EQ(Button(TEXT("cmdInstall")).GetExtender().ToolTipText() + Button(TEXT("cmdInstall")).ToolTipTextW(),
+              TEXT("Install Velmora Service"));
+    Installed();
+    pc.Advance(1000);
+    EXPECT_EQ(Button(TEXT("cmdInstall")).GetExtender().ToolTipText(), TEXT("Uninstall Velmora Service"));
+    EXPECT_EQ(Button(TEXT("cmdStart")).GetExtender().ToolTipText(), TEXT("Start Velmora Service"));
+    The<Services>().SetState(name, SERVICE_RUNNING);
+    pc.Advance(1000);
+    EXPECT_EQ(Button(TEXT("cmdStart")).GetExtender().ToolTipText(), TEXT("Stop Velmora Service"));
+}
+
+}  // namespace

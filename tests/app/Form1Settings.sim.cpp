@@ -1,0 +1,216 @@
+// The password, the auto-start value and the OK button.
+#include "platform/sim/Desktop.h"
+#include "platform/sim/Machine.h"
+#include "platform/sim/Registry.h"
+#include "platform/sim/Services.h"
+#include "platform/sim/Users.h"
+#include "platform/sim/Volumes.h"
+#include "tests/support/UtilityScene.h"
+
+#include <gtest/gtest.h>
+
+using namespace platform;
+
+namespace {
+
+constexpr const char16_t* runKey = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
+
+class Form1Settings : public testing::Test, protected tests::UtilityScene {
+protected:
+    void ExpectAutoStart(int autoStart, int hide, int sound)
+    {
+        EXPECT_EQ(Check(TEXT("CheckAutoStart")).Value(), autoStart);
+        EXPECT_EQ(Check(TEXT("CheckHideTrayIcon")).Value(), hide);
+        EXPECT_EQ(Check(TEXT("CheckSoundStart")).Value(), sound);
+        EXPECT_EQ(Enabled(TEXT("CheckHideTrayIcon")), autoStart == 1);
+        EXPECT_EQ(Enabled(TEXT("CheckSoundStart")), autoStart == 1);
+    }
+};
+
+TEST_F(Form1Settings, StoredPasswords_LoadOrShowAsEmpty)
+{
+    const std::string longText(300, 'Q');  // 225 bytes of value 0x41 0x04 0x10 ...
+    const struct {
+        std::string stored;
+        std::size_t length;
+    } cases[] = {{"AYWJj", 3}, {"WrCA=", 1}, {"YWJj", 0}, {"AYWJ", 0},          {"AYW Jj", 0},
+                 {"XYWJj", 0}, {"A", 0},     {"", 0},     {"A" + longText, 225}};
+    for (const auto& c : cases) {
+        WriteSettings("[Settings]\r\nPwd=" + c.stored + "\r\n");
+        ASSERT_TRUE(Open());
+        EXPECT_EQ(Password().size(), c.length) << c.stored;
+        Close();
+    }
+}
+
+TEST_F(Form1Settings, Ok_SavesThePasswordAndKeepsTheAgentsOwnSettings)
+{
+    const struct {
+        const WCHAR* password;
+        const char* stored;
+    } cases[] = {{TEXT("abc"), "AYWJj"}, {TEXT("\x20AC"), "WrCA="}, {TEXT(""), ""}};
+    for (const auto& c : cases) {
+        WriteSettings("[Other]\r\nx=1\r\n[Settings]\r\nPwd=AZg==\r\nSound=1\r\n");
+        ASSERT_TRUE(Open());
+        EXPECT_EQ(Password(), TEXT("f"));
+        Text(TEXT("TextPassword")).Text(c.password);
+        Click(TEXT("CommandOk"));
+        EXPECT_FALSE(IsOpen());
+        EXPECT_EQ(Settings(), std::string("[Other]\r\nx=1\r\n[Settings]\r\nPwd=") + c.stored + "\r\nSound=1\r\n");
+    }
+}
+
+TEST_F(Form1Settings, Ok_ReplacesAnUnreadablePasswordEvenUnedited)
+{
+    WriteSettings("[Settings]\r\nPwd=broken\r\n");
+    ASSERT_TRUE(Open());
+    Click(TEXT("CommandOk"));
+    EXPECT_EQ(Settings(), "[Settings]\r\nPwd=\r\n");
+}
+
+TEST_F(Form1Settings, Ok_WithAnEmptyBoxAndNoFile_MakesNone)
+{
+    ASSERT_TRUE(Open());
+    Click(TEXT("CommandOk"));
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(Settings(), std::nullopt);
+}
+
+TEST_F(Form1Settings, ProtectedFolder_KeepsTheSettingsWithTheUser)
+{
+    The<Volumes>().MakeReadOnly(u"C:\\Tools");
+    ASSERT_TRUE(Open());
+    Text(TEXT("TextPassword")).Text(TEXT("abc"));
+    Click(TEXT("CommandOk"));
+    EXPECT_EQ(Settings(), std::nullopt);
+    EXPECT_EQ(Settings(u"C:\\Users\\Anna\\AppData\\Roaming\\Velmora Setup Utility\\Velmora.ini"), "[Settings]\r\nPwd=AYWJj\r\n");
+}
+
+TEST_F(Form1Settings, NoUsableFolder_LosesThePasswordSilently)
+{
+    The<Volumes>().PersistentAcls(u"C:\\", false);
+    WriteSettings("[Settings]\r\nPwd=AYWJj\r\n");
+    ASSERT_TRUE(Open());
+    EXPECT_EQ(Password(), TEXT(""));
+    Text(TEXT("TextPassword")).Text(TEXT("new"));
+    Click(TEXT("CommandOk"));
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(Settings(), "[Settings]\r\nPwd=AYWJj\r\n");
+    EXPECT_EQ(Settings(u"C:\\Windows\\Velmora.ini"), std::nullopt);
+}
+
+TEST_F(Form1Settings, AutoStartValues_CheckTheirBoxes)
+{
+    const std::string zeros(2000, '\0');
+    const struct {
+        RegistryValue value;
+        int autoStart, hide, sound;
+    } cases[] = {
+        {TextValue(u"\"C:\\Tools\\Velmora.exe\""), 1, 0, 0},
+        {TextValue(u"\"C:\\Tools\\Velmora.exe\" /Hidden"), 1, 1, 0},
+        {TextValue(u"\"C:\\Tools\\Velmora.exe\" /soundstart"), 1, 0, 1},
+        {TextValue(u"x/HIDDENy/SOUNDSTARTz", REG_EXPAND_SZ), 1, 1, 1},
+        {TextValue(u""), 1, 0, 0},
+        {RegistryValue{REG_SZ, {}}, 1, 0, 0},
+        {NumberValue(1), 1, 0, 0},
+        {RegistryValue{REG_BINARY, "/\0H\0i\0d\0d\0e\0n\0"}, 1, 0, 0},
+        {RegistryValue{REG_MULTI_SZ, TextValue(u"/Hidden").bytes}, 1, 0, 0},
+        {TextValue(std::u16string(u" /Hidden").append(503, u'x')), 1, 1, 0},  // 1024 bytes
+        {TextValue(std::u16string(u" /Hidden").append(504, u'x')), 0, 0, 0},
+        {RegistryValue{REG_BINARY, zeros}, 0, 0, 0},
+    };
+    for (const auto& c : cases) {
+        The<Registry>().Set(HKEY_LOCAL_MACHINE, runKey, u"Velmora", c.value);
+        ASSERT_TRUE(Open());
+        SCOPED_TRACE(&c - cases);
+        ExpectAutoStart(c.autoStart, c.hide, c.sound);
+        Close();
+    }
+}
+
+TEST_F(Form1Settings, ConfiguredAutoStart_LocksTheServicePanel)
+{
+    SetAutoStart(u"x");
+    The<Services>().Install(u"Velmora", u"C:\\Tools\\Velmora.exe");
+    ASSERT_TRUE(Open());
+    pc.Advance(3000);
+    EXPECT_EQ(Disabled(),
+              u"FrameService cmdInstall cmdStart lblAccount txtAccount lblPassword txtPassword chkSystem lblStartup ComboStartup tmrCheck"
+              u" CommandCloseVelmora");
+    EXPECT_EQ(Button(TEXT("cmdInstall")).Caption(), TEXT("Install Service"));
+    ExpectAutoStart(1, 0, 0);
+}
+
+TEST_F(Form1Settings, Ok_WritesTheChosenSwitches)
+{
+    for (const int hide : {0, 1}) {
+        for (const int sound : {0, 1}) {
+            ASSERT_TRUE(Open());
+            Check(TEXT("CheckAutoStart")).Value(1);
+            Check(TEXT("CheckHideTrayIcon")).Value(hide);
+            Check(TEXT("CheckSoundStart")).Value(sound);
+            Click(TEXT("CommandOk"));
+            EXPECT_FALSE(IsOpen());
+            EXPECT_EQ(AutoStart(),
+                      std::u16string(u"\"C:\\Tools\\Velmora.exe\"") + (hide ? u" /Hidden" : u"") + (sound ? u" /SoundStart" : u""));
+        }
+    }
+    ASSERT_TRUE(Open());
+    ExpectAutoStart(1, 1, 1);
+    Check(TEXT("CheckAutoStart")).Value(0);
+    EXPECT_EQ(Check(TEXT("CheckHideTrayIcon")).Value(), 1) << "the dependent boxes keep their values";
+    EXPECT_FALSE(Enabled(TEXT("CheckHideTrayIcon")));
+    Click(TEXT("CommandOk"));
+    EXPECT_EQ(AutoStart(), std::nullopt);
+    ASSERT_TRUE(Open());
+    Click(TEXT("CommandOk"));
+    EXPECT_FALSE(IsOpen());
+}
+
+TEST_F(Form1Settings, Bits32On64_ReachTheRealRunKey)
+{
+    The<Machine>().Wow64(true);
+    ASSERT_TRUE(Open());
+    Check(TEXT("CheckAutoStart")).Value(1);
+    Click(TEXT("CommandOk"));
+    EXPECT_EQ(AutoStart(), u"\"C:\\Tools\\Velmora.exe\"");
+    EXPECT_EQ(The<Registry>().GetText(HKEY_LOCAL_MACHINE, runKey, u"Velmora", Registry::View::Bits32), std::nullopt);
+    Close();
+    ASSERT_TRUE(Open());
+    ExpectAutoStart(1, 0, 0);
+}
+
+TEST_F(Form1Settings, OrdinaryUser_CannotChangeAutoStartButOkCloses)
+{
+    SetAutoStart(u"old /Hidden");
+    The<Users>().Administrator(false);
+    ASSERT_TRUE(Open());
+    Text(TEXT("TextPassword")).Text(TEXT("abc"));
+    Click(TEXT("CommandOk"));
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(AutoStart(), u"old /Hidden");
+    EXPECT_EQ(Settings(), "[Settings]\r\nPwd=AYWJj\r\n");
+}
+
+TEST_F(Form1Settings, Mouse_ChecksTheBoxes)
+{
+    ASSERT_TRUE(Open());
+    Click(TEXT("CheckAutoStart"));
+    ExpectAutoStart(1, 0, 0);
+    Click(TEXT("CheckHideTrayIcon"));
+    ExpectAutoStart(1, 1, 0);
+    Click(TEXT("CheckAutoStart"));
+    ExpectAutoStart(0, 1, 0);
+}
+
+TEST_F(Form1Settings, TypedPassword_IsSaved)
+{
+    ASSERT_TRUE(Open());
+    Click(TEXT("TextPassword"));
+    The<Desktop>().Type(u"abc");
+    The<Desktop>().Press(VK_TAB);
+    Click(TEXT("CommandOk"));
+    EXPECT_EQ(Settings(), "[Settings]\r\nPwd=AYWJj\r\n");
+}
+
+}  // namespace

@@ -1,0 +1,152 @@
+// Starting and ending the utility.
+#include "platform/sim/Desktop.h"
+#include "platform/sim/Machine.h"
+#include "platform/sim/MessageBoxes.h"
+#include "platform/sim/Modules.h"
+#include "platform/sim/Processes.h"
+#include "platform/sim/Services.h"
+#include "platform/sim/Users.h"
+#include "platform/sim/Volumes.h"
+#include "tests/support/UtilityScene.h"
+
+#include <gtest/gtest.h>
+
+using namespace platform;
+
+namespace {
+
+class Form1StartUp : public testing::Test, protected tests::UtilityScene {
+protected:
+    void ExpectOnlyMessage(const std::u16string& text)
+    {
+        EXPECT_FALSE(Open());
+        const auto& boxes = The<MessageBoxes>().All();
+        ASSERT_EQ(boxes.size(), 1u);
+        EXPECT_EQ(boxes[0].text, text);
+        EXPECT_EQ(boxes[0].caption, u"Velmora Setup Utility");
+        EXPECT_EQ(boxes[0].style, 48u);
+        EXPECT_EQ(The<Desktop>().FindByText(u"Velmora Setup Utility"), nullptr);
+    }
+};
+
+TEST_F(Form1StartUp, FreshPc_ShowsTheWindowAsDesigned)
+{
+    ASSERT_TRUE(Open());
+    EXPECT_TRUE(The<MessageBoxes>().All().empty());
+    EXPECT_TRUE(IsWindowVisible(Form().hWnd()));
+    EXPECT_EQ(The<Desktop>().Text(Form().hWnd()), u"Velmora Setup Utility");
+    EXPECT_EQ(Disabled(), u"CheckHideTrayIcon CheckSoundStart cmdStart lblAccount txtAccount lblPassword txtPassword CommandCloseVelmora");
+    EXPECT_EQ(Startup().Text(), TEXT("Automatic"));
+    EXPECT_EQ(Text(TEXT("txtAccount")).Text(), TEXT("LocalSystem"));
+    EXPECT_EQ(Password(), TEXT(""));
+    EXPECT_NE(SendMessageW(Form().hWnd(), WM_GETICON, ICON_BIG, 0), 0);
+    EXPECT_EQ(Settings(), std::nullopt);
+}
+
+TEST_F(Form1StartUp, NotNt_SaysSoAndEnds)
+{
+    The<Machine>().NotNt();
+    ExpectOnlyMessage(u"Velmora can be set as Service only on NT Systems");
+}
+
+TEST_F(Form1StartUp, MissingAgent_SaysSoAndEnds)
+{
+    The<Volumes>().Remove(u"C:\\Tools\\Velmora.exe");
+    ExpectOnlyMessage(u"\"Velmora.exe\" needs to be on this directory.");
+}
+
+TEST_F(Form1StartUp, OtherFileName_LooksForItsOwnAgent)
+{
+    The<Processes>().OwnImage(u"C:\\Tools\\Foo Bar.exe");
+    ExpectOnlyMessage(u"\"Foo.exe\" needs to be on this directory.");
+}
+
+TEST_F(Form1StartUp, SecondInstance_EndsSilently)
+{
+    The<Processes>().HoldMutex(u"Local\\Velmora Setup Utility");
+    EXPECT_FALSE(Open());
+    EXPECT_TRUE(The<MessageBoxes>().All().empty());
+    Close();
+    The<Processes>().ReleaseHeldMutex(u"Local\\Velmora Setup Utility");
+    EXPECT_TRUE(Open());
+    Close();
+    EXPECT_TRUE(Open()) << "the first instance has let go of its mutex";
+}
+
+TEST_F(Form1StartUp, InstanceOfAnotherUser_IsToldByTheRefusal)
+{
+    pc.GetFaults().FailCall("CreateMutexW", ERROR_ACCESS_DENIED);
+    EXPECT_FALSE(Open());
+    pc.GetFaults().FailCall("CreateMutexW", ERROR_NOT_ENOUGH_MEMORY);
+    EXPECT_TRUE(Open());
+}
+
+TEST_F(Form1StartUp, DepPolicy_IsSwitchedOffWhereItCanBe)
+{
+    The<Machine>().Wow64(true);
+    ASSERT_TRUE(Open());
+    EXPECT_EQ(The<Machine>().DepPolicy(), 0u);
+    Close();
+    The<Machine>().DepPolicy(3);
+    The<Modules>().RemoveExport(u"kernel32.dll", "SetProcessDEPPolicy");
+    EXPECT_TRUE(Open());
+    EXPECT_EQ(The<Machine>().DepPolicy(), 3u);
+}
+
+TEST_F(Form1StartUp, OrdinaryUser_GetsServiceAndAutoStartDisabled)
+{
+    The<Users>().Administrator(false);
+    The<Services>().Install(u"Velmora", u"C:\\Tools\\Velmora.exe");
+    ASSERT_TRUE(Open());
+    for (const WCHAR* name : {TEXT("FrameService"), TEXT("FrameAutoStart"), TEXT("cmdInstall"), TEXT("cmdStart"), TEXT("CheckAutoStart")})
+        EXPECT_FALSE(Enabled(name));
+    for (const WCHAR* name : {TEXT("DFrame1"), TEXT("TextPassword"), TEXT("CommandStartVelmora"), TEXT("CommandOk")})
+        EXPECT_TRUE(Enabled(name));
+    pc.Advance(3000);
+    Click(TEXT("cmdStart"));
+    EXPECT_EQ(The<Services>().Find(u"Velmora")->state, static_cast<DWORD>(SERVICE_STOPPED)) << "the frame keeps the mouse off its buttons";
+}
+
+TEST_F(Form1StartUp, Keys_CloseTheWindowOnlyWithTheRightModifiers)
+{
+    ASSERT_TRUE(Open());
+    auto& desktop = The<Desktop>();
+    desktop.Press(VK_ESCAPE, kShift);
+    desktop.Press(VK_ESCAPE, kAlt | kShift);
+    desktop.Press(VK_F5);
+    desktop.Press(VK_F5, kAlt | kControl);
+    EXPECT_TRUE(IsOpen());
+    desktop.Press(VK_ESCAPE);
+    EXPECT_FALSE(IsOpen());
+    ASSERT_TRUE(Open());
+    desktop.Press(VK_F5, kAlt);
+    EXPECT_FALSE(IsOpen());
+}
+
+TEST_F(Form1StartUp, Escape_ClosesFromEveryControlThatCanHaveTheFocus)
+{
+    for (const WCHAR* name : {TEXT("TextPassword"), TEXT("CheckAutoStart"), TEXT("chkSystem"), TEXT("cmdInstall"), TEXT("ComboStartup"),
+                              TEXT("CommandStartVelmora"), TEXT("CommandOk")}) {
+        ASSERT_TRUE(Open());
+        Form().Find(name)->SetFocus();
+        pc.Settle();
+        The<Desktop>().Press(VK_ESCAPE);
+        EXPECT_FALSE(IsOpen()) << base::String(name).size();
+    }
+}
+
+TEST_F(Form1StartUp, Closing_LetsGoOfEverything)
+{
+    ASSERT_TRUE(Open());
+    EXPECT_EQ(The<Modules>().LoadsOf(u"shell32.dll"), 1u);
+    Text(TEXT("TextPassword")).Text(TEXT("edited"));
+    SetAutoStart(u"kept");
+    The<Desktop>().ClickCloseBox(Form().hWnd());
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(The<Modules>().LoadsOf(u"shell32.dll"), 0u);
+    EXPECT_EQ(Settings(), std::nullopt) << "edits are discarded";
+    EXPECT_EQ(AutoStart(), u"kept");
+    EXPECT_EQ(The<Desktop>().TimersOf(SimPc::Own().process), 0u);
+}
+
+}  // namespace

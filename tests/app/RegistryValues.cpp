@@ -1,0 +1,119 @@
+#include "app/RegistryValues.h"
+
+#include "base/Handles.h"
+
+#include <gtest/gtest.h>
+
+using namespace app;
+using base::String;
+
+namespace {
+
+constexpr const WCHAR* scratchKey = TEXT("Software\\VelmoraTests");
+
+class RegistryValues : public testing::Test {
+protected:
+    RegistryValues()
+    {
+        EXPECT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, scratchKey, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, key.Receive(), nullptr), 0);
+    }
+    ~RegistryValues() override
+    {
+        key.Reset();
+        RegDeleteKeyW(HKEY_CURRENT_USER, scratchKey);
+    }
+    void Store(DWORD storedType, const void* data, std::size_t size)
+    {
+        ASSERT_EQ(RegSetValueExW(key.Get(), TEXT("v"), 0, storedType, static_cast<const BYTE*>(data), static_cast<DWORD>(size)), 0);
+    }
+    void StoreText(DWORD storedType, const String& stored) { Store(storedType, stored.data(), stored.size() * sizeof(WCHAR)); }
+    bool Read() { return ReadRegValue(HKEY_CURRENT_USER, scratchKey, TEXT("v"), text, type, false); }
+
+    base::RegistryKey key;
+    String text = TEXT("before");
+    DWORD type = 99;
+};
+
+TEST_F(RegistryValues, Text_EndsAtItsFirstZero)
+{
+    const String inside = {TEXT('a'), TEXT('\0'), TEXT('b'), TEXT('\0')};
+    for (const String& stored : {String(TEXT("a")), String(TEXT("a\0"), 2), inside}) {
+        StoreText(REG_SZ, stored);
+        EXPECT_TRUE(Read());
+        EXPECT_EQ(text, TEXT("a"));
+    }
+    StoreText(REG_EXPAND_SZ, TEXT("%TEMP%"));
+    EXPECT_TRUE(Read());
+    EXPECT_EQ(text, TEXT("%TEMP%")) << "variables stay as they are";
+    EXPECT_EQ(type, static_cast<DWORD>(REG_EXPAND_SZ));
+    Store(REG_SZ, nullptr, 0);
+    EXPECT_TRUE(Read());
+    EXPECT_EQ(text, TEXT(""));
+}
+
+TEST_F(RegistryValues, OtherTypes_AreDecimalOrEmpty)
+{
+    const DWORD number = 3000000000u;
+    Store(REG_DWORD, &number, sizeof(number));
+    EXPECT_TRUE(Read());
+    EXPECT_EQ(text, TEXT("3000000000"));
+    Store(REG_BINARY, "/Hidden", 7);
+    EXPECT_TRUE(Read());
+    EXPECT_EQ(text, TEXT(""));
+    EXPECT_EQ(type, static_cast<DWORD>(REG_BINARY));
+}
+
+TEST_F(RegistryValues, MissingOrTooLong_LeavesTheOutputs)
+{
+    EXPECT_FALSE(Read());
+    StoreText(REG_SZ, String(512, TEXT('x')) + TEXT('\0'));
+    EXPECT_FALSE(Read());
+    EXPECT_FALSE(ReadRegValue(HKEY_CURRENT_USER, TEXT("Software\\VelmoraTests\\Missing"), TEXT("v"), text, type, false));
+    EXPECT_EQ(text, TEXT("before"));
+    EXPECT_EQ(type, 99u);
+    StoreText(REG_SZ, String(511, TEXT('x')) + TEXT('\0'));
+    EXPECT_TRUE(Read());
+    EXPECT_EQ(text.size(), 511u);
+}
+
+TEST_F(RegistryValues, Writing_StoresEachTypeInItsForm)
+{
+    const struct {
+        RegData data;
+        DWORD type;
+        bool written;
+        DWORD size;
+    } cases[] = {
+        {String(TEXT("ab")), REG_SZ, true, 3 * sizeof(WCHAR)},
+        {String(), REG_EXPAND_SZ, true, sizeof(WCHAR)},
+        {String(TEXT("4294967295")), REG_DWORD, true, 4},
+        {String(TEXT("-1")), REG_DWORD, true, 4},
+        {String(TEXT("4294967296")), REG_DWORD, false, 0},
+        {String(TEXT("x")), REG_DWORD, false, 0},
+        {String(), REG_DWORD, false, 0},
+        {std::vector<std::uint8_t>{1, 0, 2}, REG_BINARY, true, 3},
+        {String(TEXT("ab")), REG_BINARY, false, 0},
+        {std::vector<std::uint8_t>{1}, REG_SZ, false, 0},
+        {String(TEXT("ab")), REG_MULTI_SZ, false, 0},
+    };
+    for (const auto& c : cases) {
+        RegDeleteValueW(key.Get(), TEXT("v"));
+        EXPECT_EQ(WriteRegValue(key.Get(), TEXT("v"), c.data, c.type), c.written) << &c - cases;
+        DWORD stored = 0;
+        DWORD size = 0;
+        EXPECT_EQ(RegQueryValueExW(key.Get(), TEXT("v"), nullptr, &stored, nullptr, &size) == ERROR_SUCCESS, c.written) << &c - cases;
+        EXPECT_EQ(size, c.size) << &c - cases;
+        if (c.written) {
+            EXPECT_EQ(stored, c.type);
+        }
+    }
+}
+
+TEST_F(RegistryValues, Deleting_SucceedsOnce)
+{
+    EXPECT_TRUE(WriteRegString(key.Get(), TEXT("v"), TEXT("x")));
+    EXPECT_TRUE(DeleteRegValue(key.Get(), TEXT("v")));
+    EXPECT_FALSE(DeleteRegValue(key.Get(), TEXT("v")));
+}
+
+}  // namespace

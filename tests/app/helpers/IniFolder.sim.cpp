@@ -1,0 +1,140 @@
+#include "app/helpers/IniFolder.h"
+
+#include "app/helpers/FileAccess.h"
+#include "app/helpers/SpecialFolders.h"
+#include "platform/sim/Folders.h"
+#include "platform/sim/Users.h"
+#include "platform/sim/Volumes.h"
+#include "tests/support/FreshCaches.h"
+
+#include <shlobj.h>
+
+using namespace platform;
+using helpers::GetIniFolder;
+
+namespace {
+
+constexpr const WCHAR* application = TEXT("C:\\Tools\\");
+constexpr const WCHAR* userData = TEXT("C:\\Users\\Anna\\AppData\\Roaming\\Velmora Setup Utility\\");
+
+class IniFolder : public tests::FreshCaches {
+protected:
+    SimPc& pc = SimPc::Current();
+    Volumes& volumes = pc.Get<Volumes>();
+
+    void SettingsIn(const WCHAR* folder) { volumes.WriteFile(std::u16string(folder) + u"Velmora Setup Utility.ini", ""); }
+};
+
+TEST_F(IniFolder, WritableApplicationFolder_IsTaken)
+{
+    EXPECT_EQ(GetIniFolder(), application);
+    EXPECT_FALSE(volumes.IsFolder(userData));
+}
+
+TEST_F(IniFolder, SettingsInTheUsersFolder_WinOverAnEmptyApplicationFolder)
+{
+    SettingsIn(userData);
+    EXPECT_EQ(GetIniFolder(), userData);
+}
+
+TEST_F(IniFolder, SettingsInBoth_GoWithTheApplicationFolder)
+{
+    SettingsIn(userData);
+    SettingsIn(application);
+    EXPECT_EQ(GetIniFolder(), application);
+}
+
+TEST_F(IniFolder, ReadOnlyApplicationFolder_GivesWayToTheUsersWhichIsMade)
+{
+    SettingsIn(application);
+    volumes.MakeReadOnly(u"C:\\Tools");
+    EXPECT_EQ(GetIniFolder(), userData);
+    EXPECT_TRUE(volumes.IsFolder(userData));
+}
+
+TEST_F(IniFolder, VolumeWithoutAccessControl_NeverQualifies)
+{
+    volumes.PersistentAcls(u"C:\\", false);
+    EXPECT_EQ(helpers::CheckFolderAccess(application, helpers::ReadAndWriteAccess), -1);
+    EXPECT_EQ(GetIniFolder(), TEXT(""));
+}
+
+TEST_F(IniFolder, UsersFolderOnAnotherVolume_IsTakenWhenTheApplicationsHasNoAccessControl)
+{
+    volumes.PersistentAcls(u"C:\\", false);
+    volumes.AddVolume(u"D:\\");
+    volumes.MakeFolder(u"D:\\Data\\Roaming");
+    pc.Get<Folders>().Path(CSIDL_APPDATA, u"D:\\Data\\Roaming");
+    EXPECT_EQ(GetIniFolder(), TEXT("D:\\Data\\Roaming\\Velmora Setup Utility\\"));
+}
+
+TEST_F(IniFolder, NothingUsable_GivesNothingAndIsAskedAgain)
+{
+    volumes.MakeReadOnly(u"C:\\Tools");
+    volumes.MakeReadOnly(u"C:\\Users");
+    volumes.MakeReadOnly(u"C:\\Users\\Anna");
+    EXPECT_EQ(GetIniFolder(), TEXT(""));
+    volumes.SetRights(u"C:\\Tools", {});
+    EXPECT_EQ(GetIniFolder(), application);
+}
+
+TEST_F(IniFolder, Choice_IsKept)
+{
+    EXPECT_EQ(GetIniFolder(), application);
+    volumes.MakeReadOnly(u"C:\\Tools");
+    EXPECT_EQ(GetIniFolder(), application);
+}
+
+TEST_F(IniFolder, NoApplicationDataFolder_LeavesTheApplicationsOnly)
+{
+    pc.Get<Folders>().Path(CSIDL_APPDATA, u"");
+    EXPECT_EQ(helpers::GetUserDataFolder(true), TEXT(""));
+    volumes.MakeReadOnly(u"C:\\Tools");
+    EXPECT_EQ(GetIniFolder(), TEXT(""));
+}
+
+TEST_F(IniFolder, AccessCodes_AskForTheirRights)
+{
+    volumes.WriteFile(u"C:\\Tools\\a.txt", "");
+    pc.Get<Users>().Administrator(false);
+    volumes.SetRights(u"C:\\Tools\\a.txt", {.users = kReadOnlyRights});
+    const struct {
+        const WCHAR* path;
+        int code;
+        bool folder;
+        int result;
+    } cases[] = {
+        {TEXT("C:\\Tools\\a.txt"), helpers::ReadAccess, false, 1},
+        {TEXT("C:\\Tools\\a.txt"), helpers::WriteAccess, false, 0},
+        {TEXT("C:\\Tools\\a.txt"), helpers::ReadAndWriteAccess, false, 0},
+        {TEXT("C:\\Tools\\a.txt"), FILE_EXECUTE, false, 1},
+        {TEXT("C:\\Tools"), helpers::ReadAccess, true, 1},
+        {TEXT("C:\\Tools\\"), helpers::WriteAccess, true, 1},
+        {TEXT("C:\\Missing"), helpers::ReadAccess, true, -2},
+        {TEXT("Tools"), helpers::ReadAccess, true, -2},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(helpers::CheckPathAccess(c.path, c.code, c.folder), c.result) << &c - cases;
+    EXPECT_EQ(helpers::CheckFolderAccess(TEXT("C:\\Missing"), helpers::ReadAccess), -3);
+    volumes.AddVolume(u"\\\\server\\share\\");
+    volumes.MakeFolder(u"\\\\server\\share\\a");
+    EXPECT_EQ(helpers::CheckFolderAccess(TEXT("\\\\server\\share\\a"), helpers::ReadAndWriteAccess), 1);
+    EXPECT_EQ(pc.Get<Users>().Impersonation(), std::nullopt);
+}
+
+TEST_F(IniFolder, FailingSecurityCalls_CountAsNotUsable)
+{
+    const struct {
+        const char* function;
+        int result;
+    } cases[] = {
+        {"GetVolumeInformationW", -1}, {"GetFileSecurityW", -2}, {"OpenThreadToken", -2}, {"ImpersonateSelf", -2}, {"AccessCheck", 0}};
+    for (const auto& c : cases) {
+        pc.GetFaults().FailAlways(c.function, ERROR_ACCESS_DENIED);
+        EXPECT_EQ(helpers::CheckFolderAccess(application, helpers::ReadAccess), c.result) << c.function;
+        pc.GetFaults().Clear();
+        EXPECT_EQ(pc.Get<Users>().Impersonation(), std::nullopt);
+    }
+}
+
+}  // namespace

@@ -1,0 +1,141 @@
+// The order in which a thread gets what waits for it; timers; sending.
+#include "tests/support/MessageLog.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+using tests::MessageLog;
+
+std::vector<UINT> Take(UINT first = 0, UINT last = 0)
+{
+    std::vector<UINT> taken;
+    MSG message;
+    while (PeekMessageW(&message, nullptr, first, last, PM_REMOVE)) {
+        taken.push_back(message.message);
+        if (message.message == WM_PAINT)
+            ValidateRect(message.hwnd, nullptr);
+    }
+    return taken;
+}
+
+TEST(MessageQueue, PostedComeBeforeQuitBeforePaint)
+{
+    MessageLog log;
+    const HWND window = log.Create("top", WS_POPUP | WS_VISIBLE, nullptr, {10, 10, 60, 60});
+    tests::PumpMessages();
+    InvalidateRect(window, nullptr, FALSE);
+    PostQuitMessage(7);
+    PostMessageW(window, WM_APP + 1, 0, 0);
+    PostMessageW(window, WM_APP + 2, 0, 0);
+    EXPECT_EQ(Take(), (std::vector<UINT>{WM_APP + 1, WM_APP + 2, WM_QUIT, WM_PAINT}));
+    PostQuitMessage(9);
+    MSG message;
+    EXPECT_FALSE(GetMessageW(&message, nullptr, 0, 0));
+    EXPECT_EQ(message.wParam, 9u);
+    EXPECT_FALSE(PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) << "WM_QUIT comes once";
+    PostMessageW(window, WM_QUIT, 3, 0);
+    EXPECT_FALSE(GetMessageW(&message, nullptr, 0, 0)) << "a posted one ends the loop as well";
+}
+
+TEST(MessageQueue, Filters_LeaveTheRestWaiting)
+{
+    MessageLog log;
+    const HWND one = log.Create("one", WS_POPUP);
+    const HWND child = log.Create("child", WS_CHILD, one);
+    const HWND other = log.Create("other", WS_POPUP);
+    PostMessageW(other, WM_APP + 1, 0, 0);
+    PostMessageW(child, WM_APP + 2, 0, 0);
+    PostMessageW(nullptr, WM_APP + 3, 0, 0);
+    MSG message;
+    EXPECT_TRUE(PeekMessageW(&message, one, 0, 0, PM_NOREMOVE));
+    EXPECT_EQ(message.hwnd, child) << "a window's children belong to it";
+    EXPECT_EQ(Take(WM_APP + 3, WM_APP + 3), (std::vector<UINT>{WM_APP + 3}));
+    DestroyWindow(other);
+    EXPECT_EQ(Take(WM_APP, WM_APP + 9), (std::vector<UINT>{WM_APP + 2})) << "what waited for a dead window is gone";
+}
+
+TEST(MessageQueue, DeadWindow_RefusesMessages)
+{
+    MessageLog log;
+    const HWND window = log.Create("top", WS_POPUP);
+    DestroyWindow(window);
+    DWORD_PTR result = 5;
+    SetLastError(0);
+    EXPECT_FALSE(PostMessageW(window, WM_APP, 0, 0));
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_WINDOW_HANDLE));
+    EXPECT_EQ(SendMessageW(window, WM_APP, 0, 0), 0);
+    SetLastError(0);
+    EXPECT_EQ(SendMessageTimeoutW(window, WM_APP, 0, 0, SMTO_NORMAL, 100, &result), 0);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_WINDOW_HANDLE));
+    EXPECT_FALSE(SendNotifyMessageW(window, WM_APP, 0, 0));
+}
+
+TEST(Timer, FiresAfterEachPeriodAndOnlyWhenNothingElseWaits)
+{
+    MessageLog log;
+    const HWND window = log.Create("top", WS_POPUP);
+    log.Clear();
+    EXPECT_NE(SetTimer(window, 7, 50, nullptr), 0u);
+    tests::PumpMessages(10);
+    EXPECT_TRUE(log.Is({})) << "too early";
+    tests::PumpMessages(165);
+    EXPECT_TRUE(log.Is({"top WM_TIMER 7", "top WM_TIMER 7", "top WM_TIMER 7"}));
+    EXPECT_TRUE(KillTimer(window, 7));
+    EXPECT_FALSE(KillTimer(window, 7));
+    tests::PumpMessages(120);
+    EXPECT_TRUE(log.Is({}));
+
+    // Periods that pass unheard become one message, and a posted message comes first.
+    SetTimer(window, 8, 20, nullptr);
+    const DWORD start = GetTickCount();
+    while (GetTickCount() - start < 100)
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, 100 - (GetTickCount() - start), 0);
+    PostMessageW(window, WM_APP, 0, 0);
+    const std::vector<UINT> taken = Take();
+    ASSERT_GE(taken.size(), 2u);
+    EXPECT_EQ(taken[0], static_cast<UINT>(WM_APP));
+    EXPECT_EQ(std::count(taken.begin(), taken.end(), static_cast<UINT>(WM_TIMER)), 1);
+    DestroyWindow(window);
+    EXPECT_EQ(Take(), std::vector<UINT>{}) << "timers go with their window";
+}
+
+int called = 0;
+
+void CALLBACK CountCall(HWND, UINT, UINT_PTR, DWORD)
+{
+    ++called;
+}
+
+TEST(Timer, Callback_IsCalledInsteadOfTheWindow)
+{
+    MessageLog log;
+    const HWND window = log.Create("top", WS_POPUP);
+    log.Clear();
+    called = 0;
+    SetTimer(window, 1, 20, CountCall);
+    const UINT_PTR own = SetTimer(nullptr, 0, 20, CountCall);
+    EXPECT_NE(own, 0u);
+    tests::PumpMessages(30);
+    EXPECT_EQ(called, 2);
+    EXPECT_TRUE(log.Is({}));
+    EXPECT_TRUE(KillTimer(nullptr, own));
+}
+
+TEST(MessageQueue, Waiting_EndsWithWhatIsAskedFor)
+{
+    MessageLog log;
+    const HWND window = log.Create("top", WS_POPUP);
+    const DWORD start = GetTickCount();
+    EXPECT_EQ(MsgWaitForMultipleObjects(0, nullptr, FALSE, 40, QS_POSTMESSAGE), static_cast<DWORD>(WAIT_TIMEOUT));
+    EXPECT_GE(GetTickCount() - start, 35u);
+    PostMessageW(window, WM_APP, 0, 0);
+    EXPECT_EQ(HIWORD(GetQueueStatus(QS_POSTMESSAGE)), QS_POSTMESSAGE);
+    EXPECT_EQ(Take(), (std::vector<UINT>{WM_APP}));
+    EXPECT_EQ(HIWORD(GetQueueStatus(QS_POSTMESSAGE)), 0);
+    SetTimer(window, 1, 20, nullptr);
+    EXPECT_EQ(MsgWaitForMultipleObjects(0, nullptr, FALSE, 5000, QS_TIMER), 0u);
+}
+
+}  // namespace

@@ -1,0 +1,149 @@
+// What has to be painted, when it is asked for, and what painting may touch.
+#include "tests/support/MessageLog.h"
+
+namespace {
+
+using tests::MessageLog;
+
+constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr COLORREF kBlue = RGB(0, 0, 255);
+
+/// A popup and a child in its corner, both painted and at rest.
+class Painting : public testing::Test {
+protected:
+    Painting()
+        : top_(log_.Create("top", WS_POPUP | WS_VISIBLE, nullptr, {100, 100, 300, 250})),
+          child_(log_.Create("child", WS_CHILD | WS_VISIBLE, top_, {20, 20, 70, 60}))
+    {
+        log_.Also(WM_PAINT);
+        log_.Also(WM_ERASEBKGND);
+        tests::PumpMessages(20);
+        log_.Clear();
+    }
+
+    void Fill(HWND window, COLORREF color, RECT area = {0, 0, 400, 400})
+    {
+        const HDC dc = GetDC(window);
+        const HBRUSH brush = CreateSolidBrush(color);
+        FillRect(dc, &area, brush);
+        DeleteObject(brush);
+        ReleaseDC(window, dc);
+    }
+    COLORREF PixelOf(HWND window, int x, int y)
+    {
+        const HDC dc = GetDC(window);
+        const COLORREF color = GetPixel(dc, x, y);
+        ReleaseDC(window, dc);
+        return color;
+    }
+    RECT UpdateArea(HWND window)
+    {
+        RECT area{};
+        GetUpdateRect(window, &area, FALSE);
+        return area;
+    }
+
+    MessageLog log_;
+    HWND top_;
+    HWND child_;
+};
+
+TEST_F(Painting, Invalid_IsCollectedPaintedOnceAndThenValid)
+{
+    const RECT one{100, 10, 110, 20}, other{150, 80, 160, 95}, outside{-50, -50, -10, -10};
+    InvalidateRect(top_, &one, FALSE);
+    InvalidateRect(top_, &other, FALSE);
+    InvalidateRect(top_, &outside, FALSE);
+    const RECT area = UpdateArea(top_);
+    EXPECT_EQ(area.left, 100);
+    EXPECT_EQ(area.top, 10);
+    EXPECT_EQ(area.right, 160);
+    EXPECT_EQ(area.bottom, 95);
+    tests::PumpMessages(20);
+    EXPECT_TRUE(log_.Is({WM_PAINT, WM_ERASEBKGND}, {"top WM_PAINT"})) << "without the background";
+    EXPECT_FALSE(GetUpdateRect(top_, nullptr, FALSE));
+    InvalidateRect(top_, &one, TRUE);
+    UpdateWindow(top_);
+    EXPECT_TRUE(log_.Is({WM_PAINT, WM_ERASEBKGND}, {"top WM_PAINT", "top WM_ERASEBKGND"})) << "at once, with the background";
+    InvalidateRect(top_, nullptr, FALSE);
+    ValidateRect(top_, nullptr);
+    tests::PumpMessages(20);
+    EXPECT_TRUE(log_.Is({WM_PAINT}, {}));
+}
+
+TEST_F(Painting, Children_AreInvalidWithTheirParentUnlessItClipsThem)
+{
+    InvalidateRect(top_, nullptr, TRUE);
+    tests::PumpMessages(20);
+    EXPECT_TRUE(log_.Is({WM_PAINT}, {"top WM_PAINT", "child WM_PAINT"}));
+    SetWindowLongW(top_, GWL_STYLE, GetWindowLongW(top_, GWL_STYLE) | static_cast<LONG>(WS_CLIPCHILDREN));
+    InvalidateRect(top_, nullptr, TRUE);
+    tests::PumpMessages(20);
+    EXPECT_TRUE(log_.Is({WM_PAINT}, {"top WM_PAINT"}));
+    RedrawWindow(top_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    EXPECT_TRUE(log_.Is({WM_PAINT}, {"top WM_PAINT", "child WM_PAINT"}));
+}
+
+TEST_F(Painting, DeviceContext_IsClippedToWhatCanBeSeen)
+{
+    Fill(child_, kBlue);
+    EXPECT_EQ(PixelOf(top_, 20, 20), kBlue);
+    EXPECT_EQ(PixelOf(top_, 69, 59), kBlue);
+    EXPECT_NE(PixelOf(top_, 70, 59), kBlue) << "a child draws inside itself only";
+    Fill(top_, kRed);
+    EXPECT_EQ(PixelOf(child_, 5, 5), kRed) << "a parent draws over its children";
+    SetWindowLongW(top_, GWL_STYLE, GetWindowLongW(top_, GWL_STYLE) | static_cast<LONG>(WS_CLIPCHILDREN));
+    Fill(child_, kBlue);
+    Fill(top_, kRed);
+    EXPECT_EQ(PixelOf(child_, 5, 5), kBlue) << "unless it clips them";
+    EXPECT_EQ(PixelOf(top_, 5, 5), kRed);
+    const HWND behind = log_.Create("behind", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, top_, {40, 20, 90, 60});
+    Fill(behind, kRed);
+    EXPECT_EQ(PixelOf(child_, 25, 5), kBlue) << "a sibling in front";
+    EXPECT_EQ(PixelOf(behind, 40, 5), kRed);
+}
+
+TEST_F(Painting, HiddenWindow_IsNotPaintedUntilItIsShown)
+{
+    ShowWindow(child_, SW_HIDE);
+    tests::PumpMessages(20);
+    log_.Clear();
+    InvalidateRect(child_, nullptr, TRUE);
+    EXPECT_FALSE(GetUpdateRect(child_, nullptr, FALSE));
+    tests::PumpMessages(20);
+    EXPECT_TRUE(log_.Is({WM_PAINT}, {}));
+    ShowWindow(child_, SW_SHOW);
+    tests::PumpMessages(20);
+    EXPECT_TRUE(log_.Is({WM_PAINT}, {"child WM_PAINT"}));
+}
+
+TEST_F(Painting, HidingAndMoving_ExposeTheParent)
+{
+    Fill(top_, kRed);
+    Fill(child_, kBlue);
+    MoveWindow(child_, 120, 20, 50, 40, TRUE);
+    tests::PumpMessages(20);
+    EXPECT_EQ(PixelOf(top_, 30, 30), GetSysColor(COLOR_BTNFACE)) << "the background comes back where it was";
+    EXPECT_EQ(PixelOf(top_, 5, 5), kRed) << "and nowhere else";
+    ShowWindow(child_, SW_HIDE);
+    tests::PumpMessages(20);
+    EXPECT_EQ(PixelOf(top_, 130, 30), GetSysColor(COLOR_BTNFACE));
+}
+
+TEST_F(Painting, PaintStruct_TellsTheAreaAndTheBackground)
+{
+    static PAINTSTRUCT seen;
+    log_.Answer(WM_ERASEBKGND, FALSE);
+    log_.On(WM_PAINT, [](HWND window) {
+        BeginPaint(window, &seen);
+        EndPaint(window, &seen);
+    });
+    const RECT part{100, 10, 110, 20};
+    InvalidateRect(top_, &part, TRUE);
+    UpdateWindow(top_);
+    EXPECT_EQ(seen.rcPaint.left, 100);
+    EXPECT_EQ(seen.rcPaint.bottom, 20);
+    EXPECT_TRUE(seen.fErase) << "WM_ERASEBKGND was answered with FALSE";
+}
+
+}  // namespace

@@ -1,0 +1,156 @@
+// Moving, sizing and ordering windows; their rectangles and styles.
+#include "tests/support/MessageLog.h"
+
+namespace {
+
+using tests::MessageLog;
+
+constexpr DWORD kTop = WS_OVERLAPPEDWINDOW;
+constexpr DWORD kChild = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS;
+
+TEST(WindowPlacement, SizeAndMove_FollowFromWhatChanged)
+{
+    MessageLog log;
+    const HWND top = log.Create("top", kTop | WS_VISIBLE);
+    const HWND child = log.Create("child", kChild, top, {10, 10, 60, 40});
+    log.Clear();
+    MoveWindow(child, 12, 12, 60, 40, TRUE);
+    EXPECT_TRUE(
+        log.Is({"child WM_WINDOWPOSCHANGING", "child WM_NCCALCSIZE", "child WM_WINDOWPOSCHANGED", "child WM_MOVE", "child WM_SIZE"}));
+    MoveWindow(child, 14, 12, 60, 40, TRUE);
+    EXPECT_TRUE(log.Is({"child WM_WINDOWPOSCHANGING", "child WM_WINDOWPOSCHANGED", "child WM_MOVE"}));
+    MoveWindow(child, 14, 12, 60, 40, TRUE);
+    EXPECT_TRUE(log.Is({"child WM_WINDOWPOSCHANGING"})) << "nothing changed";
+    SetWindowPos(child, nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+    EXPECT_TRUE(log.Is({"child WM_WINDOWPOSCHANGING", "child WM_NCCALCSIZE", "child WM_WINDOWPOSCHANGED"}));
+    SetWindowPos(child, nullptr, 0, 0, 70, 50, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOSENDCHANGING);
+    EXPECT_TRUE(log.Is({"child WM_NCCALCSIZE", "child WM_WINDOWPOSCHANGED", "child WM_SIZE"}));
+}
+
+TEST(WindowPlacement, NewChild_StandsBehindItsSiblings)
+{
+    MessageLog log;
+    const HWND top = log.Create("top", kTop);
+    const HWND first = log.Create("first", kChild, top);
+    const HWND second = log.Create("second", kChild, top);
+    const HWND third = log.Create("third", kChild, top);
+    EXPECT_EQ(GetWindow(top, GW_CHILD), first);
+    EXPECT_EQ(GetWindow(first, GW_HWNDNEXT), second);
+    EXPECT_EQ(GetWindow(first, GW_HWNDLAST), third);
+    SetWindowPos(third, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    EXPECT_EQ(GetWindow(top, GW_CHILD), third);
+    SetWindowPos(third, first, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    EXPECT_EQ(GetWindow(third, GW_HWNDPREV), first);
+    EXPECT_EQ(GetWindow(third, GW_HWNDNEXT), second);
+    SetWindowPos(first, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    EXPECT_EQ(GetWindow(second, GW_HWNDNEXT), first);
+}
+
+TEST(WindowPlacement, ClientArea_IsWhatTheFrameLeaves)
+{
+    MessageLog log;
+    const struct {
+        DWORD style, exStyle;
+    } styles[] = {{kTop, 0},
+                  {WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX, 0},
+                  {WS_POPUP, 0},
+                  {WS_POPUP | WS_BORDER, 0},
+                  {WS_POPUP | WS_DLGFRAME, 0},
+                  {WS_POPUP | WS_BORDER, WS_EX_CLIENTEDGE},
+                  {WS_POPUP | WS_CAPTION, WS_EX_DLGMODALFRAME}};
+    for (const auto& [style, exStyle] : styles) {
+        SCOPED_TRACE(testing::Message() << std::hex << style << " " << exStyle);
+        const HWND window = log.Create("top", style, nullptr, {100, 90, 400, 290}, exStyle);
+        RECT frame, client, expected{0, 0, 0, 0};
+        GetWindowRect(window, &frame);
+        GetClientRect(window, &client);
+        AdjustWindowRectEx(&expected, style, FALSE, exStyle);
+        POINT origin{0, 0};
+        ClientToScreen(window, &origin);
+        EXPECT_EQ(origin.x, frame.left - expected.left);
+        EXPECT_EQ(origin.y, frame.top - expected.top);
+        EXPECT_EQ(client.right, frame.right - frame.left - (expected.right - expected.left));
+        EXPECT_EQ(client.bottom, frame.bottom - frame.top - (expected.bottom - expected.top));
+        EXPECT_EQ(SendMessageW(window, WM_NCHITTEST, 0, MAKELPARAM(origin.x, origin.y)), HTCLIENT);
+        if ((style & WS_CAPTION) == WS_CAPTION) {
+            EXPECT_EQ(SendMessageW(window, WM_NCHITTEST, 0, MAKELPARAM(origin.x + 40, origin.y - 8)), HTCAPTION);
+        }
+        EXPECT_EQ(SendMessageW(window, WM_NCHITTEST, 0, MAKELPARAM(frame.left - 1, frame.top)), HTNOWHERE);
+        DestroyWindow(window);
+    }
+}
+
+TEST(WindowPlacement, Points_AreMappedBetweenWindows)
+{
+    MessageLog log;
+    const HWND top = log.Create("top", WS_POPUP | WS_VISIBLE, nullptr, {100, 90, 400, 290});
+    const HWND child = log.Create("child", kChild | WS_BORDER, top, {20, 30, 120, 80});
+    POINT points[] = {{0, 0}, {5, 7}};
+    const int border = GetSystemMetrics(SM_CXBORDER);
+    EXPECT_EQ(MapWindowPoints(child, top, points, 2), MAKELONG(20 + border, 30 + border));
+    EXPECT_EQ(points[1].x, 25 + border);
+    EXPECT_EQ(points[1].y, 37 + border);
+    MapWindowPoints(top, nullptr, points, 1);
+    EXPECT_EQ(points[0].x, 120 + border);
+    MoveWindow(top, 200, 190, 300, 200, FALSE);
+    RECT moved;
+    GetWindowRect(child, &moved);
+    EXPECT_EQ(moved.left, 220) << "children come along";
+    EXPECT_EQ(moved.top, 220);
+}
+
+TEST(WindowPlacement, Style_TellsBeforeAndAfterAndIsCompleted)
+{
+    MessageLog log;
+    const HWND top = log.Create("top", WS_OVERLAPPED);
+    EXPECT_EQ(GetWindowLongW(top, GWL_STYLE), static_cast<LONG>(WS_CAPTION | WS_CLIPSIBLINGS));
+    EXPECT_EQ(GetWindowLongW(top, GWL_EXSTYLE), static_cast<LONG>(WS_EX_WINDOWEDGE));
+    const HWND child = log.Create("child", WS_CHILD, top);
+    log.Clear();
+    EXPECT_EQ(SetWindowLongW(child, GWL_STYLE, static_cast<LONG>(WS_CHILD | WS_BORDER)), static_cast<LONG>(WS_CHILD));
+    EXPECT_TRUE(log.Is({"child WM_STYLECHANGING", "child WM_STYLECHANGED"}));
+    RECT client;
+    GetClientRect(child, &client);
+    EXPECT_EQ(client.right, 200) << "the frame changes only when it is calculated anew";
+    SetWindowPos(child, nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_FRAMECHANGED);
+    GetClientRect(child, &client);
+    EXPECT_EQ(client.right, 200 - 2 * GetSystemMetrics(SM_CXBORDER));
+}
+
+TEST(WindowPlacement, SetParent_KeepsThePlaceRelativeToTheParent)
+{
+    MessageLog log;
+    const HWND one = log.Create("one", WS_POPUP, nullptr, {100, 100, 300, 300});
+    const HWND other = log.Create("other", WS_POPUP, nullptr, {500, 200, 700, 400});
+    const HWND sibling = log.Create("sibling", WS_CHILD, other, {0, 0, 10, 10});
+    const HWND child = log.Create("child", WS_CHILD, one, {10, 20, 60, 50});
+    EXPECT_EQ(SetParent(child, other), one);
+    EXPECT_EQ(GetParent(child), other);
+    RECT place;
+    GetWindowRect(child, &place);
+    EXPECT_EQ(place.left, 510);
+    EXPECT_EQ(place.top, 220);
+    EXPECT_EQ(GetWindow(other, GW_CHILD), child) << "in front of those that were there";
+    EXPECT_EQ(GetWindow(child, GW_HWNDNEXT), sibling);
+}
+
+TEST(WindowPlacement, Shape_LimitsWhatTheMouseFinds)
+{
+    MessageLog log;
+    const HWND top = log.Create("top", WS_POPUP | WS_VISIBLE, nullptr, {100, 100, 200, 200});
+    const HRGN region = CreateRectRgn(0, 0, 50, 100);
+    EXPECT_NE(SetWindowRgn(top, region, TRUE), 0);
+    const HRGN copy = CreateRectRgn(0, 0, 1, 1);
+    EXPECT_EQ(GetWindowRgn(top, copy), SIMPLEREGION);
+    RECT box;
+    GetRgnBox(copy, &box);
+    EXPECT_EQ(box.right, 50);
+    EXPECT_EQ(WindowFromPoint(POINT{120, 120}), top);
+    EXPECT_NE(WindowFromPoint(POINT{180, 120}), top);
+    SetWindowRgn(top, nullptr, TRUE);
+    EXPECT_EQ(GetWindowRgn(top, copy), ERROR);
+    EXPECT_EQ(WindowFromPoint(POINT{180, 120}), top);
+    DeleteObject(copy);
+}
+
+}  // namespace

@@ -1,0 +1,193 @@
+#include "controls/CheckBox/CheckBox.h"
+
+#include "tests/controls/FormFixture.h"
+
+namespace tests {
+
+class CheckBox : public FormFixture {
+protected:
+    void SetUp() override
+    {
+        Open(R"(CheckBox Box { Width = 1500 Height = 300 TabIndex = 1 Caption = "A box" }
+            CheckBox Other { Top = 900 Width = 1500 Height = 300 TabIndex = 2 Caption = "Other" Value = 1 })");
+        Box().Click.Connect([&] { Note("Click " + std::to_string(Box().Value())); });
+    }
+    controls::CheckBox& Box() { return Get<controls::CheckBox>("Box"); }
+    DWORD Style() { return static_cast<DWORD>(GetWindowLongW(Box().hWnd(), GWL_STYLE)); }
+};
+
+TEST_F(CheckBox, ClickOnAnything_MakesItCheckedOrUnchecked)
+{
+    const std::pair<int, int> cases[] = {{controls::Unchecked, 1}, {controls::Checked, 0}, {controls::Grayed, 0}};
+    for (const auto& [before, after] : cases) {
+        Box().Value(before);
+        Take();
+        Click(Box().hWnd());
+        EXPECT_EQ(Take(), Lines{"Click " + std::to_string(after)}) << before;
+    }
+    Press(VK_SPACE);
+    EXPECT_EQ(Take(), Lines{"Click 1"});
+    Press(VK_RETURN);
+    Press(VK_ESCAPE);
+    EXPECT_EQ(Take(), Lines{});
+}
+
+TEST_F(CheckBox, Value_MapsAndRaisesOnlyChanges)
+{
+    Box().Value(-1);
+    EXPECT_EQ(Take(), Lines{"Click 1"});
+    Box().Value(1);
+    EXPECT_EQ(Take(), Lines{});
+    Box().Value(-1);
+    EXPECT_EQ(Take(), Lines{"Click 1"}) << "compared before it is mapped";
+    Box().Value(5);
+    EXPECT_EQ(Take(), Lines{"Click 0"});
+    Box().Default(2);
+    EXPECT_EQ(Take(), Lines{"Click 2"});
+    EXPECT_EQ(SendMessageW(Box().hWnd(), BM_GETCHECK, 0, 0), BST_INDETERMINATE);
+    EXPECT_EQ(SendMessageW(Any("Other").hWnd(), BM_GETCHECK, 0, 0), BST_CHECKED) << "a stored value is shown";
+}
+
+TEST_F(CheckBox, NewWindow_KeepsFocusValueAndText)
+{
+    Box().SetFocus();
+    Box().Value(2);
+    const HWND before = Box().hWnd();
+    Box().Style(1);
+    EXPECT_NE(Box().hWnd(), before);
+    EXPECT_FALSE(IsWindow(before));
+    EXPECT_EQ(Focused(), "Box");
+    EXPECT_EQ(form->ActiveControl(), &Box());
+    EXPECT_EQ(Box().Value(), 2);
+    EXPECT_EQ(Box().Caption(), TEXT("A box"));
+    EXPECT_NE(Style() & BS_PUSHLIKE, 0U);
+    Press(VK_SPACE);
+    EXPECT_EQ(Box().Value(), 0) << "and its keys";
+}
+
+TEST_F(CheckBox, Properties_BecomeWindowStyles)
+{
+    Box().Alignment(controls::TextCenter);
+    EXPECT_EQ(Style() & BS_CENTER, static_cast<DWORD>(BS_CENTER));
+    Box().Alignment(7);
+    EXPECT_EQ(Style() & BS_CENTER, static_cast<DWORD>(BS_LEFT));
+    Box().MultiLine(true);
+    EXPECT_NE(Style() & BS_MULTILINE, 0U);
+    Box().AlignRight(true);
+    EXPECT_NE(Style() & BS_LEFTTEXT, 0U);
+    EXPECT_NE(Style() & BS_MULTILINE, 0U);
+    EXPECT_EQ(Style() & 0xF, static_cast<DWORD>(BS_3STATE));
+    const std::tuple<std::uint8_t, DWORD, DWORD> borders[] = {{controls::BorderSingle, WS_BORDER, 0},
+                                                              {controls::BorderStatic, 0, WS_EX_STATICEDGE},
+                                                              {controls::BorderSunken, 0, WS_EX_CLIENTEDGE},
+                                                              {controls::BorderRaised, WS_DLGFRAME, 0},
+                                                              {controls::BorderNone, 0, 0}};
+    for (const auto& [border, style, extendedStyle] : borders) {
+        Box().BorderStyle(border);
+        EXPECT_EQ(Style() & (WS_BORDER | WS_DLGFRAME), style) << int{border};
+        EXPECT_EQ(static_cast<DWORD>(GetWindowLongW(Box().hWnd(), GWL_EXSTYLE)) & (WS_EX_STATICEDGE | WS_EX_CLIENTEDGE), extendedStyle);
+    }
+}
+
+TEST_F(CheckBox, Window_CoversTheControl)
+{
+    const auto check = [&] {
+        RECT own{}, hosted{};
+        GetWindowRect(Box().OwnHandle(), &own);
+        GetWindowRect(Box().hWnd(), &hosted);
+        EXPECT_TRUE(EqualRect(&own, &hosted));
+        EXPECT_EQ(WindowFromPoint({(own.left + own.right) / 2, (own.top + own.bottom) / 2}), Box().hWnd());
+    };
+    check();
+    Box().GetExtender().Move(300, 600, 2100, 450);
+    Box().Refresh();
+    check();
+    Box().BorderStyle(controls::BorderSingle);
+    check();
+    Box().GetExtender().Visible(false);
+    EXPECT_FALSE(IsWindowVisible(Box().hWnd()));
+    Box().GetExtender().Visible(true);
+    EXPECT_TRUE(IsWindowVisible(Box().hWnd()));
+}
+
+TEST_F(CheckBox, AutoSize_FollowsTheCaptionAndExcludesFontAutoSize)
+{
+    SIZE text{};
+    Box().AutoSize(true);
+    Box().Caption(TEXT("A rather long caption"));
+    GetTextExtentPoint32W(Box().GetSurface().Dc(), TEXT("A rather long caption"), 21, &text);
+    RECT window{};
+    GetWindowRect(Box().hWnd(), &window);
+    EXPECT_EQ(window.right - window.left, text.cx + GetSystemMetrics(SM_CXMENUCHECK) + 4 * GetSystemMetrics(SM_CXEDGE));
+    EXPECT_EQ(window.bottom - window.top, 20);
+    Box().FontAutoSize(true);
+    EXPECT_FALSE(Box().AutoSize());
+    Box().AutoSize(true);
+    EXPECT_FALSE(Box().FontAutoSize());
+}
+
+TEST_F(CheckBox, FontAutoSize_NarrowsTheFont)
+{
+    const auto fontWidth = [&] {
+        LOGFONTW font{};
+        GetObjectW(reinterpret_cast<HFONT>(SendMessageW(Box().hWnd(), WM_GETFONT, 0, 0)), sizeof font, &font);
+        return font.lfWidth;
+    };
+    Box().FontAutoSize(true);
+    Box().Caption(TEXT("Much too long for a box that is 100 pixels wide"));
+    const LONG narrow = fontWidth();
+    EXPECT_GT(narrow, 0);
+    Box().Caption(TEXT("x"));
+    EXPECT_EQ(fontWidth(), 0) << "the font's own width again";
+}
+
+TEST_F(CheckBox, Colors_AreGivenToTheButton)
+{
+    Box().ForeColor(0x123456);
+    Box().BackColor(0x0000FF);
+    const HDC dc = GetDC(Box().hWnd());
+    const auto brush = reinterpret_cast<HBRUSH>(
+        SendMessageW(form->hWnd(), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(Box().hWnd())));
+    LOGBRUSH description{};
+    GetObjectW(brush, sizeof description, &description);
+    EXPECT_EQ(description.lbColor, 0x0000FFU);
+    EXPECT_EQ(GetTextColor(dc), 0x123456U);
+    EXPECT_EQ(GetBkColor(dc), 0x0000FFU);
+
+    Box().Transparent(true);
+    const auto ask = [&] {
+        return SendMessageW(form->hWnd(), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(Box().hWnd()));
+    };
+    const LRESULT pattern = ask();
+    GetObjectW(reinterpret_cast<HBRUSH>(pattern), sizeof description, &description);
+    EXPECT_EQ(description.lbStyle, static_cast<UINT>(BS_PATTERN));
+    EXPECT_EQ(ask(), pattern) << "made once";
+    EXPECT_EQ(GetBkMode(dc), TRANSPARENT);
+    ReleaseDC(Box().hWnd(), dc);
+}
+
+TEST_F(CheckBox, DisabledWithFocus_PassesItOn)
+{
+    Box().SetFocus();
+    Box().Enabled(false);
+    EXPECT_FALSE(IsWindowEnabled(Box().hWnd()));
+    EXPECT_EQ(Focused(), "Other");
+    Box().Enabled(true);
+    EXPECT_TRUE(IsWindowEnabled(Box().hWnd()));
+}
+
+TEST_F(CheckBox, KeysAndContextMenu_RaiseEvents)
+{
+    Box().KeyDown.Connect(
+        [&](std::int16_t& code, std::int16_t& shift) { Note("down " + std::to_string(code) + " " + std::to_string(shift)); });
+    Box().KeyUp.Connect([&](std::int16_t& code, std::int16_t&) { Note("up " + std::to_string(code)); });
+    Box().KeyPress.Connect([&](std::int16_t& code) { Note("press " + std::to_string(code)); });
+    Box().ContextMenu.Connect([&] { Note("menu"); });
+    Box().SetFocus();
+    Press('A');
+    EXPECT_EQ(Take(), (Lines{"down 65 0", "press 97", "up 65"}));
+    SendMessageW(Box().hWnd(), WM_CONTEXTMENU, 0, 0);
+    EXPECT_EQ(Take(), Lines{"menu"});
+}
+
+}  // namespace tests

@@ -1,0 +1,143 @@
+#include "controls/CommandButton/CommandButton.h"
+
+#include "controls/ColorArithmetic.h"
+#include "controls/CommandButton/CommandButtonStyles.h"
+#include "controls/Gradient.h"
+#include "tests/controls/FormFixture.h"
+
+#include <uxtheme.h>
+
+namespace tests {
+
+class Rendering : public FormFixture {
+protected:
+    void SetUp() override
+    {
+        Open(R"(CommandButton Other { Left = 3000 Width = 1500 Height = 450 TabIndex = 0 }
+            CommandButton B { Width = 1500 Height = 450 TabIndex = 1 Caption = "" USeCustomColors = 1 BackColor = 0x00C08040 HighlightColor = 0x00204060 })");
+    }
+    controls::CommandButton& Button() { return Get<controls::CommandButton>("B"); }
+    COLORREF Pixel(int x, int y) { return GetPixel(Button().GetSurface().Dc(), x, y); }
+    void Mouse(UINT message, WPARAM keys = 0) { SendMessageW(Button().hWnd(), message, keys, MAKELPARAM(5, 6)); }
+
+    static constexpr COLORREF color = 0xC08040, white = 0xFFFFFF;
+    static constexpr int width = 100, height = 30;
+};
+
+TEST_F(Rendering, SoftRoundStyle_HasItsShadesInEveryState)
+{
+    using controls::Mix;
+    using controls::ShiftByFraction;
+    Button().Style(controls::SoftRoundStyle);
+    const auto check = [&](COLORREF bandTop, COLORREF bodyTop, COLORREF frame, const char* state) {
+        EXPECT_EQ(Pixel(width / 2, 0), frame) << state;
+        EXPECT_EQ(Pixel(0, height / 2), frame) << state;
+        EXPECT_EQ(Pixel(width / 2, 1), controls::ColorRamp(bandTop, color, 4).at(1)) << state;
+        EXPECT_EQ(Pixel(width / 2, 4), color) << state << ": the band ends in the colour itself";
+        EXPECT_EQ(Pixel(width / 2, 5), ShiftByFraction(color, -0.03)) << state << ": row 5 keeps the fill";
+        EXPECT_EQ(Pixel(width / 2, 6), bodyTop) << state;
+        EXPECT_EQ(Pixel(1, 1), ShiftByFraction(color, -0.36)) << state;
+        EXPECT_EQ(Pixel(width - 2, height - 2), ShiftByFraction(color, -0.36)) << state;
+    };
+    check(ShiftByFraction(Mix(color, white), 0.1), ShiftByFraction(color, -0.05), ShiftByFraction(color, -0.33), "normal");
+    Mouse(WM_MOUSEMOVE);
+    check(ShiftByFraction(Mix(color, white), 0.15), ShiftByFraction(color, -0.03), ShiftByFraction(color, -0.28), "hot");
+    Mouse(WM_LBUTTONDOWN, MK_LBUTTON);
+    Button().ShowFocus(false);
+    check(ShiftByFraction(Mix(color, 2), 0.22), ShiftByFraction(color, -0.08), ShiftByFraction(color, -0.36), "pressed");
+    Mouse(WM_LBUTTONUP);
+    Button().BackColorDisabled(color);
+    Button().Enabled(false);
+    EXPECT_EQ(Pixel(width / 2, 0), ShiftByFraction(color, -0.2));
+    EXPECT_EQ(Pixel(width / 2, 5), color);
+    EXPECT_EQ(Pixel(1, height - 2), ShiftByFraction(color, -0.23));
+}
+
+TEST_F(Rendering, RoundCorners_AreCutFromTheWindow)
+{
+    const auto isInside = [&](int x, int y) {
+        const HRGN region = CreateRectRgn(0, 0, 0, 0);
+        GetWindowRgn(Button().hWnd(), region);
+        const bool inside = PtInRegion(region, x, y) != FALSE;
+        DeleteObject(region);
+        return inside;
+    };
+    Button().Style(controls::SoftRoundStyle);
+    EXPECT_FALSE(isInside(0, 0));
+    EXPECT_FALSE(isInside(width - 1, height - 1));
+    EXPECT_TRUE(isInside(width / 2, 0));
+    EXPECT_TRUE(isInside(width / 2, height - 1));
+    Button().Style(controls::ClassicStyle);
+    EXPECT_TRUE(isInside(0, 0));
+    EXPECT_TRUE(isInside(width - 1, height - 1));
+}
+
+TEST_F(Rendering, ClassicStyle_FillsAndBorders)
+{
+    Button().Style(controls::ClassicStyle);
+    EXPECT_EQ(Pixel(50, 15), color);
+    EXPECT_EQ(Pixel(0, 0), GetSysColor(COLOR_3DLIGHT));
+    EXPECT_EQ(Pixel(1, 1), GetSysColor(COLOR_BTNHIGHLIGHT));
+    EXPECT_EQ(Pixel(width - 1, height - 1), GetSysColor(COLOR_3DDKSHADOW));
+    Button().ContourStyle(controls::ContourNone);
+    EXPECT_EQ(Pixel(0, 0), color);
+    Button().GetExtender().Default(true);
+    Button().DrawControl();
+    EXPECT_EQ(Pixel(0, 0), 0U) << "a default button has a black outline";
+
+    Button().ButtonType(controls::ToggleButton);
+    Button().Value(1);
+    EXPECT_EQ(Pixel(50, 14), GetSysColor(COLOR_BTNFACE));
+    EXPECT_EQ(Pixel(51, 14), color);
+    EXPECT_EQ(Pixel(50, 15), color);
+    EXPECT_EQ(Pixel(51, 15), GetSysColor(COLOR_BTNFACE));
+}
+
+TEST_F(Rendering, ThemeStyle_FallsBackWithoutThemes)
+{
+    Button().NonThemeStyle(controls::SoftRoundStyle);
+    Button().Style(controls::ThemeStyle);
+    const COLORREF frame = controls::ShiftByFraction(color, -0.33);
+    EXPECT_NE(Pixel(50, 0), frame);
+    EnableTheming(FALSE);
+    SendMessageW(Button().hWnd(), WM_THEMECHANGED, 0, 0);
+    EXPECT_EQ(Pixel(50, 0), frame);
+    EnableTheming(TRUE);
+}
+
+TEST_F(Rendering, FocusRectangle_ComesWithFocusAndShowFocus)
+{
+    Button().Style(controls::SoftRoundStyle);
+    Button().SetFocus();
+    const COLORREF without = Pixel(2, 10);
+    Button().ShowFocus(true);
+    EXPECT_TRUE(Pixel(2, 10) != without || Pixel(2, 11) != without);
+    EXPECT_EQ(controls::FindButtonStyle(controls::SoftRoundStyle)->focusInset, 2);
+    Get<controls::CommandButton>("Other").SetFocus();
+    EXPECT_EQ(Pixel(2, 10), without);
+}
+
+TEST(CommandButtonLayout, Caption_StandsWhereItsAlignmentSays)
+{
+    using namespace controls;
+    // A text block of 40 by 13 pixels in a button of 100 by 30.
+    const RECT block{0, 3, 40, 16};
+    const struct {
+        std::int32_t align;
+        RECT place;
+        UINT format;
+    } cases[] = {{AlignCentre, {30, 9, 70, 22}, 0x15},
+                 {AlignLeft, {3, 9, 43, 22}, 0x14},
+                 {AlignRight, {57, 9, 97, 22}, 0x16},
+                 {AlignTop, {30, 3, 70, 16}, 0x11},
+                 {AlignBottom, {30, 14, 70, 27}, 0x19}};
+    for (const auto& [align, place, format] : cases) {
+        const CaptionPlace result = PlaceCaption(100, 30, block, align, 3, false);
+        EXPECT_TRUE(EqualRect(&result.rectangle, &place)) << align << ": " << result.rectangle.left << "," << result.rectangle.top << ","
+                                                          << result.rectangle.right << "," << result.rectangle.bottom;
+        EXPECT_EQ(result.format, format);
+        EXPECT_EQ(PlaceCaption(100, 30, block, align, 3, true).format, format | 0x20000);
+    }
+}
+
+}  // namespace tests

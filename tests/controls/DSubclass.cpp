@@ -1,0 +1,269 @@
+#include "controls/DSubclass.h"
+
+#include "controls/OutOfMemory.h"
+#include "controls/SubclassHeap.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tests {
+
+using controls::DSubclass;
+
+namespace {
+
+constexpr UINT probe = WM_APP + 7;
+
+/// A plain window; it answers `probe` with wParam + 1.
+class PlainWindow {
+public:
+    PlainWindow() : window_(CreateWindowExW(0, TEXT("Static"), TEXT(""), WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr))
+    {
+        original_ = reinterpret_cast<WNDPROC>(SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure)));
+    }
+    ~PlainWindow() { Destroy(); }
+    void Destroy()
+    {
+        if (IsWindow(window_))
+            DestroyWindow(window_);
+    }
+    [[nodiscard]] HWND Get() const { return window_; }
+    LRESULT Ask(WPARAM wParam = 10) const { return SendMessageW(window_, probe, wParam, 0); }
+
+private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        return message == probe ? static_cast<LRESULT>(wParam + 1) : CallWindowProcW(original_, window, message, wParam, lParam);
+    }
+    static inline WNDPROC original_ = nullptr;
+    HWND window_;
+};
+
+base::String Published(HWND window)
+{
+    WCHAR text[20]{};
+    GetEnvironmentVariableW(controls::HeapName(window).c_str(), text, 20);
+    return text;
+}
+
+/// Notes `name` for each probe message.
+std::unique_ptr<DSubclass> Listener(HWND window, std::string& order, char name, bool handles = false)
+{
+    auto subclass = std::make_unique<DSubclass>();
+    subclass->WndProc.Connect([&order, name, handles](HWND, UINT message, WPARAM, LPARAM, LRESULT& result, bool& handled) {
+        if (message != probe)
+            return;
+        order += name;
+        if (handles) {
+            handled = true;
+            result = 99;
+        }
+    });
+    EXPECT_TRUE(subclass->Enable(window));
+    return subclass;
+}
+
+}  // namespace
+
+TEST(SubclassHeap, Name_IsTheHandleInBase36)
+{
+    const std::pair<LONG_PTR, const WCHAR*> cases[] = {
+        {0, TEXT("DSC0")}, {35, TEXT("DSCZ")}, {36, TEXT("DSC10")}, {0x7FFFFFFF, TEXT("DSCZIK0ZJ")}, {-1, TEXT("DSC")}};
+    for (const auto& [handle, name] : cases)
+        EXPECT_EQ(controls::HeapName(reinterpret_cast<HWND>(handle)), name) << handle;
+}
+
+TEST(DSubclass, DeadOrNoWindow_IsRefusedWithoutAHeap)
+{
+    PlainWindow window;
+    const HWND dead = window.Get();
+    window.Destroy();
+    DSubclass subclass;
+    EXPECT_FALSE(subclass.Enable(nullptr));
+    EXPECT_FALSE(subclass.Enable(dead));
+    EXPECT_FALSE(subclass.IsSubclassed());
+    EXPECT_EQ(Published(dead), TEXT(""));
+    EXPECT_FALSE(subclass.Disable());
+}
+
+TEST(DSubclass, Message_GoesThroughNewestFirstUntilHandled)
+{
+    const PlainWindow window;
+    std::string order;
+    const auto first = Listener(window.Get(), order, 'a');
+    const auto second = Listener(window.Get(), order, 'b');
+    EXPECT_EQ(window.Ask(), 11);
+    EXPECT_EQ(order, "ba");
+    order.clear();
+    const auto third = Listener(window.Get(), order, 'c', true);
+    EXPECT_EQ(window.Ask(), 99);
+    EXPECT_EQ(order, "c");
+}
+
+TEST(DSubclass, Pausing_LetsMessagesPassUnseen)
+{
+    const PlainWindow window;
+    std::string order;
+    const auto subclass = Listener(window.Get(), order, 'a', true);
+    EXPECT_FALSE(subclass->ResumeSubclass());
+    EXPECT_TRUE(subclass->PauseSubclass());
+    EXPECT_FALSE(subclass->PauseSubclass());
+    EXPECT_EQ(window.Ask(), 11);
+    EXPECT_EQ(order, "");
+    EXPECT_TRUE(subclass->ResumeSubclass());
+    EXPECT_EQ(window.Ask(), 99);
+    {
+        const controls::SubclassPause outer(*subclass);
+        EXPECT_EQ(controls::SendMessageUnsubclassed(*subclass, window.Get(), probe, 1, 0), 2);
+        EXPECT_TRUE(subclass->IsPaused()) << "the inner pause ended the outer one";
+    }
+    EXPECT_FALSE(subclass->IsPaused());
+}
+
+TEST(DSubclass, CallOriginalProc_LetsAHandlerAlterTheResult)
+{
+    const PlainWindow window;
+    DSubclass subclass;
+    bool handled = false;
+    EXPECT_EQ(subclass.CallOriginalProc(window.Get(), probe, 10, 0, handled), 0);
+    EXPECT_FALSE(handled);
+    subclass.WndProc.Connect([&](HWND target, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& isHandled) {
+        if (message == probe)
+            result = 100 + subclass.CallOriginalProc(target, message, wParam, lParam, isHandled);
+    });
+    subclass.Enable(window.Get());
+    EXPECT_EQ(window.Ask(), 111);
+}
+
+TEST(DSubclass, HandlerThatSendsToItsWindow_Nests)
+{
+    const PlainWindow window;
+    std::vector<WPARAM> seen;
+    DSubclass subclass;
+    subclass.WndProc.Connect([&](HWND target, UINT message, WPARAM wParam, LPARAM, LRESULT&, bool&) {
+        if (message != probe)
+            return;
+        seen.push_back(wParam);
+        if (wParam > 0)
+            SendMessageW(target, probe, wParam - 1, 0);
+    });
+    subclass.Enable(window.Get());
+    EXPECT_EQ(window.Ask(2), 3);
+    EXPECT_EQ(seen, (std::vector<WPARAM>{2, 1, 0}));
+}
+
+TEST(DSubclass, EnableElsewhere_LeavesTheWindowBefore)
+{
+    const PlainWindow one, other;
+    std::string order;
+    const auto subclass = Listener(one.Get(), order, 'a');
+    EXPECT_TRUE(subclass->Enable(other.Get()));
+    EXPECT_EQ(subclass->hWnd(), other.Get());
+    one.Ask();
+    EXPECT_EQ(order, "");
+    other.Ask();
+    EXPECT_EQ(order, "a");
+    EXPECT_EQ(Published(other.Get()), TEXT("")) << "the block stays in the first window's heap";
+}
+
+TEST(DSubclass, Destroy_TakesTheObjectOff_UnlessHandled)
+{
+    for (const bool handles : {false, true}) {
+        PlainWindow window;
+        DSubclass subclass;
+        int destroys = 0;
+        subclass.WndProc.Connect([&](HWND, UINT message, WPARAM, LPARAM, LRESULT&, bool& handled) {
+            if (message == WM_DESTROY) {
+                ++destroys;
+                handled = handles;
+            }
+        });
+        subclass.Enable(window.Get());
+        window.Destroy();
+        EXPECT_EQ(destroys, 1);
+        EXPECT_EQ(subclass.IsSubclassed(), handles);
+        EXPECT_FALSE(subclass.Disable());
+        EXPECT_FALSE(subclass.IsSubclassed()) << "a window that is gone holds nobody";
+    }
+}
+
+TEST(DSubclass, ReleaseInItsOwnHandler_StillAnswers)
+{
+    const PlainWindow window;
+    auto subclass = std::make_unique<DSubclass>();
+    int deliveries = 0;
+    subclass->WndProc.Connect([&](HWND target, UINT message, WPARAM wParam, LPARAM, LRESULT& result, bool& handled) {
+        if (message != probe)
+            return;
+        ++deliveries;
+        if (wParam == 1)
+            SendMessageW(target, probe, 0, 0);
+        else
+            subclass.reset();
+        handled = true;
+        result = static_cast<LRESULT>(40 + wParam);
+    });
+    subclass->Enable(window.Get());
+    EXPECT_EQ(window.Ask(1), 41);
+    EXPECT_EQ(deliveries, 2);
+    EXPECT_EQ(window.Ask(10), 11);
+    EXPECT_EQ(Published(window.Get()), TEXT("00000000"));
+}
+
+TEST(DSubclass, ReleaseInEveryOrder_EndsWithNoHeap)
+{
+    std::array<int, 3> order{0, 1, 2};
+    do {
+        PlainWindow window;
+        std::string heard;
+        std::array<std::unique_ptr<DSubclass>, 3> objects;
+        for (std::size_t index = 0; index < objects.size(); ++index)
+            objects[index] = Listener(window.Get(), heard, static_cast<char>('0' + index));
+        EXPECT_NE(Published(window.Get()), TEXT("00000000"));
+        EXPECT_EQ(Published(window.Get()).size(), 8U);
+        for (const int index : order) {
+            objects[static_cast<std::size_t>(index)].reset();
+            heard.clear();
+            EXPECT_EQ(window.Ask(), 11);
+            EXPECT_EQ(heard.find(static_cast<char>('0' + index)), std::string::npos);
+        }
+        EXPECT_EQ(Published(window.Get()), TEXT("00000000"));
+        const auto again = Listener(window.Get(), heard, 'x');
+        EXPECT_NE(Published(window.Get()), TEXT("00000000"));
+    } while (std::ranges::next_permutation(order).found);
+}
+
+TEST(DSubclass, ExceptionOfAHandler_NeverGetsIntoWindows)
+{
+    const PlainWindow window;
+    DSubclass subclass;
+    subclass.WndProc.Connect([](HWND, UINT message, WPARAM, LPARAM, LRESULT&, bool& handled) {
+        handled = true;
+        if (message == probe)
+            throw 1;
+    });
+    subclass.Enable(window.Get());
+    EXPECT_EQ(window.Ask(), 11);
+    subclass.WndProc.Connect({});
+}
+
+/// Handles and heaps that stay behind would run out, or be reported at the test's end on the stand-in PC.
+TEST(DSubclass, TenThousandTimes_LeaveNothing)
+{
+    const PlainWindow window;
+    std::string order;
+    for (int round = 0; round < 10000; ++round) {
+        const auto outer = Listener(window.Get(), order, 'a');
+        const auto inner = Listener(window.Get(), order, 'b');
+    }
+    EXPECT_EQ(window.Ask(), 11);
+    EXPECT_EQ(order, "");
+    EXPECT_EQ(Published(window.Get()), TEXT("00000000"));
+}
+
+}  // namespace tests

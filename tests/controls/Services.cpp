@@ -1,0 +1,145 @@
+// The services that all controls share: what they compute and what they ask of the system.
+#include "controls/AccessKey.h"
+#include "controls/ColorArithmetic.h"
+#include "controls/FontRule.h"
+#include "controls/GoldenSection.h"
+#include "controls/Gradient.h"
+#include "controls/PropertyTable.h"
+#include "controls/ThemeState.h"
+#include "controls/TranslateOleColor.h"
+
+#include <gtest/gtest.h>
+
+#include <uxtheme.h>
+
+namespace tests {
+
+TEST(GoldenSection, Segments_StandInTheGoldenRatio)
+{
+    EXPECT_NEAR(controls::GetGoldenSection(100, true), 161.803, 0.001);
+    EXPECT_NEAR(controls::GetGoldenSection(100, false), 61.803, 0.001);
+    EXPECT_EQ(controls::GetGoldenSection(0, true), 0);
+    EXPECT_EQ(controls::GetGoldenSection(-5, false), 0);
+}
+
+TEST(AccessKey, OfCaptions)
+{
+    const std::pair<const WCHAR*, const WCHAR*> cases[] = {
+        {TEXT("Save && E&xit"), TEXT("x")}, {TEXT("A&"), TEXT("")}, {TEXT("&OK"), TEXT("O")}, {TEXT("&&&&"), TEXT("")},
+        {TEXT("&&&a"), TEXT("a")},          {TEXT(""), TEXT("")},   {TEXT("&"), TEXT("")}};
+    for (const auto& [caption, key] : cases)
+        EXPECT_EQ(controls::AccessKeyOf(caption), key);
+}
+
+TEST(ColorArithmetic, Channels_StayWithinTheirRange)
+{
+    EXPECT_EQ(controls::Darken(0x102030, 0x18), 0x000818U);
+    EXPECT_EQ(controls::Darken(0xF0F8FF, -16), 0xFFFFFFU);
+    EXPECT_EQ(controls::Shift(0xE0E0E0, 40), 0xFFFFFFU);
+    EXPECT_EQ(controls::Shift(0xE0E0E0, -40), 0xB8B8B8U);
+    EXPECT_EQ(controls::Tint(0x000000, 32), 0x202020U);
+    EXPECT_EQ(controls::Tint(0xFF8000, 128), RGB(128, 128 * 127 / 255 + 128, 255));
+    EXPECT_EQ(controls::Mix(0x000000, 0x0000FF), 0x000080U);
+    EXPECT_EQ(controls::ShiftByFraction(0x808080, -0.36), 0x242424U);
+    EXPECT_EQ(controls::ShiftByFraction(0x808080, 0.9), 0xFFFFFFU);
+}
+
+TEST(Gradient, Ramp_DividesWholeNumbers)
+{
+    const std::vector<COLORREF> expected{0x000000, 0x000003, 0x000006, 0x00000A};
+    EXPECT_EQ(controls::ColorRamp(0x000000, 0x00000A, 3), expected);
+    EXPECT_EQ(controls::ColorRamp(0x00000A, 0x000000, 3).at(1), 0x000007U) << "towards zero, also downwards";
+    EXPECT_EQ(controls::ColorRamp(0x000000, 0x000004, 0), std::vector<COLORREF>{0x000002});
+}
+
+TEST(TranslateOleColor, SystemColors_AreResolved)
+{
+    EXPECT_EQ(controls::TranslateOleColor(0x8000000F), GetSysColor(15));
+    EXPECT_EQ(controls::TranslateOleColor(0x00123456), 0x123456U);
+    EXPECT_EQ(controls::TranslateOleColor(0x7F000000), CLR_INVALID);
+}
+
+TEST(ThemeState, Version_IsAskedOnceAndKept)
+{
+    controls::ThemeState state;
+    int questions = 0;
+    DWORD version = 6;
+    state.AskVersionWith([&] {
+        ++questions;
+        return version;
+    });
+    EXPECT_TRUE(state.IsThemeAvailable());
+    version = 5;
+    EXPECT_TRUE(state.IsThemeAvailable());
+    EXPECT_EQ(questions, 1);
+
+    state.AskVersionWith([&] { return version; });
+    EXPECT_FALSE(state.IsThemeAvailable());
+    version = 6;
+    EXPECT_FALSE(state.IsThemeAvailable()) << "older than 6 stays so for the life of the process";
+}
+
+TEST(FontRule, Fonts_AreDescribed)
+{
+    const std::vector<base::String> families = controls::GetFontFamilies();
+    ASSERT_FALSE(families.empty());
+    EXPECT_EQ(std::ranges::adjacent_find(families), families.end());
+    EXPECT_TRUE(controls::GetFontInfo(families.front()).isFound);
+    EXPECT_FALSE(controls::GetMessageFontName().empty());
+}
+
+TEST(FontRule, FontThatIsNotInstalledOrIsTrueType_Stays)
+{
+    host::Font missing({.name = TEXT("No Such Typeface 77")});
+    const bool isThere = controls::GetFontInfo(missing.Name()).isFound;
+    controls::ApplyForceTrueType(missing, controls::ForceTrueTypeChoice::MessageFontFirst);
+    // Some systems answer for every name with a font of their own.
+    EXPECT_TRUE(isThere || missing.Name() == TEXT("No Such Typeface 77"));
+}
+
+namespace {
+
+struct Settings {
+    std::int32_t number = 1;
+    bool flag = true;
+    std::uint32_t color = 0xFF;
+};
+
+std::string Keys(const host::PropertyBag& bag)
+{
+    std::string keys;
+    for (const host::Property& property : bag.Properties())
+        keys += std::string(property.key.begin(), property.key.end()) + " ";
+    return keys;
+}
+
+}  // namespace
+
+TEST(PropertyTable, Rows_AreWrittenInTheirOwnOrderAndReadWithDefaults)
+{
+    using controls::StoredAs;
+    const controls::PropertyTable<Settings> table{
+        StoredAs<Settings, std::int32_t>(TEXT("Number"), &Settings::number, 1).WrittenLater(1),
+        StoredAs<Settings, std::uint8_t>(TEXT("Flag"), &Settings::flag, 1, controls::WhenDefault::Stored),
+        StoredAs<Settings, std::uint32_t>(TEXT("Color"), &Settings::color, [](Settings&) { return 0xFFU; }).WrittenEarlier(2),
+    };
+    Settings settings;
+    host::PropertyBag defaults;
+    table.Write(settings, defaults);
+    EXPECT_EQ(Keys(defaults), "Flag ");
+
+    settings = {7, false, 3};
+    host::PropertyBag bag;
+    table.Write(settings, bag);
+    EXPECT_EQ(Keys(bag), "Color Flag Number ");
+    Settings read;
+    table.Read(read, bag);
+    EXPECT_EQ(read.number, 7);
+    EXPECT_FALSE(read.flag);
+    EXPECT_EQ(read.color, 3U);
+    table.Read(read, host::PropertyBag());
+    EXPECT_TRUE(read.flag);
+    EXPECT_EQ(read.color, 0xFFU);
+}
+
+}  // namespace tests

@@ -1,0 +1,75 @@
+// The shared services on PCs with other fonts, other tips and dropped files.
+#include "controls/CommandButton/CommandButton.h"
+#include "controls/FontRule.h"
+#include "controls/Frame/Frame.h"
+#include "controls/TextBox/TextBox.h"
+#include "platform/sim/Desktop.h"
+#include "platform/sim/Graphics.h"
+#include "platform/sim/Shell.h"
+#include "tests/controls/FormFixture.h"
+
+namespace tests {
+
+using controls::ForceTrueTypeChoice;
+
+TEST(FontRule, FontThatIsNoTrueTypeText_IsReplaced)
+{
+    using platform::Graphics;
+    Graphics& graphics = platform::SimPc::Current().Get<Graphics>();
+    graphics.Families() = {{u"Bitmap", false, false, ANSI_CHARSET},
+                           {u"Symbol", true, false, SYMBOL_CHARSET},
+                           {u"First", true, false, ANSI_CHARSET},
+                           {u"Message", true, false, ANSI_CHARSET}};
+    const auto forced = [](const WCHAR* name, ForceTrueTypeChoice choice) {
+        host::Font font({.name = name, .size = 20, .italic = true});
+        controls::ApplyForceTrueType(font, choice);
+        EXPECT_EQ(font.Size(), 20);
+        EXPECT_TRUE(font.Italic());
+        return font.Name();
+    };
+    platform::Desktop& desktop = platform::SimPc::Current().Get<platform::Desktop>();
+    desktop.MessageFont(u"Message");
+    EXPECT_EQ(forced(TEXT("Symbol"), ForceTrueTypeChoice::MessageFontFirst), TEXT("Message"));
+    EXPECT_EQ(forced(TEXT("Bitmap"), ForceTrueTypeChoice::FirstFamily), TEXT("First"));
+    EXPECT_EQ(forced(TEXT("Message"), ForceTrueTypeChoice::FirstFamily), TEXT("Message"));
+    EXPECT_EQ(forced(TEXT("Missing"), ForceTrueTypeChoice::MessageFontFirst), TEXT("Missing"));
+    desktop.MessageFont(u"Bitmap");
+    EXPECT_EQ(forced(TEXT("Symbol"), ForceTrueTypeChoice::MessageFontFirst), TEXT("First"));
+    graphics.Families().resize(2);
+    EXPECT_EQ(forced(TEXT("Symbol"), ForceTrueTypeChoice::MessageFontFirst), TEXT("Symbol")) << "nothing suitable";
+}
+
+class SharedServices : public FormFixture {};
+
+TEST_F(SharedServices, DroppedFiles_AreNamedInOneEvent)
+{
+    Open(
+        R"(Frame Box { Width = 3000 Height = 1500 DragDropEnabled = 1 } TextBox Text { Top = 2000 Width = 900 Height = 300 DragDropEnabled = 1 })");
+    const auto note = [this](std::vector<base::String>& paths, std::int16_t& count) {
+        std::string line = std::to_string(count);
+        for (const base::String& path : paths)
+            line += " [" + Narrow(path) + "]";
+        Note(line);
+    };
+    Get<controls::Frame>("Box").DragDropFile.Connect(note);
+    Get<controls::TextBox>("Text").DragDropFile.Connect(note);
+    auto& shell = platform::SimPc::Current().Get<platform::Shell>();
+    for (const char* const name : {"Box", "Text"})
+        SendMessageW(Any(name).hWnd(), WM_DROPFILES, reinterpret_cast<WPARAM>(shell.MakeDrop({u"C:\\a.txt", u" C:\\b ", u"C:\\c"})), 0);
+    const std::string expected = "3 [C:\\a.txt] [C:\\b] [C:\\c]";
+    EXPECT_EQ(Take(), (Lines{expected, expected}));
+}
+
+TEST_F(SharedServices, TipWindowThatCannotBeMade_IsTriedAgainAtTheNextEntry)
+{
+    Open(R"(CommandButton B { Width = 900 Height = 300 ToolTipTextW = "tip" })");
+    const HWND window = Any("B").hWnd();
+    platform::SimPc::Current().GetFaults().FailCall("CreateWindowExW", ERROR_NOT_ENOUGH_MEMORY);
+    SendMessageW(window, WM_MOUSEMOVE, 0, 0);
+    EXPECT_EQ(Get<controls::CommandButton>("B").ToolTipWindow(), nullptr);
+    SendMessageW(window, WM_MOUSELEAVE, 0, 0);
+    SendMessageW(window, WM_MOUSEMOVE, 0, 0);
+    EXPECT_NE(Get<controls::CommandButton>("B").ToolTipWindow(), nullptr);
+}
+
+}  // namespace tests

@@ -1,0 +1,320 @@
+#include "controls/TextBox/TextBox.h"
+
+#include "host/MessageLoop.h"
+#include "tests/controls/FormFixture.h"
+
+#include <algorithm>
+
+namespace tests {
+
+class TextBox : public FormFixture {
+protected:
+    void SetUp() override
+    {
+        Open(R"(TextBox Box { Width = 1500 Height = 300 TabIndex = 1 Text = "first" }
+            TextBox Other { Top = 900 Width = 1500 Height = 300 TabIndex = 2 Text = "ab" })");
+        Box().Change.Connect([&] { Note("Change"); });
+    }
+    controls::TextBox& Box() { return Get<controls::TextBox>("Box"); }
+    controls::TextBox& Other() { return Get<controls::TextBox>("Other"); }
+    DWORD Style() { return static_cast<DWORD>(GetWindowLongW(Box().hWnd(), GWL_STYLE)); }
+    void Type(const WCHAR* text)
+    {
+        for (; *text; ++text)
+            SendMessageW(Box().hWnd(), WM_CHAR, *text, 1);
+    }
+};
+
+TEST_F(TextBox, Change_IsRaisedByTypingAndBySetting)
+{
+    EXPECT_EQ(Box().Text(), TEXT("first"));
+    Box().SetFocus();
+    Box().SelStart(5);
+    Type(TEXT("x"));
+    EXPECT_EQ(Box().Text(), TEXT("firstx"));
+    EXPECT_EQ(Take(), Lines{"Change"});
+    Box().Text(TEXT("new"));
+    EXPECT_EQ(Take(), Lines{"Change"});
+}
+
+TEST_F(TextBox, ChangeOfAMultiLineBox_IsRaisedOnlyForAnotherText)
+{
+    Box().MultiLine(true);
+    Take();
+    Box().Text(TEXT("new"));
+    EXPECT_EQ(Take(), Lines{"Change"});
+    Box().Text(TEXT("new"));
+    EXPECT_EQ(Take(), Lines{});
+}
+
+TEST_F(TextBox, Selection_CanBeReadAndReplaced)
+{
+    Box().Text(TEXT("one two three"));
+    Box().SetSel(4, 3);
+    EXPECT_EQ(Box().SelStart(), 4);
+    EXPECT_EQ(Box().SelLength(), 3);
+    EXPECT_EQ(Box().SelText(), TEXT("two"));
+    Box().SelText(TEXT("2"));
+    EXPECT_EQ(Box().Text(), TEXT("one 2 three"));
+    EXPECT_TRUE(Box().CanUnDo());
+    Box().UnDo();
+    EXPECT_EQ(Box().Text(), TEXT("one two three"));
+    Box().SelStart(2);
+    EXPECT_EQ(Box().SelLength(), 0);
+    Box().SelLength(100);
+    EXPECT_EQ(Box().SelText(), TEXT("e two three"));
+    EXPECT_EQ(Box().Length(), 13);
+}
+
+TEST_F(TextBox, IsChanged_AnswersOnce)
+{
+    EXPECT_FALSE(Box().IsChanged(false));
+    Type(TEXT("x"));
+    EXPECT_TRUE(Box().IsChanged(false));
+    EXPECT_FALSE(Box().IsChanged(false));
+    Type(TEXT("y"));
+    EXPECT_FALSE(Box().IsChanged(true));
+    EXPECT_FALSE(Box().IsChanged(false));
+}
+
+TEST_F(TextBox, PasswordCharacters_FollowTheirRules)
+{
+    Box().PasswordChar(TEXT("*"));
+    EXPECT_EQ(Box().PasswordChar(), TEXT("*"));
+    Box().PasswordChar(TEXT("ab"));
+    EXPECT_EQ(Box().PasswordChar(), TEXT("*")) << "more than one is none";
+    Box().UseSystemPasswordChar(true);
+    EXPECT_EQ(Box().PasswordChar(), TEXT(""));
+    EXPECT_NE(Style() & ES_PASSWORD, 0U);
+    Box().PasswordChar(TEXT("#"));
+    EXPECT_EQ(Box().Text(), TEXT("first")) << "the text outlives its windows";
+    Box().MultiLine(true);
+    EXPECT_FALSE(Box().UseSystemPasswordChar());
+    EXPECT_EQ(Box().PasswordChar(), TEXT(""));
+    Box().UseSystemPasswordChar(true);
+    EXPECT_FALSE(Box().MultiLine());
+}
+
+TEST_F(TextBox, Limits_AreTheEdits)
+{
+    EXPECT_EQ(Box().MaxLength(), 30000);
+    Box().BufferOverflow.Connect([&] { Note("Overflow"); });
+    Box().Text(TEXT(""));
+    Box().MaxLength(2);
+    Take();
+    Box().SetFocus();
+    Type(TEXT("abc"));
+    EXPECT_EQ(Box().Text(), TEXT("ab"));
+    // Wine reports a change for the refused character too, which belongs to its Edit and is marked where that is tested.
+    EXPECT_EQ(std::ranges::count(Take(), "Overflow"), 1);
+    Box().Locked(true);
+    EXPECT_NE(Style() & ES_READONLY, 0U);
+    Box().BorderStyle(1);
+    EXPECT_NE(Style() & ES_READONLY, 0U);
+    EXPECT_EQ(Box().MaxLength(), 2) << "a new window has them too";
+}
+
+TEST_F(TextBox, ScrollBarsAndWordWrap_DependOnEachOther)
+{
+    Box().MultiLine(true);
+    Box().WordWrap(controls::WordWrapOff);
+    EXPECT_EQ(Box().ScrollBars(), controls::BothScrollBars);
+    EXPECT_EQ(Style() & (WS_HSCROLL | WS_VSCROLL | ES_AUTOHSCROLL), static_cast<DWORD>(WS_HSCROLL | WS_VSCROLL | ES_AUTOHSCROLL));
+    Box().ScrollBars(controls::NoScrollBars);
+    EXPECT_EQ(Box().WordWrap(), controls::WordWrapByScrollBars);
+    EXPECT_EQ(Style() & (WS_HSCROLL | WS_VSCROLL | ES_AUTOHSCROLL), 0U);
+}
+
+TEST_F(TextBox, Lines_CanBeCountedAndRemoved)
+{
+    Box().MultiLine(true);
+    Box().ScrollBars(controls::BothScrollBars);
+    Box().Text(TEXT("one\r\n2\r\nthree"));
+    EXPECT_EQ(Box().LineCount(), 3);
+    EXPECT_EQ(Box().GetLine(0), TEXT("one"));
+    EXPECT_EQ(Box().GetLine(1), TEXT("2"));
+    EXPECT_EQ(Box().GetLine(7), TEXT(""));
+    EXPECT_EQ(Box().GetLineLength(7), -1);
+    EXPECT_FALSE(Box().ExistsLine(3));
+    EXPECT_EQ(Box().GetPosStartFromLineIndex(2), 8);
+    EXPECT_EQ(Box().GetLineIndexFromPos(6), 1);
+    Box().SelStart(10);
+    EXPECT_EQ(Box().LineIndex(), 2);
+    EXPECT_EQ(Box().GetCurrentPosInLine(), 2);
+    Box().LineIndex(1);
+    EXPECT_EQ(Box().SelStart(), 5);
+
+    EXPECT_FALSE(Box().RemoveLine(3));
+    EXPECT_TRUE(Box().RemoveLine(2));
+    EXPECT_EQ(Box().Text(), TEXT("one\r\n2")) << "the last line goes with the break before it";
+    EXPECT_TRUE(Box().RemoveLine(0));
+    EXPECT_EQ(Box().Text(), TEXT("2"));
+    EXPECT_TRUE(Box().RemoveLine(0));
+    EXPECT_EQ(Box().Text(), TEXT(""));
+    EXPECT_FALSE(Box().RemoveLine(0));
+}
+
+TEST_F(TextBox, TrimText_TakesBlanksAndControlsFromBothEnds)
+{
+    Box().Text(TEXT(" \t a b \x1F"));
+    Box().TrimText(true);
+    EXPECT_EQ(Box().Text(), TEXT("a b"));
+    Box().Text(TEXT("  "));
+    EXPECT_EQ(Box().Text(), TEXT(""));
+}
+
+TEST(TextBoxFilter, TypedCharacters_PassByTheRules)
+{
+    using controls::PassesFilter;
+    const controls::TextBoxRules letters{true, TEXT("")}, some{false, TEXT("abc")}, both{true, TEXT("0-9")}, odd{true, TEXT("*-5")};
+    const struct {
+        const controls::TextBoxRules& rules;
+        const WCHAR* pass;
+        const WCHAR* fail;
+    } cases[] = {{letters, TEXT("aZ\u00E0 '\x08\r\x01\x03\x16\x18"),
+                  TEXT("\u00C0"
+                       "1\x1A-")},
+                 {some, TEXT("aBc\x08"), TEXT("d1\x1A")},
+                 {both, TEXT("a05"), TEXT("-*")},
+                 {odd, TEXT("*-5"), TEXT("3+")}};
+    for (const auto& [rules, pass, fail] : cases) {
+        for (const WCHAR* unit = pass; *unit; ++unit)
+            EXPECT_TRUE(PassesFilter(*unit, rules)) << static_cast<int>(*unit);
+        for (const WCHAR* unit = fail; *unit; ++unit)
+            EXPECT_FALSE(PassesFilter(*unit, rules)) << static_cast<int>(*unit);
+    }
+    EXPECT_TRUE(PassesFilter(26, {}));
+}
+
+TEST_F(TextBox, Rules_ExcludeEachOtherAndFilterOnlyTyping)
+{
+    Box().AllowOnlyNumbers(true);
+    EXPECT_NE(Style() & ES_NUMBER, 0U);
+    Box().AllowOnlyAlphabetics(true);
+    EXPECT_FALSE(Box().AllowOnlyNumbers());
+    EXPECT_EQ(Style() & ES_NUMBER, 0U);
+    Box().AllowOnlyChars(TEXT("9"));
+    EXPECT_TRUE(Box().AllowOnlyAlphabetics()) << "these two go together";
+    Box().Text(TEXT(""));
+    Type(TEXT("a19"));
+    EXPECT_EQ(Box().Text(), TEXT("a9"));
+    Box().SelText(TEXT("123"));
+    EXPECT_EQ(Box().Text(), TEXT("a9123")) << "only typing is filtered";
+    Box().AllowOnlyNumbers(true);
+    EXPECT_FALSE(Box().AllowOnlyAlphabetics());
+    EXPECT_EQ(Box().AllowOnlyChars(), TEXT(""));
+}
+
+TEST_F(TextBox, Arrows_MoveOnAtTheEndsOfTheText)
+{
+    Box().ForwardFocusRight(&Other());
+    Box().ForwardFocusDown(&Other());
+    Box().SetFocus();
+    Box().SelStart(3);
+    Press(VK_RIGHT);
+    EXPECT_EQ(Focused(), "Box");
+    Box().SelStart(5);
+    Press(VK_RIGHT);
+    EXPECT_EQ(Focused(), "Other");
+    EXPECT_EQ(Other().SelStart(), 0);
+    Box().SetFocus();
+    Box().SelStart(5);
+    Press(VK_DOWN);
+    EXPECT_EQ(Focused(), "Other");
+    EXPECT_EQ(Other().SelStart(), 2) << "no further than the text";
+}
+
+TEST_F(TextBox, Tab_RaisesNoKeyDownAndTypesNothing)
+{
+    Box().KeyDown.Connect([&](std::int16_t& code, std::int16_t&) { Note("down " + std::to_string(code)); });
+    Box().SetFocus();
+    Take();
+    Press(VK_TAB);
+    EXPECT_EQ(Focused(), "Other");
+    EXPECT_EQ(Take(), Lines{});
+    Press(VK_TAB, 1);
+    EXPECT_EQ(Focused(), "Box");
+    EXPECT_EQ(Box().Text(), TEXT("first"));
+}
+
+TEST_F(TextBox, TextualTab_KeepsTheFocusAndBecomesBlanks)
+{
+    Box().TabKeyTextual(true);
+    Box().SetFocus();
+    Box().SelStart(0);
+    INPUT tab{};
+    tab.type = INPUT_KEYBOARD;
+    tab.ki.wVk = VK_TAB;
+    SendInput(1, &tab, sizeof tab);
+    host::MessageLoop::RunPending();
+    const HWND edit = Box().hWnd();
+    SetFocus(Other().OwnHandle());
+    host::MessageLoop::RunPending();
+    tab.ki.dwFlags = KEYEVENTF_KEYUP;
+    SendInput(1, &tab, sizeof tab);
+    host::MessageLoop::RunPending();
+    EXPECT_EQ(GetFocus(), edit);
+    EXPECT_NE(Box().Text().find(TEXT("    ")), base::String::npos);
+}
+
+TEST_F(TextBox, Background_DependsOnFocusAndEnabled)
+{
+    const auto color = [&] {
+        const HDC dc = GetDC(Box().hWnd());
+        const auto brush = reinterpret_cast<HBRUSH>(
+            SendMessageW(form->hWnd(), WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(Box().hWnd())));
+        LOGBRUSH description{};
+        GetObjectW(brush, sizeof description, &description);
+        EXPECT_EQ(GetBkColor(dc), description.lbColor);
+        ReleaseDC(Box().hWnd(), dc);
+        return description.lbColor;
+    };
+    Box().BackColor(0x000001);
+    Box().BackColorSelected(0x000002);
+    Box().BackColorDisabled(0x000003);
+    Other().SetFocus();
+    EXPECT_EQ(color(), 1U);
+    Box().SetFocus();
+    EXPECT_EQ(color(), 2U);
+    Other().SetFocus();
+    EXPECT_EQ(color(), 1U);
+    Box().Enabled(false);
+    EXPECT_EQ(color(), 3U);
+}
+
+TEST_F(TextBox, MouseEvents_AreRaised)
+{
+    Box().Click.Connect([&] { Note("Click"); });
+    Box().MouseEnter.Connect([&] { Note("Enter"); });
+    Box().MouseLeave.Connect([&] { Note("Leave"); });
+    Box().MouseWheel.Connect([&](std::int32_t wheel) { Note("Wheel " + std::to_string(wheel)); });
+    Box().ContextMenu.Connect([&](bool& cancel) {
+        Note("Menu");
+        cancel = true;
+    });
+    Click(Box().hWnd());
+    EXPECT_EQ(Focused(), "Box");
+    // The cursor itself is elsewhere, so Windows may tell at any moment that it has left.
+    Lines clicked = Take();
+    std::erase(clicked, "Leave");
+    EXPECT_EQ(clicked, (Lines{"Enter", "Click"}));
+    SendMessageW(Box().hWnd(), WM_MOUSEWHEEL, MAKEWPARAM(0, 120), 0);
+    SendMessageW(Box().hWnd(), WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-120)), 0);
+    SendMessageW(Box().hWnd(), WM_CONTEXTMENU, 0, 0);
+    SendMessageW(Box().hWnd(), WM_MOUSELEAVE, 0, 0);
+    EXPECT_EQ(Take(), (Lines{"Wheel 1", "Wheel 0", "Menu", "Leave"}));
+}
+
+TEST_F(TextBox, FontThatChanges_ChangesTheBox)
+{
+    const LRESULT before = SendMessageW(Box().hWnd(), WM_GETFONT, 0, 0);
+    Box().Font()->Bold(true);
+    LOGFONTW font{};
+    const LRESULT after = SendMessageW(Box().hWnd(), WM_GETFONT, 0, 0);
+    GetObjectW(reinterpret_cast<HFONT>(after), sizeof font, &font);
+    EXPECT_EQ(font.lfWeight, FW_BOLD);
+    EXPECT_NE(after, 0);
+    EXPECT_NE(before, 0);
+}
+
+}  // namespace tests

@@ -1,0 +1,81 @@
+// The utility while one Windows call after another fails: it neither crashes nor leaks, and the settings file stays whole.
+#include "platform/sim/Services.h"
+#include "tests/support/FaultSweep.h"
+#include "tests/support/UtilityScene.h"
+
+#include <gtest/gtest.h>
+
+using tests::FaultSweep;
+using tests::UtilityScene;
+
+namespace {
+
+constexpr const char* before = "[Other]\r\nx=1\r\n[Settings]\r\nPwd=AZg==\r\n";
+constexpr const char* after = "[Other]\r\nx=1\r\n[Settings]\r\nPwd=AYWJj\r\n";
+
+void ExpectWholeSettings(UtilityScene& scene)
+{
+    const auto settings = scene.Settings();
+    EXPECT_TRUE(settings == before || settings == after) << settings.value_or("no file");
+}
+
+TEST(Form1Faults, Start)
+{
+    FaultSweep([](const auto& arm) {
+        UtilityScene scene;
+        scene.WriteSettings(before);
+        scene.The<platform::Services>().Install(u"Velmora", u"C:\\Tools\\Velmora.exe");
+        arm();
+        scene.Open();
+        scene.Close();
+        ExpectWholeSettings(scene);
+    });
+}
+
+TEST(Form1Faults, Ticks)
+{
+    FaultSweep([](const auto& arm) {
+        UtilityScene scene;
+        scene.WriteSettings(before);
+        scene.The<platform::Services>().Install(u"Velmora", u"C:\\Tools\\Velmora.exe");
+        ASSERT_TRUE(scene.Open());
+        arm();
+        scene.pc.Advance(2000);
+        EXPECT_TRUE(scene.IsOpen());
+        scene.Close();
+        ExpectWholeSettings(scene);
+    });
+}
+
+TEST(Form1Faults, Ok)
+{
+    FaultSweep([](const auto& arm) {
+        UtilityScene scene;
+        scene.WriteSettings(before);
+        ASSERT_TRUE(scene.Open());
+        scene.Text(TEXT("TextPassword")).Text(TEXT("abc"));
+        scene.Check(TEXT("CheckAutoStart")).Value(1);
+        arm();
+        scene.Button(TEXT("CommandOk")).Click.Raise();
+        EXPECT_FALSE(scene.IsOpen());
+        scene.Close();
+        ExpectWholeSettings(scene);
+    });
+}
+
+TEST(Form1Faults, InstallStartAndRemove)
+{
+    FaultSweep([](const auto& arm) {
+        UtilityScene scene;
+        scene.WriteSettings(before);
+        ASSERT_TRUE(scene.Open());
+        arm();
+        for (const WCHAR* name : {TEXT("cmdInstall"), TEXT("cmdStart"), TEXT("CommandStartVelmora"), TEXT("CommandCloseVelmora")})
+            scene.Button(name).Click.Raise();
+        EXPECT_TRUE(scene.IsOpen());
+        scene.Close();
+        ExpectWholeSettings(scene);
+    });
+}
+
+}  // namespace

@@ -1,0 +1,80 @@
+#include "host/Extender.h"
+
+#include "host/Units.h"
+#include "tests/host/Probe.h"
+
+namespace tests {
+
+class Extender : public HostTest {
+protected:
+    /// The window's place in its parent's client area.
+    RECT PlaceOf(base::StringView name)
+    {
+        RECT place{};
+        const HWND window = WindowOf(name);
+        GetWindowRect(window, &place);
+        MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&place), 2);
+        return place;
+    }
+};
+
+TEST_F(Extender, Twips_MoveTheWindowAtOnce)
+{
+    Open("Form F { ClientWidth = 4500 ClientHeight = 3000 Probe P { Left = 30 Top = 45 Width = 900 Height = 300 TabIndex = 0 } }");
+    auto& extender = ExtenderOf(TEXT("P"));
+    const auto expectPlace = [&] {
+        const RECT place = PlaceOf(TEXT("P"));
+        EXPECT_EQ(place.left, host::TwipsToPixelsX(extender.Left()));
+        EXPECT_EQ(place.top, host::TwipsToPixelsY(extender.Top()));
+        EXPECT_EQ(place.right - place.left, host::TwipsToPixelsX(extender.Width()));
+        EXPECT_EQ(place.bottom - place.top, host::TwipsToPixelsY(extender.Height()));
+    };
+    expectPlace();
+    extender.Left(150);
+    extender.Top(75);
+    EXPECT_EQ(log.Take(), Lines{});
+    expectPlace();
+    extender.Width(1500);
+    extender.Height(450);
+    expectPlace();
+    EXPECT_EQ(log.Take().size(), 2U);
+    extender.Move(30, 30, 300, 150);
+    expectPlace();
+    EXPECT_EQ(log.Take().size(), 1U);
+}
+
+TEST_F(Extender, FormInPixels_PlacesItsOwnControlsInPixelsAndInnerOnesInTwips)
+{
+    Open(R"(Form F { ClientWidth = 4500 ClientHeight = 3000 ScaleMode = 3
+        Probe P { Left = 7 Top = 9 Width = 100 Height = 50 TabIndex = 0
+            Probe Q { Left = 300 Top = 150 Width = 300 Height = 150 TabIndex = 1 } } })");
+    const RECT outer = PlaceOf(TEXT("P")), inner = PlaceOf(TEXT("Q"));
+    EXPECT_EQ(outer.left, 7);
+    EXPECT_EQ(outer.bottom, 59);
+    EXPECT_EQ(inner.left, host::TwipsToPixelsX(300));
+    EXPECT_EQ(ProbeNamed(TEXT("Q")).ContainerScale(), host::ScaleMode::twips);
+    EXPECT_NE(form->Write().find("ScaleMode = 3\n"), std::string::npos);
+}
+
+TEST_F(Extender, ZOrder_RaisesAndLowersTheWindow)
+{
+    Open("Form F { ClientWidth = 4500 ClientHeight = 3000 Probe A { TabIndex = 0 } Probe B { TabIndex = 1 } Probe C { TabIndex = 2 } }");
+    const auto topmost = [&] { return form->ControlOf(GetWindow(form->hWnd(), GW_CHILD))->GetExtender().Name(); };
+    ExtenderOf(TEXT("B")).ZOrder(0);
+    EXPECT_EQ(topmost(), TEXT("B"));
+    ExtenderOf(TEXT("C")).ZOrder();
+    EXPECT_EQ(topmost(), TEXT("C"));
+    ExtenderOf(TEXT("C")).ZOrder(1);
+    EXPECT_EQ(topmost(), TEXT("B"));
+}
+
+TEST(Units, TwipsAndPixels_ConvertThroughTheScreensResolution)
+{
+    const host::ScreenResolution screen = host::ScreenResolution::Get();
+    EXPECT_EQ(host::TwipsToPixelsX(1440), screen.x);
+    EXPECT_EQ(host::TwipsToPixelsY(-1440), -screen.y);
+    EXPECT_FLOAT_EQ(host::PixelsToTwipsX(screen.x), 1440);
+    EXPECT_EQ(host::ToPixelsX(12.6F, host::ScaleMode::pixels), 13);
+}
+
+}  // namespace tests

@@ -1,0 +1,77 @@
+#include "host/ComboBox.h"
+#include "host/MessageLoop.h"
+#include "tests/host/Probe.h"
+
+namespace tests {
+
+class Focus : public HostTest {};
+
+constexpr const char* four = R"(Form F {
+    ClientWidth = 4500
+    ClientHeight = 3000
+    Probe Second { Left = 0 Top = 0 Width = 900 Height = 300 TabIndex = 2 }
+    Probe First { Left = 0 Top = 600 Width = 900 Height = 300 TabIndex = 1 }
+    ComboBox Combo { Left = 0 Top = 1200 Width = 1500 Height = 315 TabIndex = 5 List = ["a", "b"] }
+    Probe Skipped { Left = 0 Top = 1800 Width = 900 Height = 300 TabIndex = 3 TabStop = False }
+})";
+
+TEST_F(Focus, Move_TellsTheOneThatIsLeftBeforeTheOneThatIsEntered)
+{
+    Open(four);
+    EXPECT_EQ(ActiveName(), "First");
+    EXPECT_EQ(GetFocus(), WindowOf(TEXT("First")));
+    log.on["First.LostFocus"] = [&] { EXPECT_EQ(GetFocus(), WindowOf(TEXT("First"))); };
+    SendMessageW(WindowOf(TEXT("Second")), WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    SendMessageW(WindowOf(TEXT("Second")), WM_LBUTTONUP, 0, 0);
+    const Lines expected = {"First.LostFocus",          "First.ExitFocus",        "Second.EnterFocus", "Second.GotFocus",
+                            "Second.MouseDown 1 0 0,0", "Second.MouseUp 1 0 0,0", "Second.Click"};
+    EXPECT_EQ(log.Take(), expected);
+    EXPECT_EQ(GetFocus(), WindowOf(TEXT("Second")));
+    ProbeNamed(TEXT("Second")).SetFocus();
+    EXPECT_EQ(log.Take(), Lines{});
+
+    log.on["Second.LostFocus"] = [&] { EXPECT_EQ(GetFocus(), WindowOf(TEXT("Second"))); };
+    const HWND combo = WindowOf(TEXT("Combo"));
+    SendMessageW(combo, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    SendMessageW(combo, CB_SHOWDROPDOWN, FALSE, 0);
+    EXPECT_EQ(log.Take(), (Lines{"Second.LostFocus", "Second.ExitFocus"}));
+    EXPECT_EQ(ActiveName(), "Combo");
+}
+
+TEST_F(Focus, OtherWindowTakingIt_LeavesTheControlActive)
+{
+    Open(four);
+    SetFocus(nullptr);
+    EXPECT_EQ(log.Take(), Lines{});
+    EXPECT_EQ(ActiveName(), "First");
+    // The form's own window hands it back.
+    SetFocus(form->hWnd());
+    EXPECT_EQ(log.Take(), Lines{"First.GotFocus"});
+    EXPECT_EQ(GetFocus(), WindowOf(TEXT("First")));
+}
+
+TEST_F(Focus, DisabledOrHiddenControl_PassesItOn)
+{
+    Open(four);
+    ProbeNamed(TEXT("First")).Enabled(false);
+    EXPECT_EQ(ActiveName(), "Second");
+    EXPECT_EQ(GetFocus(), WindowOf(TEXT("Second")));
+    ProbeNamed(TEXT("First")).SetFocus();
+    EXPECT_EQ(ActiveName(), "Second");
+    ExtenderOf(TEXT("Second")).Visible(false);
+    EXPECT_EQ(ActiveName(), "Combo");
+    EXPECT_EQ(GetFocus(), WindowOf(TEXT("Combo")));
+    form->Find<host::ComboBox>(TEXT("Combo"))->Enabled(false);
+    EXPECT_EQ(ActiveName(), "none");
+}
+
+TEST_F(Focus, SetFocus_InAnEventOfTheMove_Wins)
+{
+    Open(four);
+    log.on["First.ExitFocus"] = [&] { ProbeNamed(TEXT("Skipped")).SetFocus(); };
+    ProbeNamed(TEXT("Second")).SetFocus();
+    host::MessageLoop::RunPending();
+    EXPECT_EQ(GetFocus(), form->ActiveControl()->OwnHandle());
+}
+
+}  // namespace tests

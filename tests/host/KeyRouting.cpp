@@ -1,0 +1,130 @@
+#include "host/KeyRouting.h"
+
+#include "host/ComboBox.h"
+#include "host/Label.h"
+#include "tests/host/Probe.h"
+
+namespace tests {
+
+class KeyRouting : public HostTest {};
+
+constexpr const char* keyboard = R"(Form F {
+    ClientWidth = 4500
+    ClientHeight = 4500
+    KeyPreview = True
+    Probe Plain { Left = 0 Top = 0 Width = 900 Height = 300 TabIndex = 0 }
+    Probe Press { Left = 0 Top = 600 Width = 900 Height = 300 TabIndex = 1 Button = True Key = "p" }
+    Probe Ok { Left = 0 Top = 1200 Width = 900 Height = 300 TabIndex = 4 Default = True Button = True Key = "o" }
+    Probe Leave { Left = 0 Top = 1800 Width = 900 Height = 300 TabIndex = 5 Cancel = True Button = True }
+    Label Caption { Left = 1500 Top = 0 Width = 900 Height = 300 TabIndex = 2 Caption = "Save && &list" }
+    ComboBox Combo { Left = 1500 Top = 600 Width = 1500 Height = 315 TabIndex = 3 List = ["a", "b"] }
+    Probe Group { Left = 1500 Top = 1800 Width = 900 Height = 300 TabIndex = 6 Key = "o" Focus = False }
+})";
+
+TEST_F(KeyRouting, Preview_SeesKeysFirstAndMayChangeOrSwallowThem)
+{
+    Open(keyboard);
+    Press('A');
+    EXPECT_EQ(log.Take(),
+              (Lines{"Form.KeyDown 65", "Plain.KeyDown 65", "Form.KeyPress 97", "Plain.KeyPress 97", "Form.KeyUp 65", "Plain.KeyUp 65"}));
+    form->changeKey = [](std::int16_t& code) { code = code == 65 ? std::int16_t{66} : code; };
+    Press('A');
+    EXPECT_EQ(log.Take(),
+              (Lines{"Form.KeyDown 65", "Plain.KeyDown 66", "Form.KeyPress 98", "Plain.KeyPress 98", "Form.KeyUp 65", "Plain.KeyUp 66"}));
+    form->changeKey = [](std::int16_t& code) { code = 0; };
+    Press('A');
+    EXPECT_EQ(log.Take(), (Lines{"Form.KeyDown 65", "Form.KeyUp 65"}));
+    form->changeKey = nullptr;
+    form->KeyPreview(false);
+    ProbeNamed(TEXT("Plain")).replaceKeyBy = -1;
+    Press('A');
+    EXPECT_EQ(log.Take(), (Lines{"Plain.KeyDown 65", "Plain.KeyPress 97", "Plain.KeyUp 65"}));
+}
+
+TEST_F(KeyRouting, Preview_IsToldWhichShiftKeysAreHeld)
+{
+    Open(keyboard);
+    form->changeKey = [](std::int16_t& code) { code = 0; };
+    const struct {
+        int key, shift;
+        const char* line;
+    } cases[] = {
+        {VK_F5, 4, "Form.KeyDown 116 4"},
+        {VK_ESCAPE, 0, "Form.KeyDown 27"},
+        {VK_ESCAPE, 1, "Form.KeyDown 27 1"},
+        {VK_F2, 3, "Form.KeyDown 113 3"},
+    };
+    for (const auto& [key, shift, line] : cases) {
+        Press(key, shift);
+        const Lines seen = log.Take();
+        EXPECT_NE(std::ranges::find(seen, line), seen.end()) << line << " among\n" << testing::PrintToString(seen);
+    }
+}
+
+TEST_F(KeyRouting, EnterAndEsc_PressTheButtonsThatTheFormNames)
+{
+    form->KeyPreview(false);
+    Open(keyboard);
+    form->KeyPreview(false);
+    const auto pressedBy = [&](base::StringView focused, int key, int shift = 0) {
+        form->Find(focused)->SetFocus();
+        log.Take();
+        Press(key, shift);
+        Lines seen = log.Take();
+        std::erase_if(seen, [](const std::string& line) { return line.find("AccessKeyPress") == std::string::npos; });
+        return seen;
+    };
+    EXPECT_EQ(pressedBy(TEXT("Plain"), VK_RETURN), Lines{"Ok.AccessKeyPress 13"});
+    EXPECT_EQ(pressedBy(TEXT("Combo"), VK_RETURN), Lines{"Ok.AccessKeyPress 13"});
+    EXPECT_EQ(pressedBy(TEXT("Press"), VK_RETURN), Lines{});
+    EXPECT_EQ(pressedBy(TEXT("Press"), VK_ESCAPE), Lines{"Leave.AccessKeyPress 27"});
+    EXPECT_EQ(pressedBy(TEXT("Combo"), VK_ESCAPE), Lines{"Leave.AccessKeyPress 27"});
+    EXPECT_EQ(pressedBy(TEXT("Plain"), VK_RETURN, 2), Lines{});
+    EXPECT_EQ(ActiveName(), "Plain");
+    ProbeNamed(TEXT("Ok")).Enabled(false);
+    EXPECT_EQ(pressedBy(TEXT("Plain"), VK_RETURN), Lines{});
+    // Enter and Esc belong to a list that is dropped down.
+    SendMessageW(WindowOf(TEXT("Combo")), CB_SHOWDROPDOWN, TRUE, 0);
+    EXPECT_EQ(pressedBy(TEXT("Combo"), VK_ESCAPE), Lines{});
+    EXPECT_EQ(SendMessageW(WindowOf(TEXT("Combo")), CB_GETDROPPEDSTATE, 0, 0), FALSE);
+}
+
+TEST_F(KeyRouting, AltAndALetter_GoToTheControlWithThatKey)
+{
+    Open(keyboard);
+    const auto afterAlt = [&](int key) {
+        Press(key, 4);
+        Lines seen = log.Take();
+        std::erase_if(seen, [](const std::string& line) { return line.find("AccessKeyPress") == std::string::npos; });
+        return (seen.empty() ? "" : seen.front() + " ") + ActiveName();
+    };
+    EXPECT_EQ(afterAlt('P'), "Press.AccessKeyPress 112 Press");
+    // A label's key is for the control that follows it.
+    EXPECT_EQ(afterAlt('L'), "Combo");
+    // Two controls with one letter take turns; the group can't have the focus and hands it on.
+    EXPECT_EQ(afterAlt('O'), "Ok.AccessKeyPress 111 Ok");
+    EXPECT_EQ(afterAlt('O'), "Group.AccessKeyPress 111 Plain");
+    ProbeNamed(TEXT("Press")).Enabled(false);
+    EXPECT_EQ(afterAlt('P'), "Plain");
+}
+
+TEST_F(KeyRouting, Tab_LeavesStockControlsAndIsAKeyForOthers)
+{
+    Open(keyboard);
+    form->KeyPreview(false);
+    form->Find(TEXT("Combo"))->SetFocus();
+    Press(VK_TAB);
+    EXPECT_EQ(ActiveName(), "Ok");
+    form->Find(TEXT("Combo"))->SetFocus();
+    Press(VK_TAB, 1);
+    EXPECT_EQ(ActiveName(), "Press");
+    log.Take();
+    Press(VK_TAB);
+    EXPECT_EQ(log.Take(), (Lines{"Press.KeyDown 9", "Press.KeyPress 9", "Press.KeyUp 9"}));
+    EXPECT_EQ(ActiveName(), "Press");
+    form->Find(TEXT("Combo"))->SetFocus();
+    Press(VK_DOWN);
+    EXPECT_EQ(form->Find<host::ComboBox>(TEXT("Combo"))->ListIndex(), 0);
+}
+
+}  // namespace tests

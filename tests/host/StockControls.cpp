@@ -1,0 +1,155 @@
+#include "host/ComboBox.h"
+#include "host/Label.h"
+#include "host/MessageLoop.h"
+#include "host/Timer.h"
+#include "tests/host/Probe.h"
+
+namespace tests {
+
+constexpr const char* stock = R"(Form F {
+    ClientWidth = 4500
+    ClientHeight = 3000
+    Probe Group {
+        Left = 0
+        Top = 0
+        Width = 4500
+        Height = 3000
+        TabIndex = 0
+        Focus = False
+        Label Caption {
+            Left = 150
+            Top = 150
+            Width = 900
+            Height = 255
+            TabIndex = 1
+            Caption = "A && &b"
+            Enabled = False
+            Font = Font("Arial", 9.75, Bold)
+        }
+        ComboBox Combo {
+            Left = 150
+            Top = 600
+            Width = 1500
+            Height = 315
+            TabIndex = 2
+            List = ["Automatic", "Manual", "Disabled"]
+        }
+        Timer Clock {
+            Interval = 20
+            Enabled = False
+        }
+    }
+}
+)";
+
+class StockControls : public HostTest {
+protected:
+    void SetUp() override { Open(stock); }
+
+    template <class T>
+    T& Get(base::StringView name)
+    {
+        return *form->Find<T>(name);
+    }
+    LRESULT Ask(base::StringView name, UINT message, WPARAM wParam = 0) { return SendMessageW(WindowOf(name), message, wParam, 0); }
+};
+
+TEST_F(StockControls, Text_ComesBackUnchanged)
+{
+    EXPECT_EQ(form->Write(), stock);
+}
+
+TEST_F(StockControls, Label_ShowsItsCaptionInItsFont)
+{
+    auto& label = Get<host::Label>(TEXT("Caption"));
+    EXPECT_EQ(label.AccessKey(), TEXT("b"));
+    EXPECT_EQ(GetParent(label.hWnd()), WindowOf(TEXT("Group")));
+    EXPECT_FALSE(IsWindowEnabled(label.hWnd()));
+    label.Enabled(true);
+    EXPECT_TRUE(IsWindowEnabled(label.hWnd()));
+    label.Caption(TEXT("Plain &&"));
+    EXPECT_EQ(label.AccessKey(), TEXT(""));
+    WCHAR text[32]{};
+    GetWindowTextW(label.hWnd(), text, 32);
+    EXPECT_EQ(base::String(text), TEXT("Plain &&"));
+    EXPECT_EQ(reinterpret_cast<HFONT>(Ask(TEXT("Caption"), WM_GETFONT)), label.Font()->Handle());
+    label.Font(std::make_shared<host::Font>());
+    EXPECT_EQ(reinterpret_cast<HFONT>(Ask(TEXT("Caption"), WM_GETFONT)), label.Font()->Handle());
+}
+
+TEST_F(StockControls, Combo_RaisesClickWhenTheSelectionChanges)
+{
+    auto& combo = Get<host::ComboBox>(TEXT("Combo"));
+    int clicks = 0;
+    combo.Click.Connect([&] { ++clicks; });
+    EXPECT_EQ(combo.ListCount(), 3);
+    EXPECT_EQ(combo.ListIndex(), -1);
+    EXPECT_EQ(combo.List(1), TEXT("Manual"));
+    EXPECT_EQ(combo.List(3), TEXT(""));
+
+    combo.ListIndex(1);
+    combo.ListIndex(1);
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(Ask(TEXT("Combo"), CB_GETCURSEL), 1);
+    combo.ListIndex(7);
+    EXPECT_EQ(combo.ListIndex(), -1);
+    EXPECT_EQ(Ask(TEXT("Combo"), CB_GETCURSEL), CB_ERR);
+    EXPECT_EQ(clicks, 2);
+
+    // The user's choice arrives through the container's window.
+    combo.ListIndex(0);
+    combo.SetFocus();
+    Press(VK_DOWN);
+    EXPECT_EQ(combo.ListIndex(), 1);
+    EXPECT_EQ(combo.Text(), TEXT("Manual"));
+    EXPECT_EQ(clicks, 4);
+    combo.AddItem(TEXT("More"));
+    EXPECT_EQ(Ask(TEXT("Combo"), CB_GETCOUNT), 4);
+}
+
+TEST_F(StockControls, Combo_OffersItsKeysToAHandlerThatMayKeepThem)
+{
+    auto& combo = Get<host::ComboBox>(TEXT("Combo"));
+    std::string seen;
+    combo.KeyDown.Connect([&](std::int16_t& code, std::int16_t&) {
+        seen += std::to_string(code) + " ";
+        if (code == VK_DOWN)
+            code = 0;
+    });
+    combo.ListIndex(1);
+    combo.SetFocus();
+    Press(VK_DOWN);
+    EXPECT_EQ(combo.ListIndex(), 1);
+    Press(VK_UP);
+    EXPECT_EQ(combo.ListIndex(), 0);
+    EXPECT_EQ(seen, "40 38 ");
+}
+
+TEST_F(StockControls, Timer_TicksOnlyWhileItRuns)
+{
+    auto& timer = Get<host::Timer>(TEXT("Clock"));
+    int ticks = 0;
+    timer.Tick.Connect([&] {
+        if (++ticks == 2)
+            timer.Enabled(false);
+    });
+    // Waits in the message loop, whose own timer ends the wait.
+    const auto wait = [&](UINT milliseconds) {
+        const UINT_PTR bell = form->AddTimer([] { PostQuitMessage(0); });
+        SetTimer(form->hWnd(), bell, milliseconds, nullptr);
+        host::MessageLoop::Run();
+        KillTimer(form->hWnd(), bell);
+        form->RemoveTimer(bell);
+    };
+    wait(100);
+    EXPECT_EQ(ticks, 0);
+    timer.Enabled(true);
+    wait(300);
+    EXPECT_EQ(ticks, 2);
+    timer.Interval(0);
+    timer.Enabled(true);
+    wait(100);
+    EXPECT_EQ(ticks, 2);
+}
+
+}  // namespace tests

@@ -1,0 +1,128 @@
+// What the system's controls draw on the stand-in PC: which text, in which colour.
+#include "platform/sim/Desktop.h"
+#include "platform/sim/Graphics.h"
+#include "platform/sim/SimPc.h"
+#include "platform/sim/Theme.h"
+#include "tests/support/ControlParent.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using platform::Graphics;
+using platform::SimPc;
+
+class ControlLook : public testing::Test {
+protected:
+    /// The texts that painting the window afresh draws.
+    std::vector<Graphics::DrawnText> Paint(HWND window)
+    {
+        graphics_.ForgetTexts();
+        RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_FRAME);
+        return graphics_.Texts();
+    }
+    platform::Image Picture(HWND window)
+    {
+        Paint(window);
+        return SimPc::Current().Get<platform::Desktop>().Snapshot(window);
+    }
+
+    Graphics& graphics_ = SimPc::Current().Get<Graphics>();
+    tests::ControlParent parent_;
+};
+
+TEST_F(ControlLook, DisabledControls_DrawGreyText)
+{
+    for (const LPCWSTR className : {TEXT("Static"), TEXT("Edit"), TEXT("Button")}) {
+        const HWND control = parent_.Add(className, 0, TEXT("Word"));
+        EnableWindow(control, FALSE);
+        const auto texts = Paint(control);
+        ASSERT_FALSE(texts.empty());
+        EXPECT_EQ(texts.back().text, u"Word");
+        EXPECT_EQ(texts.back().color, graphics_.SystemColor(COLOR_GRAYTEXT));
+        EnableWindow(control, TRUE);
+        EXPECT_EQ(Paint(control).back().color, graphics_.SystemColor(COLOR_WINDOWTEXT));
+        DestroyWindow(control);
+    }
+}
+
+TEST_F(ControlLook, Password_IsNeverDrawn)
+{
+    const HWND edit = parent_.Add(TEXT("Edit"), ES_AUTOHSCROLL | ES_PASSWORD, TEXT("abc"));
+    EXPECT_EQ(Paint(edit).at(0).text, u"\u25CF\u25CF\u25CF");
+    SendMessageW(edit, EM_SETPASSWORDCHAR, u'*', 0);
+    EXPECT_EQ(Paint(edit).at(0).text, u"***");
+}
+
+TEST_F(ControlLook, Selection_IsDrawnWhileTheEditHasTheFocusOrKeepsShowingIt)
+{
+    const HWND edit = parent_.Add(TEXT("Edit"), ES_AUTOHSCROLL, TEXT("abcdef"));
+    const HWND keeps = parent_.Add(TEXT("Edit"), ES_AUTOHSCROLL | ES_NOHIDESEL, TEXT("abcdef"));
+    SetFocus(edit);
+    for (const HWND window : {edit, keeps}) {
+        SendMessageW(window, EM_SETSEL, 1, 3);
+        const auto texts = Paint(window);
+        EXPECT_EQ(texts.back().text, u"bc");
+        EXPECT_EQ(texts.back().color, graphics_.SystemColor(COLOR_HIGHLIGHTTEXT));
+    }
+    SetFocus(parent_.Window());
+    EXPECT_EQ(Paint(edit).back().text, u"abcdef");
+}
+
+TEST_F(ControlLook, State_ShowsInEveryLook)
+{
+    auto& theme = SimPc::Current().Get<platform::Theme>();
+    for (const bool themed : {true, false}) {
+        theme.Active(themed);
+        const HWND box = parent_.Add(TEXT("Button"), BS_3STATE, TEXT("Box"));
+        std::vector<platform::Image> looks;
+        for (const WPARAM check : {BST_UNCHECKED, BST_CHECKED, BST_INDETERMINATE}) {
+            SendMessageW(box, BM_SETCHECK, check, 0);
+            looks.push_back(Picture(box));
+        }
+        SendMessageW(box, BM_SETCHECK, BST_UNCHECKED, 0);
+        SendMessageW(box, BM_SETSTATE, TRUE, 0);
+        looks.push_back(Picture(box));
+        SendMessageW(box, BM_SETSTATE, FALSE, 0);
+        EnableWindow(box, FALSE);
+        looks.push_back(Picture(box));
+        for (std::size_t one = 0; one < looks.size(); ++one) {
+            for (std::size_t other = 0; other < one; ++other)
+                EXPECT_FALSE(looks[one] == looks[other]) << one << " looks like " << other << (themed ? " themed" : " classic");
+        }
+        DestroyWindow(box);
+    }
+}
+
+TEST_F(ControlLook, WindowTheme_SwitchesTheSystemsLookOffForOneWindow)
+{
+    auto& theme = SimPc::Current().Get<platform::Theme>();
+    const HWND box = parent_.Add(TEXT("Button"), BS_3STATE, TEXT("Box"));
+    const auto themed = Picture(box);
+    theme.WindowTheme(box, u"");
+    const auto plain = Picture(box);
+    theme.Active(false);
+    EXPECT_FALSE(themed == plain);
+    EXPECT_TRUE(Picture(box) == plain);
+}
+
+TEST_F(ControlLook, OpenList_IsAWindowBelowItsFieldAndShowsAllItems)
+{
+    const HWND combo = parent_.Add(TEXT("ComboBox"), CBS_DROPDOWNLIST, TEXT(""), 150, 200);
+    for (const LPCWSTR text : {TEXT("one"), TEXT("two")})
+        SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+    SendMessageW(combo, CB_SETCURSEL, 1, 0);
+    EXPECT_EQ(Paint(combo).at(0).text, u"two");
+    SendMessageW(combo, CB_SHOWDROPDOWN, TRUE, 0);
+    const HWND list = FindWindowW(TEXT("ComboLBox"), nullptr);
+    const auto texts = Paint(list);
+    ASSERT_EQ(texts.size(), 2u);
+    EXPECT_EQ(texts[1].color, graphics_.SystemColor(COLOR_HIGHLIGHTTEXT));
+    RECT field{};
+    RECT below{};
+    GetWindowRect(combo, &field);
+    GetWindowRect(list, &below);
+    EXPECT_EQ(below.top, field.bottom);
+}
+
+}  // namespace

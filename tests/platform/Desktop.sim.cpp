@@ -1,0 +1,318 @@
+// The desktop's second face: the user's hands, other processes, the clock, what can be seen.
+#include "platform/sim/Desktop.h"
+
+#include "platform/sim/SimPc.h"
+#include "tests/support/MessageLog.h"
+
+namespace {
+
+using platform::Actor;
+using platform::Desktop;
+using platform::SimPc;
+using tests::MessageLog;
+
+constexpr Actor kAgent{900, 904};
+
+SimPc& Pc()
+{
+    return SimPc::Current();
+}
+
+Desktop& Screen()
+{
+    return Pc().Get<Desktop>();
+}
+
+std::string agentSaw;
+
+LRESULT CALLBACK AgentProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_APP || message == WM_CLOSE)
+        agentSaw += std::to_string(message) + (GetCurrentProcessId() == kAgent.process ? " as itself, " : " as somebody else, ");
+    if (message == WM_DESTROY)
+        PostQuitMessage(6);
+    return DefWindowProcW(window, message, wParam, lParam);
+}
+
+HWND OpenAgentWindow(DWORD style = WS_OVERLAPPEDWINDOW)
+{
+    agentSaw.clear();
+    HWND window = nullptr;
+    Pc().ActAs(kAgent, [&] {
+        WNDCLASSEXW windowClass{};
+        windowClass.cbSize = sizeof windowClass;
+        windowClass.lpfnWndProc = AgentProcedure;
+        windowClass.lpszClassName = TEXT("AgentWindow");
+        RegisterClassExW(&windowClass);
+        window = CreateWindowExW(0, TEXT("AgentWindow"), TEXT("Agent"), style, 0, 0, 100, 100, nullptr, nullptr, nullptr, nullptr);
+    });
+    return window;
+}
+
+void Pump()
+{
+    Pc().OnPump([] { tests::PumpMessages(); });
+}
+
+TEST(OtherProcess, HandlesSentMessagesAtOnceAndPostedOnesWhenItRuns)
+{
+    const HWND window = OpenAgentWindow();
+    ASSERT_NE(window, nullptr);
+    SendMessageW(window, WM_APP, 0, 0);
+    EXPECT_EQ(agentSaw, "32768 as itself, ");
+    agentSaw.clear();
+    int exitCode = 0;
+    Screen().OnQuit = [&](Actor thread, int code) { exitCode = thread == kAgent ? code : -1; };
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    EXPECT_EQ(agentSaw, "");
+    Pc().Settle();
+    EXPECT_EQ(agentSaw, "16 as itself, ");
+    EXPECT_FALSE(IsWindow(window));
+    EXPECT_EQ(exitCode, 6);
+}
+
+TEST(OtherProcess, ItsWindowsAreReadFromOutsideButNotChanged)
+{
+    const HWND window = OpenAgentWindow();
+    WCHAR text[16];
+    EXPECT_EQ(GetWindowTextW(window, text, 16), 5);
+    const auto denied = [](auto call) {
+        SetLastError(0);
+        EXPECT_FALSE(call());
+        EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_ACCESS_DENIED));
+    };
+    denied([&] { return DestroyWindow(window); });
+    denied([&] { return SetWindowLongPtrW(window, GWLP_USERDATA, 1) != 0; });
+    denied([&] { return GetWindowLongPtrW(window, GWLP_WNDPROC) != 0; });
+    denied([&] { return SetFocus(window) != nullptr; });
+    WNDCLASSEXW windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    EXPECT_FALSE(GetClassInfoExW(nullptr, TEXT("AgentWindow"), &windowClass)) << "classes belong to their process";
+}
+
+TEST(OtherProcess, ThatHangsRunsIntoTheTimeLimit)
+{
+    const HWND window = OpenAgentWindow();
+    Screen().Hang(kAgent);
+    const DWORD start = GetTickCount();
+    DWORD_PTR result = 0;
+    SetLastError(0);
+    EXPECT_EQ(SendMessageTimeoutW(window, WM_GETTEXTLENGTH, 0, 0, SMTO_NORMAL, 1000, &result), 0);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_TIMEOUT));
+    EXPECT_EQ(GetTickCount() - start, 1000u);
+    PostMessageW(window, WM_APP, 0, 0);
+    Pc().Settle();
+    EXPECT_EQ(agentSaw, "");
+    Screen().Hang(kAgent, false);
+    EXPECT_EQ(SendMessageTimeoutW(window, WM_GETTEXTLENGTH, 0, 0, SMTO_NORMAL, 1000, &result), 1);
+    EXPECT_EQ(result, 5u);
+    Pc().Settle();
+    EXPECT_EQ(agentSaw, "32768 as itself, ") << "it has waited";
+}
+
+TEST(OtherProcess, TakesTheForegroundUnlessItIsLocked)
+{
+    MessageLog log;
+    const HWND own = log.Create("own", WS_OVERLAPPEDWINDOW | WS_VISIBLE);
+    const HWND theirs = OpenAgentWindow(WS_OVERLAPPEDWINDOW | WS_VISIBLE);
+    EXPECT_EQ(GetForegroundWindow(), theirs);
+    EXPECT_EQ(GetFocus(), nullptr) << "the focus is in another process";
+    EXPECT_EQ(Screen().Focus(), theirs);
+    log.Clear();
+    EXPECT_TRUE(SetForegroundWindow(own));
+    EXPECT_TRUE(log.Is({WM_ACTIVATEAPP, WM_NCACTIVATE, WM_ACTIVATE, WM_SETFOCUS, WM_KILLFOCUS},
+                       {"own WM_ACTIVATEAPP 1", "own WM_NCACTIVATE 1", "own WM_ACTIVATE 1", "own WM_SETFOCUS"}));
+    EXPECT_TRUE(LockSetForegroundWindow(LSFW_LOCK));
+    Pc().ActAs(kAgent, [&] { EXPECT_FALSE(SetForegroundWindow(theirs)); });
+    EXPECT_EQ(GetForegroundWindow(), own);
+    Screen().MouseMove(50, 90);
+    EXPECT_EQ(Screen().WindowAt({50, 90}), own);
+    MoveWindow(own, 300, 300, 200, 200, TRUE);
+    Screen().MouseDown();
+    Screen().MouseUp();
+    EXPECT_EQ(GetForegroundWindow(), theirs) << "the user may always";
+    EXPECT_TRUE(log.Is({WM_ACTIVATEAPP, WM_ACTIVATE, WM_SETFOCUS, WM_KILLFOCUS},
+                       {"own WM_ACTIVATE 0", "own WM_ACTIVATEAPP 0", "own WM_KILLFOCUS"}));
+}
+
+TEST(Waiting, GetMessage_AsksForInputAndFailsWhenNoneWillCome)
+{
+    MessageLog log;
+    const HWND window = log.Create("top", WS_POPUP);
+    int asked = 0;
+    Screen().OnIdle = [&] {
+        if (++asked == 1)
+            PostMessageW(window, WM_APP, 0, 0);
+        return asked == 1;
+    };
+    MSG message;
+    EXPECT_TRUE(GetMessageW(&message, nullptr, 0, 0));
+    EXPECT_EQ(message.message, static_cast<UINT>(WM_APP));
+    EXPECT_EQ(GetMessageW(&message, nullptr, 0, 0), -1);
+    EXPECT_EQ(asked, 2);
+    EXPECT_EQ(Pc().Complaints().size(), 1u);
+    Pc().ForgetComplaints();
+
+    Screen().OnIdle = nullptr;
+    SetTimer(window, 1, 5000, nullptr);
+    const DWORD start = GetTickCount();
+    EXPECT_TRUE(GetMessageW(&message, nullptr, 0, 0));
+    EXPECT_EQ(message.message, static_cast<UINT>(WM_TIMER));
+    EXPECT_EQ(GetTickCount() - start, 5000u) << "the clock was turned to the next thing due";
+}
+
+TEST(Timer, Advance_RunsThroughEveryPeriod)
+{
+    MessageLog log;
+    Pump();
+    const HWND window = log.Create("top", WS_POPUP);
+    SetTimer(window, 4, 1000, nullptr);
+    EXPECT_EQ(Screen().TimersOf(SimPc::Own().process), 1u);
+    log.Clear();
+    Pc().Advance(2999);
+    EXPECT_TRUE(log.Is({"top WM_TIMER 4", "top WM_TIMER 4"}));
+    Pc().Advance(1);
+    EXPECT_TRUE(log.Is({"top WM_TIMER 4"}));
+    DestroyWindow(window);
+    EXPECT_EQ(Screen().TimersOf(SimPc::Own().process), 0u);
+}
+
+TEST(UserHands, CloseBoxSendsTheSystemCommand)
+{
+    MessageLog log;
+    Pump();
+    const HWND window = log.Create("top", WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_VISIBLE);
+    log.Clear();
+    Screen().ClickCloseBox(window);
+    EXPECT_TRUE(log.Is({WM_SYSCOMMAND, WM_CLOSE, WM_DESTROY}, {"top WM_SYSCOMMAND close", "top WM_CLOSE", "top WM_DESTROY"}));
+    const HWND fixed = log.Create("fixed", WS_CAPTION | WS_VISIBLE);
+    Screen().ClickCloseBox(fixed);
+    EXPECT_EQ(Pc().Complaints().size(), 1u) << "it has none";
+    Pc().ForgetComplaints();
+}
+
+TEST(UserHands, TypingReachesTheFocusWithShiftAndStrangeCharacters)
+{
+    MessageLog log;
+    Pump();
+    log.Create("top", WS_POPUP | WS_VISIBLE);
+    log.Clear();
+    Screen().Type(u"aB\u20AC;");
+    EXPECT_TRUE(log.Is({WM_CHAR}, {"top WM_CHAR 97", "top WM_CHAR 66", "top WM_CHAR 8364", "top WM_CHAR 59"}));
+    Screen().Press(VK_F5, platform::kAlt);
+    EXPECT_TRUE(log.Is({"top WM_SYSKEYDOWN", "top WM_SYSKEYDOWN", "top WM_SYSKEYUP", "top WM_KEYUP"}));
+    Screen().Press('C', platform::kControl);
+    EXPECT_TRUE(log.Is({WM_CHAR}, {"top WM_CHAR 3"}));
+}
+
+TEST(UserHands, DisabledWindowOnlyBeeps)
+{
+    MessageLog log;
+    Pump();
+    const HWND window = log.Create("top", WS_POPUP | WS_VISIBLE);
+    EnableWindow(window, FALSE);
+    log.Clear();
+    Screen().Click(window, 5, 5);
+    EXPECT_TRUE(log.Is({}));
+    EXPECT_GT(Screen().Beeps(), 0);
+}
+
+TEST(UserHands, WindowThatGoesFromUnderTheMouse_LeavesItToTheNextOne)
+{
+    MessageLog log;
+    Pump();
+    const HWND top = log.Create("top", WS_POPUP | WS_VISIBLE, nullptr, {0, 0, 200, 200});
+    const HWND child = log.Create("child", WS_CHILD | WS_VISIBLE, top, {0, 0, 50, 50});
+    Screen().Hover(child, 5, 5);
+    TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, top, 0};
+    log.Clear();
+    track.hwndTrack = child;
+    TrackMouseEvent(&track);
+    ShowWindow(child, SW_HIDE);
+    Pc().Settle();
+    EXPECT_TRUE(log.Is({WM_MOUSELEAVE, WM_MOUSEMOVE}, {"child WM_MOUSELEAVE", "top WM_MOUSEMOVE"}));
+}
+
+TEST(Picture, SnapshotShowsFrameClientAndChildren)
+{
+    MessageLog log;
+    const HWND top = log.Create("top", WS_CAPTION | WS_SYSMENU | WS_VISIBLE, nullptr, {10, 10, 210, 160});
+    const HWND child = log.Create("child", WS_CHILD | WS_VISIBLE | WS_BORDER, top, {0, 0, 20, 20});
+    tests::PumpMessages();
+    const auto picture = Screen().Snapshot(top);
+    EXPECT_EQ(picture.width, 200);
+    EXPECT_EQ(picture.height, 150);
+    const auto shown = [](int color) { return platform::SwapRedBlue(GetSysColor(color)); };
+    EXPECT_EQ(picture.At(60, 5), shown(COLOR_ACTIVECAPTION));
+    EXPECT_EQ(picture.At(100, 100), shown(COLOR_BTNFACE));
+    EXPECT_EQ(picture.At(3, 26), shown(COLOR_WINDOWFRAME)) << "the child's border in the corner of the client area";
+    EXPECT_EQ(Screen().Snapshot(child).width, 20);
+
+    // The screen shows the front window where two overlap.
+    log.Create("front", WS_POPUP | WS_VISIBLE, nullptr, {0, 0, 30, 30});
+    tests::PumpMessages();
+    const HDC dc = GetDC(nullptr);
+    EXPECT_EQ(GetPixel(dc, 28, 28), GetSysColor(COLOR_BTNFACE));
+    EXPECT_EQ(GetPixel(dc, 600, 600), GetSysColor(COLOR_BACKGROUND));
+    ReleaseDC(nullptr, dc);
+}
+
+TEST(Picture, OpenDeviceContext_FollowsItsWindow)
+{
+    MessageLog log;
+    const HWND top = log.Create("top", WS_POPUP | WS_VISIBLE, nullptr, {10, 10, 110, 110});
+    const HWND child = log.Create("child", WS_CHILD | WS_VISIBLE, top, {0, 0, 20, 20});
+    tests::PumpMessages();
+    const HDC dc = GetDC(child);
+    MoveWindow(child, 50, 60, 20, 20, TRUE);
+    tests::PumpMessages();
+    SetPixel(dc, 0, 0, RGB(1, 2, 3));
+    EXPECT_EQ(Screen().Snapshot(top).At(50, 60), 0x010203u);
+    ShowWindow(child, SW_HIDE);
+    tests::PumpMessages();
+    SetPixel(dc, 0, 0, RGB(9, 9, 9));
+    EXPECT_NE(Screen().Snapshot(top).At(50, 60), 0x090909u) << "a hidden window draws nothing";
+    DestroyWindow(child);
+    ReleaseDC(child, dc);
+}
+
+TEST(Scene, ResolutionScalesFramesAndThemeChangesAreAnnounced)
+{
+    MessageLog log;
+    Screen().Dpi(192);
+    EXPECT_EQ(GetSystemMetrics(SM_CYCAPTION), 46);
+    EXPECT_EQ(GetSystemMetrics(SM_CXSCREEN), 1280);
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    EXPECT_TRUE(SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, 0, &metrics, 0));
+    EXPECT_EQ(metrics.lfMessageFont.lfHeight, -24);
+    metrics.cbSize = 12;
+    EXPECT_FALSE(SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, 0, &metrics, 0));
+
+    const HWND top = log.Create("top", WS_POPUP);
+    log.Create("child", WS_CHILD, top);
+    log.Clear();
+    Screen().AnnounceThemeChange();
+    EXPECT_TRUE(log.Is({WM_THEMECHANGED}, {"top WM_THEMECHANGED", "child WM_THEMECHANGED"}));
+    Screen().AnnounceColorChange();
+    EXPECT_TRUE(log.Is({WM_SYSCOLORCHANGE}, {"top WM_SYSCOLORCHANGE"}));
+}
+
+TEST(Leaks, WindowsIconsAndDeviceContextsAreNamed)
+{
+    MessageLog log;
+    Screen().AddIconResource(u"AAA");
+    const HWND window = log.Create("top", WS_POPUP);
+    const HDC dc = GetDC(window);
+    const auto icon = static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), TEXT("aaa"), IMAGE_ICON, 16, 16, 0));
+    EXPECT_EQ(Pc().Handles().Leaks().size(), 3u);
+    EXPECT_TRUE(DestroyIcon(icon));
+    ReleaseDC(window, dc);
+    DestroyWindow(window);
+    EXPECT_TRUE(Pc().Handles().Leaks().empty());
+    SetLastError(0);
+    EXPECT_EQ(LoadImageW(GetModuleHandleW(nullptr), TEXT("BBB"), IMAGE_ICON, 16, 16, 0), nullptr);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_RESOURCE_NAME_NOT_FOUND));
+}
+
+}  // namespace

@@ -1,0 +1,82 @@
+#include "tests/support/Environment.h"
+
+#include "platform/sim/SimPc.h"
+#include "tests/support/FaultSweep.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+#include <memory>
+#include <string>
+
+namespace tests {
+
+namespace {
+
+std::unique_ptr<platform::SimPc> pc;
+
+/// Switches the PC off. Every handle that is still open and every question that it could not answer fails the running test.
+void SwitchOff()
+{
+    for (const std::string& leak : pc->Handles().Leaks())
+        ADD_FAILURE() << "leaked handle " << leak;
+    for (const std::string& complaint : pc->Complaints())
+        ADD_FAILURE() << "unknown to the stand-in PC: " << complaint;
+    pc.reset();
+}
+
+void SwitchOn()
+{
+    pc = std::make_unique<platform::SimPc>();
+}
+
+/// Gives each test a PC of its own.
+class FreshPc : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo&) override { SwitchOn(); }
+    void OnTestEnd(const testing::TestInfo&) override { SwitchOff(); }
+};
+
+struct Outcome {
+    std::uint64_t calls;
+    std::string struck;  // the call that failed; empty when there was none
+};
+
+/// Runs the scenario on a PC of its own, whose `n`-th call fails.
+Outcome Run(const Scenario& scenario, std::uint64_t n)
+{
+    SwitchOff();
+    SwitchOn();
+    scenario([n] { pc->GetFaults().FailNth(n); });
+    Outcome outcome = {pc->GetFaults().Counted(), pc->GetFaults().Struck()};
+    pc->GetFaults().Clear();
+    SwitchOff();
+    SwitchOn();
+    return outcome;
+}
+
+}  // namespace
+
+void PrepareEnvironment()
+{
+    testing::UnitTest::GetInstance()->listeners().Append(new FreshPc);
+}
+
+void FaultSweep(const Scenario& scenario)
+{
+    constexpr std::uint64_t quickRuns = 40;
+    const std::uint64_t calls = Run(scenario, std::numeric_limits<std::uint64_t>::max()).calls;
+    const std::uint64_t step = std::getenv("VELMORA_FULL_SWEEP") ? 1 : std::max<std::uint64_t>(calls / quickRuns, 1);
+    for (std::uint64_t n = 1;; n += step) {
+        const Outcome outcome = Run(scenario, n);
+        if (outcome.struck.empty())
+            return;
+        if (testing::Test::HasFailure()) {
+            ADD_FAILURE() << "while call " << n << " of " << calls << " failed: " << outcome.struck;
+            return;
+        }
+    }
+}
+
+}  // namespace tests

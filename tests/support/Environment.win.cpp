@@ -1,0 +1,7 @@
+#include "tests/support/Environment.h"
+
+namespace tests {
+
+void PrepareEnvironment() {}
+
+}  // namespace tests

@@ -1,0 +1,75 @@
+// MessageLog: the messages that windows get, in order, to be held against a table of expected ones.
+#pragma once
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace tests {
+
+/// One message as text: the window's name, the message's name and, where the order of things depends on it, its wParam.
+struct LoggedMessage {
+    std::string window;
+    std::string message;
+    bool operator==(const LoggedMessage&) const = default;
+};
+
+/// Records what its windows are sent. They are made by `Create`, of a class with a plain procedure that ends in DefWindowProcW.
+///
+/// Left out is what Windows versions send differently or at their own pleasure: painting, texts that captions ask for, input methods,
+/// hit tests, cursors, sizes asked for. `Also` puts one of those back in.
+class MessageLog {
+public:
+    MessageLog();
+    ~MessageLog();
+    MessageLog(const MessageLog&) = delete;
+    MessageLog& operator=(const MessageLog&) = delete;
+
+    /// Creates a window that is recorded from its first message on; `name` is its text too. NULL when Windows refuses.
+    HWND Create(const char* name, DWORD style, HWND parent = nullptr, RECT place = {40, 30, 240, 180}, DWORD exStyle = 0);
+
+    /// What a message is answered with instead of DefWindowProcW's result: WM_CREATE with -1, for instance.
+    void Answer(UINT message, LRESULT result) { answers_.push_back({message, result}); }
+    /// Something to do whenever a message arrives, after it was recorded.
+    void On(UINT message, void (*action)(HWND window)) { actions_.push_back({message, action}); }
+    void Also(UINT message) { also_.push_back(message); }
+
+    void Clear()
+    {
+        messages_.clear();
+        numbers_.clear();
+    }
+    [[nodiscard]] const std::vector<LoggedMessage>& Messages() const { return messages_; }
+
+    /// Holds the record against `expected`, one "window MESSAGE" each, in order; forgets the record. Both columns are printed on a
+    /// mismatch.
+    testing::AssertionResult Is(std::initializer_list<const char*> expected);
+    /// The same, looking only at these messages.
+    testing::AssertionResult Is(std::initializer_list<UINT> only, std::initializer_list<const char*> expected);
+
+private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    [[nodiscard]] bool Wanted(UINT message) const;
+    [[nodiscard]] std::string NameOf(HWND window) const;
+    testing::AssertionResult Compare(const std::vector<LoggedMessage>& actual, std::initializer_list<const char*> expected) const;
+
+    struct Window {
+        HWND handle;
+        std::string name;
+    };
+    std::vector<Window> windows_;
+    std::string creating_;
+    std::vector<LoggedMessage> messages_;
+    std::vector<UINT> numbers_;
+    std::vector<std::pair<UINT, LRESULT>> answers_;
+    std::vector<std::pair<UINT, void (*)(HWND)>> actions_;
+    std::vector<UINT> also_;
+};
+
+/// Handles everything that waits for the thread, then for so many milliseconds what else comes. On the stand-in PC the clock is turned.
+void PumpMessages(DWORD milliseconds = 0);
+
+}  // namespace tests
