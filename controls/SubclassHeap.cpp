@@ -87,6 +87,7 @@ void DestroyPublishedHeap(const String& name, HANDLE heap)
     Publish(name, 0);
 }
 
+/// The blocks in use, or 0 when the walk broke off: what it had counted until then may miss blocks of living objects.
 std::size_t BusyBlocks(HANDLE heap)
 {
     std::size_t count = 0;
@@ -94,8 +95,9 @@ std::size_t BusyBlocks(HANDLE heap)
     HeapLock(heap);
     while (HeapWalk(heap, &entry))
         count += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
+    const bool isWhole = GetLastError() == ERROR_NO_MORE_ITEMS;
     HeapUnlock(heap);
-    return count;
+    return isWhole ? count : 0;
 }
 
 }  // namespace

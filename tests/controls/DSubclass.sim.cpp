@@ -51,6 +51,23 @@ TEST(DSubclass, WantOfABlock_LeavesTheOthersHeapAlone)
     DestroyWindow(window);
 }
 
+TEST(DSubclass, WalkThatBreaksOff_CountsNothing)
+{
+    // The region is walked first, then the two blocks: any of the steps may fail.
+    for (const int step : {1, 2, 3, 4}) {
+        const HWND window = MakeWindow();
+        controls::DSubclass kept;
+        kept.Enable(window);
+        {
+            controls::DSubclass released;
+            released.Enable(window);
+            platform::SimPc::Current().GetFaults().FailCall("HeapWalk", ERROR_INVALID_PARAMETER, step);
+        }
+        EXPECT_NE(Published(window), TEXT("00000000")) << step;
+        DestroyWindow(window);
+    }
+}
+
 TEST(DSubclass, WindowThatDoesNotLetGo_KeepsTheObject)
 {
     const HWND window = MakeWindow(), other = MakeWindow();
