@@ -83,14 +83,37 @@ bool Navigate(const Form& form, const Control* focused, std::int16_t key)
     }
 }
 
+/// A push button keeps Tab within its own container; F6, the key that goes from pane to pane, leads out of it.
+bool GoToOtherContainer(const Form& form, const Control& focused)
+{
+    const std::int16_t shift = ShiftState();
+    if ((shift & (ctrlHeld | altHeld)) != 0)
+        return false;
+    Control* next = NextInTabOrder(form, TabIndexOf(&focused), (shift & shiftHeld) != 0);
+    Control* const first = next;
+    while (next != nullptr && next->ContainerWindow() == focused.ContainerWindow()) {
+        next = NextInTabOrder(form, TabIndexOf(next), (shift & shiftHeld) != 0);
+        if (next == first)
+            return false;
+    }
+    if (next != nullptr)
+        next->SetFocus();
+    return next != nullptr;
+}
+
 bool RouteKey(Form& form, MSG& message)
 {
     const bool isForForm = message.hwnd == form.hWnd();
     const Control* const control = form.ControlOf(message.hwnd);
-    if (!isForForm && (control == nullptr || control->OwnHandle() != message.hwnd))
+    const bool isForHosted = control != nullptr && control->OwnHandle() != message.hwnd;
+    if (isForHosted)
+        return message.message == WM_KEYDOWN && message.wParam == VK_F6 && GoToOtherContainer(form, *control);
+    if (!isForForm && control == nullptr)
         return false;
     if (!isForForm && form.KeyPreview() && (!form.HandleKey(message.message, message.wParam) || !form.IsLoaded()))
         return true;
+    if (control != nullptr && message.message == WM_KEYDOWN && message.wParam == VK_F6)
+        return GoToOtherContainer(form, *control);
     return message.message == WM_KEYDOWN && Navigate(form, control, static_cast<std::int16_t>(message.wParam));
 }
 

@@ -11,8 +11,9 @@ class Control;
 class Form;
 
 /// Offers the message to the forms: a form with KeyPreview sees keys first (a code set to 0 ends the key's way), Alt with a letter goes to
-/// the control with that access key, Enter and Esc press the default and the cancel button, Tab moves the focus from stock controls.
-/// Windows that a control hosts beside its own (of its check box or text box) get their keys untouched, save access keys.
+/// the control with that access key, Enter and Esc press the default and the cancel button, Tab moves the focus from stock controls, F6 (or
+/// Shift+F6) from any control to the next (or previous) one in the tab order that stands in another container.
+/// Windows that a control hosts beside its own (of its check box or text box) get their keys untouched, save access keys and F6.
 /// True when the message is done with and no window must see it.
 [[nodiscard]] bool RouteMessage(MSG& message);
 

@@ -127,4 +127,34 @@ TEST_F(KeyRouting, Tab_LeavesStockControlsAndIsAKeyForOthers)
     EXPECT_EQ(form->Find<host::ComboBox>(TEXT("Combo"))->ListIndex(), 0);
 }
 
+TEST_F(KeyRouting, F6_GoesRoundTheContainers)
+{
+    Open(R"(Form F {
+    ClientWidth = 4500
+    ClientHeight = 4500
+    Probe Upper {
+        Left = 0 Top = 0 Width = 2000 Height = 900 TabIndex = 8 Focus = False
+        Probe A { Left = 0 Top = 0 Width = 900 Height = 300 TabIndex = 0 }
+        Probe B { Left = 0 Top = 300 Width = 900 Height = 300 TabIndex = 1 }
+    }
+    Probe Lower {
+        Left = 0 Top = 1000 Width = 2000 Height = 900 TabIndex = 9 Focus = False
+        ComboBox C { Left = 0 Top = 0 Width = 1500 Height = 315 TabIndex = 2 List = ["a"] }
+        Probe D { Left = 0 Top = 400 Width = 900 Height = 300 TabIndex = 3 }
+    }
+    Probe E { Left = 0 Top = 3000 Width = 900 Height = 300 TabIndex = 4 }
+})");
+    form->Find(TEXT("A"))->SetFocus();
+    std::string way, back;
+    for (int i = 0; i < 3; ++i)
+        Press(VK_F6), way += ActiveName();
+    for (int i = 0; i < 3; ++i)
+        Press(VK_F6, 1), back += ActiveName();
+    EXPECT_EQ(way, "CEA");
+    EXPECT_EQ(back, "EDB");
+    log.Take();
+    Press(VK_F6, 2);
+    EXPECT_EQ(log.Take(), (Lines{"B.KeyDown 17 2", "B.KeyDown 117 2", "B.KeyUp 117 2", "B.KeyUp 17"})) << "with Ctrl it is a key";
+}
+
 }  // namespace tests
