@@ -3,8 +3,8 @@
 
 #include "host/PropertyBag.h"
 
-#include <algorithm>
 #include <functional>
+#include <memory>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -14,6 +14,23 @@ namespace controls {
 /// Whether a value that equals its default is stored too.
 enum class WhenDefault { LeftOut, Stored };
 
+/// One stored property. What differs from row to row are pointers, not types: a control has some forty of them.
+template <class Control>
+class PropertyRow {
+public:
+    PropertyRow(const WCHAR* key, WhenDefault whenDefault) : key_(key), whenDefault_(whenDefault) {}
+    virtual ~PropertyRow() = default;
+    virtual void Read(Control& control, const host::PropertyBag& bag) const = 0;
+    virtual void Write(Control& control, host::PropertyBag& bag) const = 0;
+
+protected:
+    const WCHAR* const key_;
+    const WhenDefault whenDefault_;
+};
+
+/// The places of the rows in the order of `index + shift`.
+std::vector<std::size_t> OrderOfShifts(const std::vector<double>& shifts);
+
 /// The rows stand in the order in which they are read. Most are written in the same order; a row may say that it is written some
 /// rows earlier or later.
 template <class Control>
@@ -21,15 +38,11 @@ class PropertyTable {
 public:
     class Row {
     public:
-        using Reader = std::function<void(Control&, const host::PropertyBag&)>;
-        using Writer = std::function<void(Control&, host::PropertyBag&)>;
-
-        Row(Reader reader, Writer writer) : read(std::move(reader)), write(std::move(writer)) {}
+        explicit Row(std::shared_ptr<const PropertyRow<Control>> row) : property(std::move(row)) {}
         Row WrittenEarlier(int rows) const { return Moved(-rows - 0.5); }
         Row WrittenLater(int rows) const { return Moved(rows + 0.5); }
 
-        Reader read;
-        Writer write;
+        std::shared_ptr<const PropertyRow<Control>> property;
         double shift = 0;
 
     private:
@@ -41,68 +54,139 @@ public:
         }
     };
 
-    PropertyTable(std::initializer_list<Row> rows) : readOrder_(rows)
+    PropertyTable(std::initializer_list<Row> rows)
     {
-        std::vector<std::pair<double, std::size_t>> places;
-        for (std::size_t index = 0; index < readOrder_.size(); ++index)
-            places.emplace_back(static_cast<double>(index) + readOrder_[index].shift, index);
-        std::ranges::stable_sort(places);
-        for (const auto& [place, index] : places)
-            writeOrder_.push_back(index);
+        std::vector<double> shifts;
+        for (const Row& row : rows) {
+            rows_.push_back(row.property);
+            shifts.push_back(row.shift);
+        }
+        writeOrder_ = OrderOfShifts(shifts);
     }
 
     void Read(Control& control, const host::PropertyBag& bag) const
     {
-        for (const Row& row : readOrder_)
-            row.read(control, bag);
+        for (const auto& row : rows_)
+            row->Read(control, bag);
     }
 
     void Write(Control& control, host::PropertyBag& bag) const
     {
         for (const std::size_t index : writeOrder_)
-            readOrder_[index].write(control, bag);
+            rows_[index]->Write(control, bag);
     }
 
 private:
-    std::vector<Row> readOrder_;
+    std::vector<std::shared_ptr<const PropertyRow<Control>>> rows_;
     std::vector<std::size_t> writeOrder_;
 };
 
-/// A row for a value that is got and set through functions: `Stored get(Control&)`, `void set(Control&, Stored)`. `standard` is the
-/// default, or a function from the control to it.
-template <class Control, class Stored, class Get, class Set, class Default>
-typename PropertyTable<Control>::Row StoredThrough(const WCHAR* key, Get get, Set set, Default standard,
+/// A default: a value, or a function from the control to it.
+template <class Control, class Stored>
+class PropertyDefault {
+public:
+    template <class Default>
+    PropertyDefault(Default standard)
+    {
+        if constexpr (std::is_invocable_v<Default, Control&>)
+            of_ = std::move(standard);
+        else
+            value_ = static_cast<Stored>(std::move(standard));
+    }
+    Stored Of(Control& control) const { return of_ ? of_(control) : value_; }
+
+private:
+    Stored value_{};
+    std::function<Stored(Control&)> of_;
+};
+
+/// A property that is got and set through functions.
+template <class Control, class Stored>
+class ThroughRow final : public PropertyRow<Control> {
+public:
+    using Get = Stored (*)(Control&);
+    using Set = void (*)(Control&, const Stored&);
+
+    ThroughRow(const WCHAR* key, Get get, Set set, PropertyDefault<Control, Stored> standard, WhenDefault whenDefault)
+        : PropertyRow<Control>(key, whenDefault), get_(get), set_(set), standard_(std::move(standard))
+    {
+    }
+    void Read(Control& control, const host::PropertyBag& bag) const override
+    {
+        set_(control, bag.Read<Stored>(this->key_, standard_.Of(control)));
+    }
+    void Write(Control& control, host::PropertyBag& bag) const override
+    {
+        if (this->whenDefault_ == WhenDefault::Stored)
+            bag.Write(this->key_, get_(control));
+        else
+            bag.Write(this->key_, get_(control), standard_.Of(control));
+    }
+
+private:
+    const Get get_;
+    const Set set_;
+    const PropertyDefault<Control, Stored> standard_;
+};
+
+/// A property that is a member of the control.
+template <class Control, class Stored, class Value>
+class MemberRow final : public PropertyRow<Control> {
+public:
+    MemberRow(const WCHAR* key, Value Control::*member, PropertyDefault<Control, Stored> standard, WhenDefault whenDefault)
+        : PropertyRow<Control>(key, whenDefault), member_(member), standard_(std::move(standard))
+    {
+    }
+    void Read(Control& control, const host::PropertyBag& bag) const override
+    {
+        control.*member_ = static_cast<Value>(bag.Read<Stored>(this->key_, standard_.Of(control)));
+    }
+    void Write(Control& control, host::PropertyBag& bag) const override
+    {
+        const auto value = static_cast<Stored>(control.*member_);
+        if (this->whenDefault_ == WhenDefault::Stored)
+            bag.Write(this->key_, value);
+        else
+            bag.Write(this->key_, value, standard_.Of(control));
+    }
+
+private:
+    Value Control::*const member_;
+    const PropertyDefault<Control, Stored> standard_;
+};
+
+/// A row for a value that is got and set through functions without state: `Stored get(Control&)`, `void set(Control&, Stored)`.
+template <class Control, class Stored, class Get, class Set>
+typename PropertyTable<Control>::Row StoredThrough(const WCHAR* key, Get, Set, PropertyDefault<Control, Stored> standard,
                                                    WhenDefault whenDefault = WhenDefault::LeftOut)
 {
-    const auto defaultOf = [=](Control& control) -> Stored {
-        if constexpr (std::is_invocable_v<Default, Control&>)
-            return standard(control);
-        else
-            return static_cast<Stored>(standard);
-    };
-    return {[=](Control& control, const host::PropertyBag& bag) { set(control, bag.Read<Stored>(key, defaultOf(control))); },
-            [=](Control& control, host::PropertyBag& bag) {
-                const Stored value = get(control);
-                if (whenDefault == WhenDefault::Stored)
-                    bag.Write(key, value);
-                else
-                    bag.Write(key, value, defaultOf(control));
-            }};
+    return typename PropertyTable<Control>::Row(std::make_shared<ThroughRow<Control, Stored>>(
+        key, [](Control& control) -> Stored { return Get()(control); },
+        [](Control& control, const Stored& stored) { Set()(control, stored); }, std::move(standard), whenDefault));
 }
 
-/// A row for a value that `member` reaches: a pointer to a member, or a function from the control to a reference. `Stored` is the type
-/// in the bag; a truth value is kept there as a byte, 0 or 1, and counts as true whatever else than 0 is read.
-template <class Control, class Stored, class Member, class Default = Stored>
-typename PropertyTable<Control>::Row StoredAs(const WCHAR* key, Member member, Default standard,
+/// A row for a value that `reach`, a function without state from the control to a reference, gives. `Stored` is the type in the bag; a
+/// truth value is kept there as a byte, 0 or 1, and counts as true whatever else than 0 is read.
+template <class Control, class Stored, class Reach>
+typename PropertyTable<Control>::Row StoredAs(const WCHAR* key, Reach, PropertyDefault<Control, Stored> standard,
                                               WhenDefault whenDefault = WhenDefault::LeftOut)
 {
     return StoredThrough<Control, Stored>(
-        key, [=](Control& control) { return static_cast<Stored>(std::invoke(member, control)); },
-        [=](Control& control, const Stored& stored) {
-            auto& value = std::invoke(member, control);
+        key, [](Control& control) { return static_cast<Stored>(Reach()(control)); },
+        [](Control& control, const Stored& stored) {
+            auto& value = Reach()(control);
             value = static_cast<std::remove_reference_t<decltype(value)>>(stored);
         },
-        standard, whenDefault);
+        std::move(standard), whenDefault);
+}
+
+/// The same for a member of the control.
+template <class Control, class Stored, class Value>
+typename PropertyTable<Control>::Row StoredAs(const WCHAR* key, Value Control::*member, PropertyDefault<Control, Stored> standard,
+                                              WhenDefault whenDefault = WhenDefault::LeftOut)
+{
+    return typename PropertyTable<Control>::Row(
+        std::make_shared<MemberRow<Control, Stored, Value>>(key, member, std::move(standard), whenDefault));
 }
 
 }  // namespace controls

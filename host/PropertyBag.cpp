@@ -1,4 +1,4 @@
-// PropertyBag: finding a key and turning its value into the type that is asked for.
+// PropertyBag: finding a key, and values in and out of the types that controls keep.
 #include "host/PropertyBag.h"
 
 #include <limits>
@@ -8,18 +8,30 @@ namespace host {
 namespace {
 
 template <class T>
-void GetNumber(const PropertyValue& value, std::optional<T>& typed)
+std::optional<T> Typed(const PropertyValue& value)
 {
-    const Number* number = std::get_if<Number>(&value);
-    if (number != nullptr && number->value >= std::numeric_limits<T>::min() && number->value <= std::numeric_limits<T>::max())
-        typed = static_cast<T>(number->value);
+    if constexpr (std::same_as<T, std::shared_ptr<Font>>) {
+        const auto* description = std::get_if<FontDescription>(&value);
+        return description ? std::optional(std::make_shared<Font>(*description)) : std::nullopt;
+    } else if constexpr (std::integral<T> && !std::same_as<T, bool>) {
+        const auto* number = std::get_if<Number>(&value);
+        const bool fits = number && number->value >= std::numeric_limits<T>::min() && number->value <= std::numeric_limits<T>::max();
+        return fits ? std::optional(static_cast<T>(number->value)) : std::nullopt;
+    } else {
+        const T* same = std::get_if<T>(&value);
+        return same ? std::optional(*same) : std::nullopt;
+    }
 }
 
 template <class T>
-void GetSame(const PropertyValue& value, std::optional<T>& typed)
+PropertyValue Made(const T& value)
 {
-    if (const T* same = std::get_if<T>(&value))
-        typed = *same;
+    if constexpr (std::same_as<T, std::shared_ptr<Font>>)
+        return value ? value->Description() : FontDescription{};  // No font is stored as the default description.
+    else if constexpr (std::integral<T> && !std::same_as<T, bool>)
+        return Number{value, std::same_as<T, std::uint32_t>};
+    else
+        return value;
 }
 
 }  // namespace
@@ -32,45 +44,38 @@ const PropertyValue* PropertyBag::Find(base::StringView key, int occurrence) con
     return nullptr;
 }
 
-void PropertyBag::Get(const PropertyValue& value, std::optional<bool>& typed)
+template <BagValue T>
+T PropertyBag::Read(base::StringView key, std::type_identity_t<T> fallback, int occurrence) const
 {
-    GetSame(value, typed);
+    const PropertyValue* value = Find(key, occurrence);
+    return value == nullptr ? fallback : Typed<T>(*value).value_or(fallback);
 }
 
-void PropertyBag::Get(const PropertyValue& value, std::optional<std::uint8_t>& typed)
+template <BagValue T>
+void PropertyBag::Write(base::StringView key, const T& value)
 {
-    GetNumber(value, typed);
+    properties_.push_back({base::String(key), Made(value)});
 }
 
-void PropertyBag::Get(const PropertyValue& value, std::optional<std::int16_t>& typed)
+template <BagValue T>
+void PropertyBag::Write(base::StringView key, const T& value, const std::type_identity_t<T>& fallback)
 {
-    GetNumber(value, typed);
+    if (Made(value) != Made(fallback))
+        Write(key, value);
 }
 
-void PropertyBag::Get(const PropertyValue& value, std::optional<std::int32_t>& typed)
-{
-    GetNumber(value, typed);
-}
-
-void PropertyBag::Get(const PropertyValue& value, std::optional<std::uint32_t>& typed)
-{
-    GetNumber(value, typed);
-}
-
-void PropertyBag::Get(const PropertyValue& value, std::optional<base::String>& typed)
-{
-    GetSame(value, typed);
-}
-
-void PropertyBag::Get(const PropertyValue& value, std::optional<std::shared_ptr<Font>>& typed)
-{
-    if (const FontDescription* description = std::get_if<FontDescription>(&value))
-        typed = std::make_shared<Font>(*description);
-}
-
-void PropertyBag::Get(const PropertyValue& value, std::optional<TextList>& typed)
-{
-    GetSame(value, typed);
-}
+#define INSTANTIATE(Type)                                                     \
+    template Type PropertyBag::Read<Type>(base::StringView, Type, int) const; \
+    template void PropertyBag::Write<Type>(base::StringView, const Type&);    \
+    template void PropertyBag::Write<Type>(base::StringView, const Type&, const Type&);
+INSTANTIATE(bool)
+INSTANTIATE(std::uint8_t)
+INSTANTIATE(std::int16_t)
+INSTANTIATE(std::int32_t)
+INSTANTIATE(std::uint32_t)
+INSTANTIATE(base::String)
+INSTANTIATE(std::shared_ptr<Font>)
+INSTANTIATE(TextList)
+#undef INSTANTIATE
 
 }  // namespace host
