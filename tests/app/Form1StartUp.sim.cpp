@@ -121,6 +121,21 @@ TEST_F(Form1StartUp, Keys_CloseTheWindowOnlyWithTheRightModifiers)
     ASSERT_TRUE(Open());
     desktop.Press(VK_F5, kAlt);
     EXPECT_FALSE(IsOpen());
+    ASSERT_TRUE(Open());
+    desktop.Press(VK_ESCAPE);
+    EXPECT_FALSE(IsOpen()) << "Alt was let go while no window was there";
+}
+
+TEST_F(Form1StartUp, F6_LeadsThroughAllFrames)
+{
+    ASSERT_TRUE(Open());
+    Form().Find(TEXT("TextPassword"))->SetFocus();
+    for (const WCHAR* name : {TEXT("CheckAutoStart"), TEXT("cmdInstall"), TEXT("CommandStartVelmora"), TEXT("CommandOk"), TEXT("chkSystem"),
+                              TEXT("TextPassword")}) {
+        pc.Settle();
+        The<Desktop>().Press(VK_F6);
+        EXPECT_EQ(Form().ActiveControl()->GetExtender().Name(), name);
+    }
 }
 
 TEST_F(Form1StartUp, Escape_ClosesFromEveryControlThatCanHaveTheFocus)

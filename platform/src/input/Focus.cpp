@@ -68,6 +68,14 @@ bool MayTakeForeground()
     return front && front->actor.process == process;
 }
 
+/// Keys that went down or up while another program, or nobody, was in front are known to the one that comes to the front.
+void CatchUpWithKeys(InputState& input)
+{
+    const auto& now = Queues().asyncKeys;
+    for (std::size_t key = 0; input.events.empty() && key < now.size(); ++key)
+        input.keys[key] = static_cast<BYTE>((input.keys[key] & 0x01) | (now[key] & 0x80));
+}
+
 bool Activate(Window& window, UINT how)
 {
     const WindowPtr keep = window.shared_from_this();
@@ -78,6 +86,7 @@ bool Activate(Window& window, UINT how)
     if (newProgram) {
         LeaveForeground(window.handle, queue.actor.thread);
         Queues().Foreground() = input;
+        CatchUpWithKeys(*input);
     } else {
         previous = input->active;
         if (previous == window.handle)
