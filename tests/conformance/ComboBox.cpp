@@ -138,6 +138,9 @@ TEST_F(ComboBox, ClosedHeight_FollowsTheFieldAndNotTheCreator)
     const int height = Height();
     SetWindowPos(combo_, nullptr, 0, 0, 150, 300, SWP_NOMOVE | SWP_NOZORDER);
     EXPECT_EQ(Height(), height);
+    RECT client{};
+    GetClientRect(combo_, &client);
+    EXPECT_EQ(client.right, 150) << "the scroll bar that was asked for is the list's";
 }
 
 }  // namespace

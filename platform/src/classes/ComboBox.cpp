@@ -23,6 +23,8 @@ LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam)
                 return FALSE;
             }
             openHeight_ = create.cy;
+            // A scroll bar is asked for the list; the field has none.
+            WindowOf(window_)->style &= ~static_cast<DWORD>(WS_VSCROLL | WS_HSCROLL);
             return inner::DefWindowProc(window_, message, wParam, lParam);
         }
         case WM_CREATE:

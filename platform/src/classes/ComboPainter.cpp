@@ -48,6 +48,7 @@ void PaintComboField(HDC dc, const RECT& client, const ComboBox::Look& look, HBR
     if (look.themed) {
         auto& theme = SimPc::Current().Get<Theme>();
         const int state = !look.enabled ? CBXS_DISABLED : look.dropped ? CBXS_PRESSED : CBXS_NORMAL;
+        canvas.Fill(client, SystemColor(COLOR_BTNFACE));  // The look's round corners let the parent through.
         theme.Draw(VSCLASS_COMBOBOX, dc, CP_READONLY, state, client);
         theme.Draw(VSCLASS_COMBOBOX, dc, CP_DROPDOWNBUTTONRIGHT, state, button);
     } else {
