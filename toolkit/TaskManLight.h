@@ -17,7 +17,7 @@ using Flag = std::uint8_t;
 /// enumerates.
 class TaskManLight {
 public:
-    // ---- Processes. A process id that is 0 or no multiple of 4 does not exist.
+    // ---- Processes. An id that is 0 or no multiple of 4 does not exist, though Windows would round it down and open a stranger.
     DWORD GetMyPID() const;
     DWORD GetPIDFromhWnd(HWND In_hWnd) const;
     /// The caller closes the handle. The function that makes it is looked up in oleacc.dll.
@@ -31,17 +31,21 @@ public:
     Flag KillProcessByHnd(HANDLE In_hProcess) const;
     Flag KillProcessByPID(DWORD In_PID) const;
     /// Asks the process's windows to close, without waiting; a process without windows is killed. Pending messages of the calling thread
-    /// are handled meanwhile.
+    /// are handled meanwhile. 0 for the process 0, and while another list is being collected.
     Flag CloseProcessByPID(DWORD In_PID) const;
     void CloseProcessByHnd(HANDLE In_hProcess) const;
     /// All process ids; -1 on failure.
     std::int32_t GetAllPID(std::vector<DWORD>& Out_PID) const;
+    /// Priorities are priority classes; 0 on failure. A class that takes a privilege which is missing becomes the next lower one.
+    /// https://learn.microsoft.com/windows/win32/api/processthreadsapi/nf-processthreadsapi-setpriorityclass
     std::int32_t SetCurrentProcessPriority(DWORD In_Priority) const;
     DWORD GetCurrentProcessPriority() const;
     DWORD GetPriorityFromPID(DWORD In_PID) const;
     std::int32_t SetPriorityFromPID(DWORD In_PID, DWORD In_Priority) const;
+    /// Empties the working set: its pages are read again when they are next touched.
     void TrimWorkingSet(DWORD In_PID) const;
     void TrimWorkingSetCurrentProcess() const;
+    /// One bit a processor, as wide as an address. Untouched on failure. Windows gives 0 for a process in several processor groups.
     Flag GetAffinityMaskFromPID(DWORD In_PID, DWORD_PTR& Out_CPUAffinityMask, DWORD_PTR& Out_SystemAvailableCPUMask) const;
     Flag SetAffinityMaskFromPID(DWORD In_ProcessID, DWORD_PTR In_CPUAffinityMask) const;
     /// Bytes, except the page-fault count. Untouched on failure.
@@ -71,10 +75,11 @@ public:
     std::int16_t GetAllMyInstancesCount() const;
     std::int16_t GetAllMyOtherInstancesPID(std::vector<DWORD>& Out_PID) const;
 
-    // ---- Windows: lists of them return -1 while another list is being collected
+    // ---- Windows. While another list is being collected, the first three return -1 and leave their lists; all others find no window.
     std::int32_t GetHWndFromPID(DWORD In_PID, std::vector<HWND>& Out_hWnd) const;
     std::int32_t GetAllHWnd(std::vector<HWND>& Out_hWnd) const;
     std::int32_t GetChildWindows(HWND In_Parent, std::vector<HWND>& Out_hWnd) const;
+    /// The process's top-level windows without an owner, titled or not.
     std::int32_t GetMainWindowsHWndFromPID(DWORD In_PID, std::vector<HWND>& Out_hWnd) const;
     /// A window without owner and with a title.
     bool IsMainWindow(HWND In_hWnd) const;
@@ -120,10 +125,12 @@ public:
     Flag LockComputer() const;
     base::String GetActualUser() const;
     base::String GetActualDomain() const;
-    /// -1 on failure.
+    /// Logical processors of the processor group that the process runs in, as one byte tells them; -1 on failure.
     std::int16_t GetCPUCount() const;
 
-    // ---- Memory of the PC, in bytes; 0xFFFFFFFF stands for more than 32 bits can say
+    // ---- Memory of the PC, in bytes. 0xFFFFFFFF stands for 4 GB and more. Of a PC with more memory Windows tells a 32-bit program at most
+    // 0xFFFFFFFF, and of one with 2 to 4 GB only 2 GB, unless the program is linked as aware of large addresses.
+    // https://learn.microsoft.com/windows/win32/api/winbase/nf-winbase-globalmemorystatus
     std::uint32_t GetPhysMemTotal() const;
     std::uint32_t GetVirtMemTotal() const;
     std::uint32_t GetPageFileMemTotal() const;

@@ -69,8 +69,12 @@ Flag TaskManLight::CloseProcessByPID(DWORD In_PID) const
     if (In_PID == 0)
         return 0;
     std::vector<HWND> windows;
-    if (CollectTopLevelWindows(In_PID, windows) <= 0)
+    const std::int32_t count = CollectTopLevelWindows(In_PID, windows);
+    if (count == 0)
         return KillProcessByPID(In_PID);
+    // Inside another collection nothing is known of the windows, and a process that may have some is not killed.
+    if (count < 0)
+        return 0;
     if (const HWND main = GetMainWindowFromPID(In_PID))
         CloseWindow(main);
     base::DispatchPendingMessages();

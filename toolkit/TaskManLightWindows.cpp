@@ -43,8 +43,7 @@ std::int32_t TaskManLight::GetChildWindows(HWND In_Parent, std::vector<HWND>& Ou
 std::int32_t TaskManLight::GetMainWindowsHWndFromPID(DWORD In_PID, std::vector<HWND>& Out_hWnd) const
 {
     std::vector<HWND> windows;
-    if (CollectTopLevelWindows(In_PID, windows) < 0)
-        return -1;
+    CollectTopLevelWindows(In_PID, windows);
     std::erase_if(windows, [](HWND window) { return GetWindow(window, GW_OWNER) != nullptr; });
     Out_hWnd = std::move(windows);
     return static_cast<std::int32_t>(Out_hWnd.size());

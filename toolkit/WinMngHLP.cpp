@@ -7,13 +7,46 @@ namespace toolkit {
 
 namespace {
 
-void Append(HWND window) noexcept
-{
-    std::vector<HWND>& windows = CurrentWindowCollection().Windows;
-    if (windows.size() == windows.capacity())
-        windows.reserve(windows.size() + 10);
-    windows.push_back(window);
-}
+/// A list that grows by `Step` slots at a time. The vector behind it takes memory in ever larger pieces, so adding stays linear.
+template <class Element, std::size_t Step>
+class GrowingList {
+public:
+    void Start()
+    {
+        count_ = 0;
+        slots_.resize(1);
+    }
+    /// The callbacks run above Windows' own frames, which no exception may cross.
+    void Add(Element element) noexcept
+    {
+        if (count_ == slots_.size())
+            slots_.resize(slots_.size() + Step);
+        slots_[count_++] = element;
+    }
+    [[nodiscard]] bool Holds(Element element) const
+    {
+        const auto end = slots_.begin() + static_cast<std::ptrdiff_t>(count_);
+        return std::find(slots_.begin(), end, element) != end;
+    }
+    /// Gives away the elements, without the slots that were not used, and keeps nothing.
+    std::vector<Element> HandOver()
+    {
+        slots_.resize(count_);
+        return std::exchange(slots_, {});
+    }
+
+private:
+    std::vector<Element> slots_;
+    std::size_t count_ = 0;
+};
+
+/// The one collection that can run at a time; the callbacks write it.
+struct Collection {
+    std::uint8_t Busy = 0;
+    GrowingList<HWND, 10> Windows;
+    GrowingList<DWORD, 1> Processes;
+};
+Collection current;
 
 DWORD OwnerOf(HWND window)
 {
@@ -29,21 +62,21 @@ bool Belongs(HWND window, LPARAM process)
 
 BOOL CALLBACK TakeChild(HWND window, LPARAM)
 {
-    Append(window);
+    current.Windows.Add(window);
     return TRUE;
 }
 
 BOOL CALLBACK TakeTopLevel(HWND window, LPARAM process)
 {
     if (Belongs(window, process))
-        Append(window);
+        current.Windows.Add(window);
     return TRUE;
 }
 
 BOOL CALLBACK TakeWithDescendants(HWND window, LPARAM process)
 {
     if (Belongs(window, process)) {
-        Append(window);
+        current.Windows.Add(window);
         EnumChildWindows(window, TakeChild, 0);
     }
     return TRUE;
@@ -51,54 +84,49 @@ BOOL CALLBACK TakeWithDescendants(HWND window, LPARAM process)
 
 BOOL CALLBACK TakeOwner(HWND window, LPARAM)
 {
-    std::vector<DWORD>& processes = CurrentWindowCollection().Processes;
-    const DWORD process = OwnerOf(window);
-    if (std::find(processes.begin(), processes.end(), process) == processes.end())
-        processes.push_back(process);
+    if (const DWORD process = OwnerOf(window); !current.Processes.Holds(process))
+        current.Processes.Add(process);
     return TRUE;
 }
 
-template <class Count, class Element, class Enumerate>
-Count Collect(std::vector<Element> WindowCollection::*list, std::vector<Element>& output, Enumerate enumerate)
+template <class Count, class List, class Element, class Enumerate>
+Count Collect(List& list, std::vector<Element>& output, Enumerate enumerate)
 {
-    WindowCollection& collection = CurrentWindowCollection();
-    if (collection.Busy)
+    if (current.Busy)
         return -1;
-    collection.Busy = 1;
-    (collection.*list).clear();
+    current.Busy = 1;
+    list.Start();
     enumerate();
-    output = std::exchange(collection.*list, {});
-    collection.Busy = 0;
+    output = list.HandOver();
+    current.Busy = 0;
     return static_cast<Count>(output.size());
+}
+
+std::int32_t CollectTopLevel(WNDENUMPROC take, DWORD process, std::vector<HWND>& output)
+{
+    return Collect<std::int32_t>(current.Windows, output, [&] { EnumWindows(take, static_cast<LPARAM>(process)); });
 }
 
 }  // namespace
 
-WindowCollection& CurrentWindowCollection()
-{
-    static WindowCollection collection;
-    return collection;
-}
-
 std::int32_t CollectProcessWindows(DWORD In_PID, std::vector<HWND>& Out_hWnd)
 {
-    return Collect<std::int32_t>(&WindowCollection::Windows, Out_hWnd,
-                                 [&] { EnumWindows(TakeWithDescendants, static_cast<LPARAM>(In_PID)); });
+    return CollectTopLevel(TakeWithDescendants, In_PID, Out_hWnd);
 }
 
 std::int32_t CollectChildWindows(HWND In_Parent, std::vector<HWND>& Out_hWnd)
 {
-    return Collect<std::int32_t>(&WindowCollection::Windows, Out_hWnd, [&] { EnumChildWindows(In_Parent, TakeChild, 0); });
+    return Collect<std::int32_t>(current.Windows, Out_hWnd, [&] { EnumChildWindows(In_Parent, TakeChild, 0); });
 }
 
 std::int32_t CollectTopLevelWindows(DWORD In_PID, std::vector<HWND>& Out_hWnd)
 {
-    return Collect<std::int32_t>(&WindowCollection::Windows, Out_hWnd, [&] { EnumWindows(TakeTopLevel, static_cast<LPARAM>(In_PID)); });
+    return CollectTopLevel(TakeTopLevel, In_PID, Out_hWnd);
 }
 
 std::int16_t CollectWindowOwnerPIDs(std::vector<DWORD>& Out_PID)
 {
-    return Collect<std::int16_t>(&WindowCollection::Processes, Out_PID, [] { EnumWindows(TakeOwner, 0); });
+    return Collect<std::int16_t>(current.Processes, Out_PID, [] { EnumWindows(TakeOwner, 0); });
 }
 
 }  // namespace toolkit

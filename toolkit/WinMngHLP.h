@@ -8,17 +8,10 @@
 
 namespace toolkit {
 
-/// The one collection that can run at a time. The enumeration callbacks write it, so a collector that is entered while another runs returns
-/// -1 at once and leaves the caller's list as it was.
-struct WindowCollection {
-    std::uint8_t Busy = 0;
-    std::vector<HWND> Windows;
-    std::vector<DWORD> Processes;
-};
-WindowCollection& CurrentWindowCollection();
-
-/// Each returns the number of elements, or -1 while another collection runs. The list's old contents are discarded.
+/// Each returns the number of elements; the list's old contents are discarded. One collection runs at a time: a collector that is entered
+/// while another runs returns -1 at once and leaves the caller's list as it was.
 /// https://learn.microsoft.com/windows/win32/api/winuser/nf-winuser-enumwindows
+///
 /// The top-level windows of the process (of all for 0), each followed by all of its descendants.
 std::int32_t CollectProcessWindows(DWORD In_PID, std::vector<HWND>& Out_hWnd);
 /// All descendants of a window.

@@ -1,6 +1,7 @@
 // CallTrace: the Windows calls that the program made on the stand-in PC, in order.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,6 +25,9 @@ public:
     void Stop() { recording_ = false; }
     [[nodiscard]] bool Recording() const { return recording_; }
     void Add(CallRecord record) { records_.push_back(std::move(record)); }
+
+    /// Called at the head of every call, recorded or not: what happens in the middle of something else. Its own calls come here too.
+    std::function<void(std::string_view function)> OnCall;
 
     [[nodiscard]] const std::vector<CallRecord>& Records() const { return records_; }
     /// Calls of one function, in order.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <string>
 #include <vector>
@@ -58,7 +59,7 @@ private:
     [[nodiscard]] const Slot* SlotOf(std::uintptr_t handle) const;
 
     std::vector<Slot> slots_{1};
-    std::vector<std::uint32_t> free_;
+    std::deque<std::uint32_t> free_;
     std::size_t live_ = 0;
 };
 

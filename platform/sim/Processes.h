@@ -27,12 +27,14 @@ struct Thread {
     DWORD process = 0;
     DWORD suspended = 0;
     DWORD exitCode = STILL_ACTIVE;
+    bool ended = false;  // the exit code does not tell: a thread may end with STILL_ACTIVE
 };
 
 struct Process {
     DWORD id = 0;
     std::u16string image;
     DWORD exitCode = STILL_ACTIVE;
+    bool ended = false;  // the exit code does not tell, as with threads
     DWORD priority = NORMAL_PRIORITY_CLASS;
     DWORD_PTR affinity = 0;  // 0: all processors
     /// Whether it is a 32-bit process on a 64-bit Windows. The program's own answer is `Machine::Wow64`.
@@ -48,7 +50,7 @@ struct Process {
     std::vector<std::shared_ptr<Thread>> threads;
     std::shared_ptr<Program> program;
 
-    [[nodiscard]] bool Runs() const { return exitCode == STILL_ACTIVE; }
+    [[nodiscard]] bool Runs() const { return !ended; }
     [[nodiscard]] Actor MainActor() const { return {id, threads.front()->id}; }
 };
 

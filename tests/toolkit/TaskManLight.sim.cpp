@@ -1,17 +1,18 @@
-// Scenes that only the stand-in PC can set: other processes, strange drives, a 32-bit program on 64-bit Windows.
+// Scenes that only the stand-in PC can set: strange drives, a 32-bit program on 64-bit Windows, a nested collection, the shell's windows.
 #include "toolkit/TaskManLight.h"
 #include "platform/sim/Desktop.h"
 #include "platform/sim/Machine.h"
 #include "platform/sim/Processes.h"
-#include "platform/sim/Users.h"
 #include "platform/sim/Volumes.h"
+#include "tests/toolkit/HelperProcess.h"
 #include "tests/toolkit/TestWindows.h"
-#include "toolkit/SystemSecurity.h"
+#include "toolkit/WinMngHLP.h"
 
 #include <gtest/gtest.h>
 
 using namespace platform;
 using base::String;
+using tests::HelperProcess;
 
 namespace {
 
@@ -20,92 +21,54 @@ protected:
     TaskManLight() { toolkit::ForgetWow64(); }
     ~TaskManLight() override { toolkit::ForgetWow64(); }
 
-    template <class Area>
-    Area& The()
-    {
-        return pc.Get<Area>();
-    }
-    /// A window of another process.
-    HWND WindowOf(DWORD process, const WCHAR* title, HWND parent = nullptr)
-    {
-        HWND window = nullptr;
-        pc.ActAs(The<Processes>().Find(process)->MainActor(), [&] {
-            WNDCLASSEXW description = {};
-            description.cbSize = sizeof(description);
-            description.lpfnWndProc = DefWindowProcW;
-            description.lpszClassName = TEXT("Other");
-            RegisterClassExW(&description);
-            window = CreateWindowExW(0, TEXT("Other"), title, parent ? WS_CHILD : WS_OVERLAPPEDWINDOW, 0, 0, 50, 50, parent, nullptr,
-                                     nullptr, nullptr);
-        });
-        EXPECT_NE(window, nullptr);
-        return window;
-    }
-
     SimPc& pc = SimPc::Current();
+    Processes& processes = pc.Get<Processes>();
     toolkit::TaskManLight tools;
 };
 
-TEST_F(TaskManLight, Killing_EndsWithTheCodeOfARunningProcess)
-{
-    const DWORD process = The<Processes>().Launch(u"C:\\a.exe");
-    const base::String expected = TEXT("a.exe");
-    EXPECT_EQ(tools.GetFileNameFromPID(process), expected);
-    EXPECT_EQ(tools.KillProcessByPID(process), 1);
-    EXPECT_FALSE(The<Processes>().IsRunning(process));
-    EXPECT_EQ(tools.KillProcessByPID(process), 0) << "it has ended";
-    EXPECT_FALSE(tools.ExistsPID(process));
-
-    const DWORD stubborn = The<Processes>().Launch(u"C:\\a.exe");
-    The<Processes>().Find(stubborn)->ignoresTermination = true;
-    EXPECT_EQ(tools.KillProcessByPID(stubborn), 0);
-}
-
-TEST_F(TaskManLight, PoliteClose_KillsOnlyWhatHasNoWindow)
-{
-    const DWORD windowless = The<Processes>().Launch(u"C:\\a.exe");
-    const DWORD windowed = The<Processes>().Launch(u"C:\\b.exe");
-    const HWND window = WindowOf(windowed, TEXT(""));
-    EXPECT_EQ(tools.CloseProcessByPID(windowless), 1);
-    EXPECT_FALSE(The<Processes>().IsRunning(windowless));
-    EXPECT_EQ(tools.CloseProcessByPID(windowed), 1);
-    EXPECT_TRUE(The<Processes>().IsRunning(windowed)) << "it is only asked";
-    pc.Settle();
-    EXPECT_FALSE(IsWindow(window));
-}
-
-TEST_F(TaskManLight, Instances_AreThoseOfTheSameImageWithAWindow)
-{
-    const DWORD first = The<Processes>().Launch(u"C:\\a.exe");
-    const DWORD second = The<Processes>().Launch(u"C:\\a.exe");
-    The<Processes>().Launch(u"C:\\a.exe");
-    const DWORD other = The<Processes>().Launch(u"C:\\b.exe");
-    EXPECT_EQ(tools.GetAppInstanceCountByPID(first), 0) << "no window yet";
-    for (const DWORD process : {first, second, other, first})
-        WindowOf(process, TEXT("w"));
-    std::vector<DWORD> found = {7};
-    EXPECT_EQ(tools.GetAllInstancesPIDsByPID(first, found, false), 1);
-    EXPECT_EQ(found, (std::vector<DWORD>{7, second})) << "the list grows";
-    EXPECT_EQ(tools.GetAppInstanceCountByPID(first), 2);
-    EXPECT_EQ(tools.GetAllMyInstancesCount(), 1);
-}
-
-TEST_F(TaskManLight, CaptionSearch_PassesOverOwnWindowsToAnothersChild)
+TEST_F(TaskManLight, NestedCollection_FindsNothingAndLeavesTheOuterOneWhole)
 {
     tests::TestWindows own;
-    own.Child(own.Top(TEXT("FIND-ME")), TEXT("FIND-ME"));
-    const DWORD other = The<Processes>().Launch(u"C:\\a.exe");
-    const HWND child = WindowOf(other, TEXT("FIND-ME"), WindowOf(other, TEXT("top")));
-    EXPECT_EQ(tools.FindHWndByCaption(TEXT("FIND-ME"), true), child);
-    EXPECT_EQ(tools.GetHWndByCaptionCount(TEXT("FIND-ME"), true), 1);
-    EXPECT_EQ(tools.GetHWndByCaptionCount(TEXT("FIND-ME"), false), 3);
+    own.Make("top:a child:b inner:c top:d child:e");
+    const HelperProcess helper("top:Main");
+    std::vector<HWND> whole;
+    ASSERT_EQ(tools.GetHWndFromPID(tools.GetMyPID(), whole), 5);
+    const HWND before = whole.back();
+    int nested = 0;
+    pc.Trace().OnCall = [&](std::string_view function) {
+        if (function != "GetWindowThreadProcessId" || ++nested != 2)
+            return;
+        std::vector<HWND> list = {before};
+        std::vector<DWORD> owners = {7};
+        EXPECT_EQ(tools.GetHWndFromPID(tools.GetMyPID(), list), -1);
+        EXPECT_EQ(tools.GetAllHWnd(list), -1);
+        EXPECT_EQ(tools.GetChildWindows(before, list), -1);
+        EXPECT_EQ(toolkit::CollectTopLevelWindows(0, list), -1);
+        EXPECT_EQ(list, std::vector<HWND>{before});
+        EXPECT_EQ(toolkit::CollectWindowOwnerPIDs(owners), -1);
+        EXPECT_EQ(owners, std::vector<DWORD>{7});
+        EXPECT_EQ(tools.GetMainWindowsHWndFromPID(helper.Id(), list), 0);
+        EXPECT_TRUE(list.empty());
+        EXPECT_EQ(tools.GetMainWindowFromPID(helper.Id()), nullptr);
+        EXPECT_EQ(tools.GetAppInstanceCountByPID(helper.Id()), 0);
+        EXPECT_EQ(tools.GetHWndByCaptionCount(TEXT("Main"), true), 0);
+        EXPECT_EQ(tools.CloseProcessByPID(helper.Id()), 0) << "it may have windows, so it is not killed";
+    };
+    std::vector<HWND> outer;
+    EXPECT_EQ(tools.GetHWndFromPID(tools.GetMyPID(), outer), 5);
+    pc.Trace().OnCall = nullptr;
+    EXPECT_GT(nested, 2);
+    EXPECT_EQ(outer, whole);
+    EXPECT_FALSE(helper.Ends(0));
+    EXPECT_EQ(tools.GetAllHWnd(outer), 6) << "free again";
 }
 
 TEST_F(TaskManLight, Paths_TakeTheFirstDriveWhoseDeviceBegins)
 {
-    The<Volumes>().AddVolume(u"D:\\");
-    The<Volumes>().Device(u"C:\\", u"\\Device\\HarddiskVolume1");
-    The<Volumes>().Device(u"D:\\", u"\\Device\\HarddiskVolume10");
+    auto& volumes = pc.Get<Volumes>();
+    volumes.AddVolume(u"D:\\");
+    volumes.Device(u"C:\\", u"\\Device\\HarddiskVolume1");
+    volumes.Device(u"D:\\", u"\\Device\\HarddiskVolume10");
     std::vector<String> drives;
     EXPECT_EQ(tools.GetLogicalDrives(drives), 2);
     EXPECT_EQ(drives, (std::vector<String>{TEXT("C:"), TEXT("D:")}));
@@ -119,50 +82,71 @@ TEST_F(TaskManLight, Paths_TakeTheFirstDriveWhoseDeviceBegins)
 
 TEST_F(TaskManLight, Wow64_TellsProcessesApartAndAsksForDevicePaths)
 {
-    const DWORD process = The<Processes>().Launch(u"C:\\a.exe");
+    const DWORD process = processes.Launch(u"C:\\a.exe");
     EXPECT_EQ(tools.Is32BitProcess(process), 1);
     toolkit::ForgetWow64();
-    The<Machine>().Wow64(true);
+    pc.Get<Machine>().Wow64(true);
     EXPECT_EQ(tools.Is32BitProcess(process), 0);
-    The<Processes>().Find(process)->wow64 = true;
+    processes.Find(process)->wow64 = true;
     EXPECT_EQ(tools.Is32BitProcess(process), 1);
     EXPECT_EQ(tools.Is32BitProcess(process + 2), -1);
     pc.GetFaults().FailAlways("GetModuleFileNameExW", ERROR_PARTIAL_COPY);
     EXPECT_EQ(tools.GetPathFromPID(process), TEXT("C:\\a.exe"));
-    The<Machine>().Wow64(false);
+    pc.Get<Machine>().Wow64(false);
     EXPECT_EQ(tools.GetPathFromPID(process), TEXT("C:\\a.exe")) << "asked once";
+    pc.GetFaults().Clear();
+    pc.GetFaults().FailAlways("GetProcessImageFileNameW", ERROR_ACCESS_DENIED);
+    EXPECT_EQ(tools.GetPathFromPID(process), TEXT("C:\\a.exe")) << "the other way when there is no device path";
 }
 
 TEST_F(TaskManLight, ProcessList_GrowsUntilItFits)
 {
     std::vector<DWORD> all;
     const int before = tools.GetAllPID(all);
-    for (int i = 0; i < 140; ++i)
-        The<Processes>().Launch(u"C:\\a.exe");
-    EXPECT_EQ(tools.GetAllPID(all), before + 140);
-    EXPECT_EQ(all.size(), static_cast<std::size_t>(before) + 140);
-    pc.GetFaults().FailAlways("EnumProcesses", ERROR_ACCESS_DENIED);
-    EXPECT_EQ(tools.GetAllPID(all), -1);
+    // 64 ids fill the first room without a rest, 140 take the third.
+    for (const int more : {64 - before, 140}) {
+        for (int i = 0; i < more; ++i)
+            processes.Launch(u"C:\\a.exe");
+        EXPECT_EQ(tools.GetAllPID(all), std::ssize(processes.All()));
+        EXPECT_EQ(all, processes.All());
+    }
 }
 
-TEST_F(TaskManLight, Figures_ThatDoNotFitAreCapped)
+TEST_F(TaskManLight, Figures_AreNeitherCutNorMixedUp)
 {
-    The<Machine>().SetMemory({.loadPercent = 61, .totalPhysical = 0x300000000, .freePhysical = 0x1000});
+    pc.Get<Machine>().SetMemory({61, 0x300000000, 0x1001, 0x1002, 0x1003, 0x1004, 0x200000000});
     EXPECT_EQ(tools.GetPhysMemTotal(), 0xFFFFFFFFu);
-    EXPECT_EQ(tools.GetPhysMemAvailable(), 0x1000u);
+    EXPECT_EQ(tools.GetPhysMemAvailable(), 0x1001u);
+    EXPECT_EQ(tools.GetPageFileMemTotal(), 0x1002u);
+    EXPECT_EQ(tools.GetPageFileMemAvailable(), 0x1003u);
+    EXPECT_EQ(tools.GetVirtMemTotal(), 0x1004u);
+    EXPECT_EQ(tools.GetVirtMemAvailable(), 0xFFFFFFFFu);
     EXPECT_EQ(tools.GetMemLoad(), 61);
-    The<Machine>().Processors(200);
+    pc.Get<Machine>().Processors(200);
     EXPECT_EQ(tools.GetCPUCount(), 200);
-    pc.GetFaults().FailAlways("NtQuerySystemInformation", ERROR_INVALID_PARAMETER);
-    EXPECT_EQ(tools.GetCPUCount(), -1);
+
+    pc.Get<Machine>().Processors(40);
+    const DWORD process = processes.Launch(u"C:\\a.exe");
+    const DWORD_PTR high = (DWORD_PTR{1} << 39) | 1;
+    DWORD_PTR read[2] = {};
+    EXPECT_EQ(tools.SetAffinityMaskFromPID(process, high), 1);
+    EXPECT_EQ(tools.GetAffinityMaskFromPID(process, read[0], read[1]), 1);
+    EXPECT_EQ(read[0], high);
+    EXPECT_EQ(read[1], (DWORD_PTR{1} << 40) - 1);
+    processes.Find(process)->workingSet = 0x123456789A;
+    SIZE_T sizes[8] = {};
+    DWORD faults = 0;
+    tools.GetMemoryUsageFromPID(process, sizes[0], sizes[1], faults, sizes[2], sizes[3], sizes[4], sizes[5], sizes[6], sizes[7]);
+    const SIZE_T expected[] = {0x123456789A, 0x700000, 0x20000, 0x21000, 0x10000, 0x11000, 0x300000, 0x400000};
+    EXPECT_TRUE(std::equal(sizes, sizes + 8, expected));
+    EXPECT_EQ(faults, 1501u);
 }
 
 TEST_F(TaskManLight, HungWindow_HasNoText)
 {
-    const DWORD process = The<Processes>().Launch(u"C:\\a.exe");
-    const HWND window = WindowOf(process, TEXT("title"));
-    EXPECT_EQ(tools.GetTextByHWnd(window), TEXT("title"));
-    The<Desktop>().Hang(The<Processes>().Find(process)->MainActor());
+    const HelperProcess helper("top:title");
+    const HWND window = tools.GetMainWindowFromPID(helper.Id());
+    pc.Get<Desktop>().Hang(processes.Find(helper.Id())->MainActor());
     EXPECT_EQ(tools.GetTextByHWnd(window), TEXT(""));
     EXPECT_EQ(tools.GetLenTextByHWnd(window), 0);
     EXPECT_EQ(tools.GetWindowTitle(window), TEXT("title")) << "read without asking the window";
@@ -170,77 +154,57 @@ TEST_F(TaskManLight, HungWindow_HasNoText)
 
 TEST_F(TaskManLight, ActivateMyWindow_LeavesTheInputQueuesApart)
 {
-    const HWND other = WindowOf(The<Processes>().Launch(u"C:\\a.exe"), TEXT("other"));
+    const HelperProcess helper("top:other");
+    const HWND other = tools.GetMainWindowFromPID(helper.Id());
     ShowWindow(other, SW_SHOW);
     SetForegroundWindow(other);
     tests::TestWindows own;
-    const HWND window = own.Top(TEXT("form"));
-    tools.FirstFormWindow = [window] { return window; };
+    tools.FirstFormWindow = [window = own.Top(TEXT("form"))] { return window; };
     pc.Trace().Start();
     tools.ActivateMyWindow();
-    EXPECT_TRUE(tools.IsForegroundWindow(window));
+    std::string order;
+    for (const CallRecord& call : pc.Trace().Records())
+        if (!call.name.starts_with("Get") && call.name != "DefWindowProcW")
+            order += call.name + ' ';
+    EXPECT_EQ(order,
+              "AttachThreadInput ShowWindow ShowWindow AllowSetForegroundWindow SetForegroundWindow LockSetForegroundWindow "
+              "PostMessageW AttachThreadInput ");
     const auto attached = pc.Trace().Of("AttachThreadInput");
-    ASSERT_EQ(attached.size(), 2u);
-    EXPECT_TRUE(attached[0].arguments.ends_with("1"));
-    EXPECT_TRUE(attached[1].arguments.ends_with("0"));
-    pc.Trace().Start();
+    EXPECT_TRUE(attached.front().arguments.ends_with("1"));
+    EXPECT_TRUE(attached.back().arguments.ends_with("0"));
     pc.GetFaults().FailAlways("SetForegroundWindow", ERROR_ACCESS_DENIED);
     tools.ActivateMyWindow();
-    EXPECT_EQ(pc.Trace().Count("LockSetForegroundWindow"), 0u);
-}
-
-TEST_F(TaskManLight, Threads_AreCountedAndKilledWithTheirOwnCode)
-{
-    const DWORD process = The<Processes>().Launch(u"C:\\a.exe");
-    const DWORD thread = The<Processes>().AddThread(process);
-    EXPECT_EQ(tools.SospendiThread(thread), 0);
-    EXPECT_EQ(tools.SospendiThread(thread), 1);
-    EXPECT_EQ(tools.RiattivaThread(thread), 2);
-    EXPECT_EQ(tools.RiattivaThread(thread), 1);
-    EXPECT_NE(tools.KillThread(thread), 0);
-    EXPECT_EQ(The<Processes>().FindThread(thread) ? The<Processes>().FindThread(thread)->exitCode : 259u, 259u);
-    EXPECT_EQ(tools.LockComputer(), 1);
-    EXPECT_TRUE(The<Machine>().Locked());
+    EXPECT_EQ(pc.Trace().Count("LockSetForegroundWindow"), 1u) << "not without being in front";
 }
 
 TEST_F(TaskManLight, DesktopIconsAndTaskBar_ShowAndHide)
 {
     tools.DeskTopVisible(false);
     tools.TaskBarVisible(false);
-    const DWORD shell = The<Processes>().Launch(u"C:\\Windows\\explorer.exe");
-    HWND icons = nullptr;
-    HWND bar = nullptr;
-    pc.ActAs(The<Processes>().Find(shell)->MainActor(), [&] {
-        WNDCLASSEXW description = {};
-        description.cbSize = sizeof(description);
-        description.lpfnWndProc = DefWindowProcW;
-        for (const WCHAR* name : {TEXT("Progman"), TEXT("Shell_TrayWnd")}) {
-            description.lpszClassName = name;
-            RegisterClassExW(&description);
-        }
-        const HWND desktop = CreateWindowExW(0, TEXT("Progman"), TEXT("Program Manager"), WS_POPUP | WS_VISIBLE, 0, 0, 9, 9, nullptr,
-                                             nullptr, nullptr, nullptr);
-        icons = CreateWindowExW(0, TEXT("Progman"), TEXT(""), WS_CHILD | WS_VISIBLE, 0, 0, 9, 9, desktop, nullptr, nullptr, nullptr);
-        bar = CreateWindowExW(0, TEXT("Shell_TrayWnd"), TEXT(""), WS_POPUP | WS_VISIBLE, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
-    });
+    WNDCLASSEXW description = {};
+    description.cbSize = sizeof(description);
+    description.lpfnWndProc = DefWindowProcW;
+    for (const WCHAR* name : {TEXT("Progman"), TEXT("Shell_TrayWnd")}) {
+        description.lpszClassName = name;
+        RegisterClassExW(&description);
+    }
+    const auto make = [](const WCHAR* name, const WCHAR* title, HWND parent) {
+        return CreateWindowExW(0, name, title, (parent ? WS_CHILD : WS_POPUP) | WS_VISIBLE, 0, 0, 9, 9, parent, nullptr, nullptr, nullptr);
+    };
+    const HWND desktop = make(TEXT("Progman"), TEXT("Program Manager"), nullptr);
+    const HWND icons = make(TEXT("Progman"), TEXT(""), desktop);
+    const HWND bar = make(TEXT("Shell_TrayWnd"), TEXT(""), nullptr);
     for (const bool show : {false, true}) {
         tools.DeskTopVisible(show);
         tools.TaskBarVisible(show);
         EXPECT_EQ(tools.IsVisibleWindow(icons), show);
         EXPECT_EQ(tools.IsVisibleWindow(bar), show);
+        EXPECT_TRUE(tools.IsVisibleWindow(desktop));
     }
-}
-
-TEST_F(TaskManLight, MissingPrivilege_IsDisabledAndStaysSo)
-{
-    The<Users>().TakePrivilege(u"SeDebugPrivilege");
-    std::int32_t previous = -7;
-    EXPECT_EQ(toolkit::SystemSecurity::GetPrivilege(TEXT("SeDebugPrivilege")), 0);
-    EXPECT_EQ(toolkit::SystemSecurity::SetPrivilege(TEXT("SeDebugPrivilege"), 1, previous), 0);
-    EXPECT_EQ(previous, 0);
-    EXPECT_EQ(toolkit::SystemSecurity::SetPrivilegeEx(20, true), -1);
-    tools.EnableDebugPrivilege();
-    EXPECT_EQ(tools.DebugPrivilegeResult, 0);
+    DestroyWindow(desktop);
+    DestroyWindow(bar);
+    EXPECT_EQ(tools.LockComputer(), 1);
+    EXPECT_TRUE(pc.Get<Machine>().Locked());
 }
 
 TEST_F(TaskManLight, Mouse_IsFoundOnItsWindow)
@@ -248,7 +212,7 @@ TEST_F(TaskManLight, Mouse_IsFoundOnItsWindow)
     tests::TestWindows own;
     const HWND window = own.Top(TEXT("w"));
     ShowWindow(window, SW_SHOWNA);
-    The<Desktop>().MouseMove(50, 60);
+    pc.Get<Desktop>().MouseMove(50, 60);
     std::int32_t x = 0;
     std::int32_t y = 0;
     tools.GetMouseCursorPos(x, y);

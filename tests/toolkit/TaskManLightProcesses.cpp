@@ -1,37 +1,65 @@
+// Processes, their paths, instances and threads, held against what Windows' own functions say of a helper that runs beside the tests.
 #include "base/Handles.h"
+#include "tests/toolkit/HelperProcess.h"
 #include "toolkit/TaskManLight.h"
 
 #include <gtest/gtest.h>
+#include <psapi.h>
 
 #include <algorithm>
 
 using base::String;
+using tests::HelperProcess;
 
 namespace {
+
+constexpr DWORD killed = STILL_ACTIVE;  // what a killed process ends with
 
 class TaskManLightProcesses : public testing::Test {
 protected:
     TaskManLightProcesses() { toolkit::ForgetWow64(); }
+
+    bool IsListed(DWORD process) const
+    {
+        std::vector<DWORD> all;
+        const int count = tools.GetAllPID(all);
+        EXPECT_EQ(count, std::ssize(all));
+        return std::count(all.begin(), all.end(), process) == 1;
+    }
+    static String ModuleName(HANDLE process)
+    {
+        WCHAR name[MAX_PATH] = {};
+        GetModuleFileNameExW(process, nullptr, name, MAX_PATH);
+        return name;
+    }
+
     toolkit::TaskManLight tools;
 };
 
-TEST_F(TaskManLightProcesses, OwnProcess_ExistsAndOpens)
+TEST_F(TaskManLightProcesses, Process_IsListedAndOpenedWhileItRuns)
 {
-    const DWORD own = tools.GetMyPID();
-    EXPECT_TRUE(tools.ExistsPID(own));
-    const base::KernelHandle process(tools.OpenHndProcessByPID(own, PROCESS_QUERY_INFORMATION));
-    EXPECT_TRUE(tools.IsProcessRunningByHnd(process.Get()));
-    EXPECT_EQ(tools.GetPIDFromHndProcess(process.Get()), own);
-    std::vector<DWORD> all;
-    const int count = tools.GetAllPID(all);
-    EXPECT_EQ(count, std::ssize(all));
-    EXPECT_EQ(std::count(all.begin(), all.end(), own), 1);
+    for (const DWORD id : {tools.GetMyPID(), HelperProcess("").Id()})
+        EXPECT_EQ(IsListed(id), id == GetCurrentProcessId()) << "the helper is already gone";
+    const HelperProcess helper("");
+    EXPECT_TRUE(IsListed(helper.Id()));
+    EXPECT_TRUE(tools.ExistsPID(helper.Id()));
+    EXPECT_EQ(tools.GetPIDFromHndProcess(helper.Handle()), helper.Id());
+    const base::KernelHandle opened(tools.OpenHndProcessByPID(helper.Id(), PROCESS_QUERY_INFORMATION));
+    EXPECT_EQ(GetProcessId(opened.Get()), helper.Id());
+    ASSERT_TRUE(TerminateProcess(helper.Handle(), 7));
+    ASSERT_TRUE(helper.Ends());
+    EXPECT_FALSE(tools.IsProcessRunningByHnd(helper.Handle()));
+    EXPECT_FALSE(tools.ExistsPID(helper.Id()));
+    EXPECT_EQ(tools.OpenHndProcessByPID(helper.Id(), PROCESS_QUERY_INFORMATION), nullptr);
+    EXPECT_EQ(tools.KillProcessByHnd(helper.Handle()), 0);
+    EXPECT_EQ(helper.ExitCode(), 7u);
 }
 
 TEST_F(TaskManLightProcesses, ImpossibleIds_AreNotAsked)
 {
-    // Windows rounds an id down to a multiple of 4, so these would open this very process.
-    for (const DWORD process : {DWORD{0}, tools.GetMyPID() + 1, tools.GetMyPID() + 2, tools.GetMyPID() + 3}) {
+    const HelperProcess helper("");
+    // Windows rounds an id down to a multiple of 4, so these would open the helper.
+    for (const DWORD process : {DWORD{0}, helper.Id() + 1, helper.Id() + 2, helper.Id() + 3}) {
         EXPECT_FALSE(tools.ExistsPID(process));
         EXPECT_EQ(tools.OpenHndProcessByPID(process, PROCESS_QUERY_INFORMATION), nullptr);
         EXPECT_EQ(tools.GetNTPathFromPID(process), TEXT(""));
@@ -39,91 +67,153 @@ TEST_F(TaskManLightProcesses, ImpossibleIds_AreNotAsked)
     }
     EXPECT_FALSE(tools.IsProcessRunningByHnd(nullptr));
     EXPECT_EQ(tools.KillProcessByHnd(nullptr), 0);
+    EXPECT_EQ(tools.CloseProcessByPID(0), 0);
+    EXPECT_FALSE(helper.Ends(0));
 }
 
-TEST_F(TaskManLightProcesses, OwnPath_AgreesInAllItsForms)
+TEST_F(TaskManLightProcesses, Closing_AsksWhatHasWindowsAndKillsTheRest)
 {
-    WCHAR name[MAX_PATH] = {};
-    GetModuleFileNameW(nullptr, name, MAX_PATH);
-    const DWORD own = tools.GetMyPID();
-    EXPECT_TRUE(base::EqualsIgnoringCase(tools.GetPathFromPID(own), name));
-    const String path = tools.GetNTPathFromPID(own);
-    EXPECT_TRUE(path.starts_with(TEXT("\\Device\\")));
-    EXPECT_TRUE(base::EqualsIgnoringCase(tools.GetPathFromNTPath(path), name));
-    EXPECT_TRUE(String(name).ends_with(tools.GetFileNameFromPID(own)));
-    EXPECT_FALSE(tools.GetFileNameFromPID(own).empty());
-    EXPECT_EQ(tools.GetPathFromPID(0), TEXT(""));
-    EXPECT_EQ(tools.GetPathFromPID(4), TEXT(""));
+    const HelperProcess polite("top:Main owned:Dialog closes");
+    const HelperProcess untitled("top: top: closes");
+    const HelperProcess stubborn("top:Main");
+    const HelperProcess windowless("");
+    for (const HelperProcess* helper : {&polite, &untitled, &stubborn, &windowless})
+        EXPECT_EQ(tools.CloseProcessByPID(helper->Id()), 1);
+    for (const HelperProcess* helper : {&polite, &untitled, &windowless})
+        EXPECT_TRUE(helper->Ends());
+    EXPECT_EQ(polite.ExitCode(), 0u);
+    EXPECT_EQ(untitled.ExitCode(), 0u);
+    EXPECT_EQ(windowless.ExitCode(), killed);
+    EXPECT_FALSE(stubborn.Ends(300));
+    EXPECT_EQ(tools.KillProcessByPID(stubborn.Id()), 1);
+    EXPECT_TRUE(stubborn.Ends());
+    EXPECT_EQ(stubborn.ExitCode(), killed);
+
+    const HelperProcess byHandle("top:Main closes");
+    tools.CloseProcessByHnd(byHandle.Handle());
+    EXPECT_TRUE(byHandle.Ends());
+}
+
+TEST_F(TaskManLightProcesses, WindowHandle_OpensItsProcess)
+{
+    const HelperProcess helper("top:OPENED-BY-ITS-WINDOW");
+    const HWND window = FindWindowW(nullptr, TEXT("OPENED-BY-ITS-WINDOW"));
+    EXPECT_EQ(tools.GetPIDFromhWnd(window), helper.Id());
+    const base::KernelHandle opened(tools.OpenHndProcessByHWnd(window));
+    EXPECT_EQ(WaitForSingleObject(opened.Get(), 0), static_cast<DWORD>(WAIT_TIMEOUT));
+    tools.QuitWindow(window);
+    EXPECT_TRUE(helper.Ends());
+    EXPECT_EQ(WaitForSingleObject(opened.Get(), 0), static_cast<DWORD>(WAIT_OBJECT_0)) << "it stands for the helper";
+}
+
+TEST_F(TaskManLightProcesses, Paths_AgreeInAllTheirForms)
+{
+    const HelperProcess helper("");
+    const String path = ModuleName(helper.Handle());
+    ASSERT_TRUE(path.ends_with(TEXT("\\toolkit_helper.exe")));
+    EXPECT_EQ(tools.GetPathFromPID(helper.Id()), path);
+    EXPECT_TRUE(tools.GetNTPathFromPID(helper.Id()).starts_with(TEXT("\\Device\\")));
+    EXPECT_TRUE(base::EqualsIgnoringCase(tools.GetPathFromNTPath(tools.GetNTPathFromPID(helper.Id())), path));
+    EXPECT_EQ(tools.GetFileNameFromPID(helper.Id()), TEXT("toolkit_helper.exe"));
+    std::vector<String> modules;
+    ASSERT_EQ(tools.GetDLLsFromPID(helper.Id(), modules), 1);
+    EXPECT_EQ(modules.front(), path);
+    EXPECT_GT(modules.size(), 1u);
+    for (const DWORD systems : {0, 4})
+        EXPECT_EQ(tools.GetPathFromPID(systems), TEXT(""));
     EXPECT_EQ(tools.GetPathFromNTPath(TEXT("\\Nowhere\\x")), TEXT(""));
     EXPECT_EQ(tools.GetNtDeviceNameByLogicalDrive(TEXT("")), TEXT(""));
     std::vector<String> drives;
     const int count = tools.GetLogicalDrives(drives);
     EXPECT_EQ(count, std::ssize(drives));
     EXPECT_EQ(std::count(drives.begin(), drives.end(), TEXT("C:")), 1);
-    std::vector<String> modules;
-    EXPECT_EQ(tools.GetDLLsFromPID(own, modules), 1);
-    ASSERT_FALSE(modules.empty());
-    EXPECT_TRUE(base::EqualsIgnoringCase(modules.front(), name));
 }
 
-TEST_F(TaskManLightProcesses, PriorityAndAffinity_AreReadAsTheyWereSet)
+TEST_F(TaskManLightProcesses, Instances_AreThoseOfTheSameImageWithAWindow)
 {
-    EXPECT_NE(tools.SetCurrentProcessPriority(BELOW_NORMAL_PRIORITY_CLASS), 0);
-    EXPECT_EQ(tools.GetCurrentProcessPriority(), static_cast<DWORD>(BELOW_NORMAL_PRIORITY_CLASS));
-    EXPECT_NE(tools.SetPriorityFromPID(tools.GetMyPID(), NORMAL_PRIORITY_CLASS), 0);
-    EXPECT_EQ(tools.GetPriorityFromPID(tools.GetMyPID()), static_cast<DWORD>(NORMAL_PRIORITY_CLASS));
-    EXPECT_EQ(tools.GetPriorityFromPID(0), 0u);
+    EXPECT_EQ(tools.GetAllMyInstancesCount(), 1) << "without any window";
+    const HelperProcess first("top:");
+    const HelperProcess second("top:Main");
+    const HelperProcess windowless("");
+    std::vector<DWORD> found = {7};
+    EXPECT_EQ(tools.GetAllInstancesPIDsByPID(first.Id(), found, false), 1);
+    EXPECT_EQ(found, (std::vector<DWORD>{7, second.Id()})) << "the list grows";
+    EXPECT_EQ(tools.GetAllInstancesPIDsByPID(3, found, true), 0);
+    EXPECT_EQ(found.size(), 2u);
+    EXPECT_EQ(tools.GetAppInstanceCountByPID(first.Id()), 2);
+    EXPECT_EQ(tools.GetAppInstanceCountByPID(windowless.Id()), 2);
+    EXPECT_EQ(tools.GetAllMyOtherInstancesPID(found), 0);
+}
 
-    DWORD_PTR before = 0;
+TEST_F(TaskManLightProcesses, PriorityAndAffinity_AreThoseOfTheProcess)
+{
+    const HelperProcess helper("");
+    EXPECT_NE(tools.SetPriorityFromPID(helper.Id(), BELOW_NORMAL_PRIORITY_CLASS), 0);
+    EXPECT_EQ(GetPriorityClass(helper.Handle()), static_cast<DWORD>(BELOW_NORMAL_PRIORITY_CLASS));
+    EXPECT_EQ(tools.GetPriorityFromPID(helper.Id()), static_cast<DWORD>(BELOW_NORMAL_PRIORITY_CLASS));
+    EXPECT_EQ(tools.GetCurrentProcessPriority(), GetPriorityClass(GetCurrentProcess()));
+    EXPECT_NE(tools.SetCurrentProcessPriority(NORMAL_PRIORITY_CLASS), 0);
+
+    DWORD_PTR own = 0;
     DWORD_PTR available = 0;
-    ASSERT_EQ(tools.GetAffinityMaskFromPID(tools.GetMyPID(), before, available), 1);
+    ASSERT_TRUE(GetProcessAffinityMask(helper.Handle(), &own, &available));
     const DWORD_PTR lowest = available & (~available + 1);
-    EXPECT_EQ(tools.SetAffinityMaskFromPID(tools.GetMyPID(), lowest), 1);
-    DWORD_PTR now = 0;
-    EXPECT_EQ(tools.GetAffinityMaskFromPID(tools.GetMyPID(), now, available), 1);
-    EXPECT_EQ(now, lowest);
-    EXPECT_EQ(tools.SetAffinityMaskFromPID(tools.GetMyPID(), before), 1);
-    now = 77;
-    EXPECT_EQ(tools.GetAffinityMaskFromPID(0, now, available), 0);
-    EXPECT_EQ(now, 77u) << "outputs stay on failure";
+    EXPECT_EQ(tools.SetAffinityMaskFromPID(helper.Id(), lowest), 1);
+    DWORD_PTR read[2] = {};
+    EXPECT_EQ(tools.GetAffinityMaskFromPID(helper.Id(), read[0], read[1]), 1);
+    EXPECT_EQ(read[0], lowest);
+    EXPECT_EQ(read[1], available);
+    ASSERT_TRUE(GetProcessAffinityMask(helper.Handle(), &own, &available));
+    EXPECT_EQ(own, lowest);
 }
 
-TEST_F(TaskManLightProcesses, Memory_IsPlausible)
+TEST_F(TaskManLightProcesses, Memory_IsThatOfTheProcess)
 {
-    SIZE_T sizes[8] = {};
-    DWORD faults = 0;
-    const auto usage = [&](DWORD process) {
-        return tools.GetMemoryUsageFromPID(process, sizes[0], sizes[1], faults, sizes[2], sizes[3], sizes[4], sizes[5], sizes[6], sizes[7]);
-    };
-    EXPECT_EQ(usage(0), 0);
-    EXPECT_EQ(sizes[0], 0u);
-    EXPECT_EQ(usage(tools.GetMyPID()), 1);
-    EXPECT_GT(sizes[0], 0u);
-    EXPECT_GE(sizes[1], sizes[0]) << "the peak";
+    const HelperProcess helper("thread");
+    PROCESS_MEMORY_COUNTERS expected = {};
+    ASSERT_TRUE(GetProcessMemoryInfo(helper.Handle(), &expected, sizeof(expected)));
+    PROCESS_MEMORY_COUNTERS read = {};
+    EXPECT_EQ(tools.GetMemoryUsageFromPID(helper.Id(), read.WorkingSetSize, read.PeakWorkingSetSize, read.PageFaultCount,
+                                          read.QuotaPagedPoolUsage, read.QuotaPeakPagedPoolUsage, read.QuotaNonPagedPoolUsage,
+                                          read.QuotaPeakNonPagedPoolUsage, read.PagefileUsage, read.PeakPagefileUsage),
+              1);
+    EXPECT_EQ(read.PeakWorkingSetSize, expected.PeakWorkingSetSize);
+    EXPECT_EQ(read.PagefileUsage, expected.PagefileUsage);
+    EXPECT_GT(read.WorkingSetSize, 0u);
+    tools.TrimWorkingSet(helper.Id());
+    EXPECT_FALSE(helper.Ends(0));
+}
+
+TEST_F(TaskManLightProcesses, Threads_AreCountedAndKilledWithTheirOwnCode)
+{
+    const HelperProcess helper("thread");
+    const base::KernelHandle thread(OpenThread(THREAD_ALL_ACCESS, FALSE, helper.ThreadId()));
+    EXPECT_EQ(tools.SospendiThread(helper.ThreadId()), 1) << "it was started suspended";
+    EXPECT_EQ(SuspendThread(thread.Get()), 2u);
+    EXPECT_EQ(tools.RiattivaThread(helper.ThreadId()), 3);
+    EXPECT_EQ(ResumeThread(thread.Get()), 2u);
+    EXPECT_NE(tools.KillThread(helper.ThreadId()), 0);
+    EXPECT_EQ(WaitForSingleObject(thread.Get(), 5000), static_cast<DWORD>(WAIT_OBJECT_0));
+    DWORD code = 0;
+    EXPECT_TRUE(GetExitCodeThread(thread.Get(), &code));
+    EXPECT_EQ(code, static_cast<DWORD>(STILL_ACTIVE));
+    EXPECT_FALSE(helper.Ends(0));
+    EXPECT_EQ(tools.SospendiThread(0), -1);
+    EXPECT_EQ(tools.RiattivaThread(0), -1);
+    EXPECT_EQ(tools.KillThread(0), 0);
+}
+
+TEST_F(TaskManLightProcesses, Figures_OfThePcArePlausible)
+{
     EXPECT_GE(tools.GetPhysMemTotal(), tools.GetPhysMemAvailable());
     EXPECT_GE(tools.GetVirtMemTotal(), tools.GetVirtMemAvailable());
     EXPECT_GE(tools.GetPageFileMemTotal(), tools.GetPageFileMemAvailable());
     EXPECT_GT(tools.GetPhysMemTotal(), 0u);
     EXPECT_LE(tools.GetMemLoad(), 100);
     EXPECT_GE(tools.GetCPUCount(), 1);
-    tools.TrimWorkingSetCurrentProcess();
     EXPECT_FALSE(tools.GetActualUser().empty());
-    EXPECT_EQ(tools.GetActualUser().back() == TEXT('\0'), false);
-}
-
-TEST_F(TaskManLightProcesses, InstanceCount_IsAtLeastOneWithoutAnyWindow)
-{
-    EXPECT_EQ(tools.GetAllMyInstancesCount(), 1);
-    std::vector<DWORD> others;
-    EXPECT_EQ(tools.GetAllMyOtherInstancesPID(others), 0);
-    EXPECT_EQ(tools.GetAllInstancesPIDsByPID(3, others, true), 0);
-}
-
-TEST_F(TaskManLightProcesses, Threads_ThatAreNotThereFail)
-{
-    EXPECT_EQ(tools.SospendiThread(0), -1);
-    EXPECT_EQ(tools.RiattivaThread(0), -1);
-    EXPECT_EQ(tools.KillThread(0), 0);
+    EXPECT_NE(tools.GetActualUser().back(), TEXT('\0'));
+    EXPECT_FALSE(tools.GetActualDomain().empty());
 }
 
 }  // namespace

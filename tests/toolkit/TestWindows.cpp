@@ -2,7 +2,8 @@
 
 #include "base/PendingMessages.h"
 
-#include <gtest/gtest.h>
+#include <sstream>
+#include <string>
 
 namespace tests {
 
@@ -24,26 +25,46 @@ TestWindows::TestWindows()
 
 TestWindows::~TestWindows()
 {
-    for (auto window = top_.rbegin(); window != top_.rend(); ++window)
-        DestroyWindow(*window);
-    UnregisterClassW(className, GetModuleHandleW(nullptr));
+    while (!top_.empty())
+        DestroyWindow(top_.back());
 }
 
-HWND TestWindows::Top(const WCHAR* title, HWND owner)
+HWND TestWindows::Top(base::StringView title, HWND owner)
 {
     top_.push_back(Make(title, WS_OVERLAPPEDWINDOW, owner));
     return top_.back();
 }
 
-HWND TestWindows::Child(HWND parent, const WCHAR* title)
+HWND TestWindows::Child(HWND parent, base::StringView title)
 {
     return Make(title, WS_CHILD, parent);
 }
 
-HWND TestWindows::Make(const WCHAR* title, DWORD style, HWND parent)
+void TestWindows::Make(std::string_view script)
 {
-    const HWND window = CreateWindowExW(0, className, title, style, 0, 0, 100, 100, parent, nullptr, GetModuleHandleW(nullptr), nullptr);
-    EXPECT_NE(window, nullptr);
+    std::istringstream words{std::string(script)};
+    HWND top = nullptr;
+    HWND child = nullptr;
+    for (std::string word; words >> word;) {
+        const std::string title = word.substr(word.find(':') + 1);
+        const base::String wide(title.begin(), title.end());
+        if (word.starts_with("top:"))
+            top = Top(wide);
+        else if (word.starts_with("owned:"))
+            Top(wide, top);
+        else if (word.starts_with("child:"))
+            child = Child(top, wide);
+        else if (word.starts_with("inner:"))
+            Child(child, wide);
+        else if (word == "closes")
+            closes_ = true;
+    }
+}
+
+HWND TestWindows::Make(base::StringView title, DWORD style, HWND parent)
+{
+    const HWND window = CreateWindowExW(0, className, base::String(title).c_str(), style, 0, 0, 100, 100, parent, nullptr,
+                                        GetModuleHandleW(nullptr), nullptr);
     SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     return window;
 }
@@ -53,12 +74,20 @@ void TestWindows::HandleMessages()
     base::DispatchPendingMessages();
 }
 
+void TestWindows::Forget(HWND window)
+{
+    if (std::erase(top_, window) != 0 && top_.empty() && closes_)
+        PostQuitMessage(0);
+}
+
 LRESULT CALLBACK TestWindows::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (message != WM_CLOSE)
-        return DefWindowProcW(window, message, wParam, lParam);
-    reinterpret_cast<TestWindows*>(GetWindowLongPtrW(window, GWLP_USERDATA))->closed_.push_back(window);
-    return 0;
+    auto* const windows = reinterpret_cast<TestWindows*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (message == WM_CLOSE)
+        windows->closed_.push_back(window);
+    if (windows && message == WM_DESTROY)
+        windows->Forget(window);
+    return message == WM_CLOSE && !windows->closes_ ? 0 : DefWindowProcW(window, message, wParam, lParam);
 }
 
 }  // namespace tests

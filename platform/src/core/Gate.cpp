@@ -51,8 +51,10 @@ std::string Gate::CurrentCall()
     return std::string(lastCall.function) + " (call " + std::to_string(lastCall.number) + ")";
 }
 
-void Gate::Count(SimPc&, const char* function)
+void Gate::Count(SimPc& pc, const char* function)
 {
+    if (pc.Trace().OnCall)
+        pc.Trace().OnCall(function);
     lastCall.function = function;
     ++lastCall.number;
 }

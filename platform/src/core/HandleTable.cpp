@@ -18,7 +18,7 @@ std::uintptr_t HandleTable::Open(std::shared_ptr<Object> object, Watch watch)
     std::uint32_t index;
     if (free_.size() > 64) {  // A slot rests for a while, so that a stale handle stays recognisably stale.
         index = free_.front();
-        free_.erase(free_.begin());
+        free_.pop_front();
     } else {
         index = static_cast<std::uint32_t>(slots_.size());
         slots_.emplace_back();

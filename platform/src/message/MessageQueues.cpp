@@ -49,14 +49,27 @@ void MessageQueues::Forget(const Window& window)
     }
 }
 
+void MessageQueues::Forget(DWORD process)
+{
+    for (ThreadQueue& queue : queues_) {
+        if (queue.actor.process != process)
+            continue;
+        queue.ended = true;
+        for (const MessageTimer& timer : queue.timers)
+            pc_.Clock().Cancel(timer.ticket);
+        queue.timers.clear();
+    }
+}
+
 bool MessageQueues::RunOthers()
 {
     if (running_)
         return false;
+    queues_.remove_if([](const ThreadQueue& queue) { return queue.ended && queue.handlingSent == 0; });
     running_ = true;
     bool worked = false;
     for (ThreadQueue& queue : queues_) {
-        if (queue.hangs || queue.actor.process == SimPc::Own().process)
+        if (queue.hangs || queue.ended || queue.actor.process == SimPc::Own().process)
             continue;
         pc_.ActAs(queue.actor, [&] {
             MSG message;

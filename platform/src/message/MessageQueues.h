@@ -64,6 +64,7 @@ struct ThreadQueue {
     POINT messagePoint{};
     UINT fresh = 0;        // QS_ bits of what came since somebody last looked
     int handlingSent = 0;  // messages of other threads that are being handled
+    bool ended = false;    // its process has; it goes when nobody works with it
 };
 
 class MessageQueues : public Area {
@@ -89,6 +90,8 @@ public:
     void Post(ThreadQueue& queue, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     /// A window has gone: nothing that waits for it is delivered.
     void Forget(const Window& window);
+    /// A process has ended: its queues go too.
+    void Forget(DWORD process);
     /// Lets the threads of other processes handle what waits for them. True when something was handled.
     bool RunOthers();
 

@@ -19,7 +19,7 @@ class ThreadHandle : public KernelObject {
 public:
     ThreadHandle(DWORD access, std::shared_ptr<Thread> opened) : KernelObject(access), thread(std::move(opened)) {}
     [[nodiscard]] bool Waitable() const override { return Grants(SYNCHRONIZE); }
-    [[nodiscard]] bool Signalled() const override { return thread->exitCode != STILL_ACTIVE; }
+    [[nodiscard]] bool Signalled() const override { return thread->ended; }
 
     const std::shared_ptr<Thread> thread;
 };

@@ -2,6 +2,7 @@
 
 #include "platform/sim/Desktop.h"
 #include "platform/sim/Volumes.h"
+#include "platform/src/message/MessageQueues.h"
 #include "platform/src/process/Mutex.h"
 #include "platform/src/text/Case.h"
 #include "platform/src/window/Inner.h"
@@ -76,14 +77,18 @@ void Processes::End(DWORD id, DWORD exitCode)
         return;
     const std::shared_ptr<Process> process = found->second;
     process->exitCode = exitCode;
-    for (const auto& thread : process->threads)
+    process->ended = true;
+    for (const auto& thread : process->threads) {
         thread->exitCode = exitCode;
+        thread->ended = true;
+    }
     running_.erase(found);
     ended_[id] = process;
     pc_.ActAs(process->MainActor(), [&] {
         for (const HWND window : pc_.Get<Desktop>().WindowsOf(id))
             inner::DestroyWindow(window);
     });
+    pc_.Get<MessageQueues>().Forget(id);
 }
 
 DWORD Processes::AddThread(DWORD process)

@@ -74,6 +74,7 @@ BOOL WINAPI TerminateThread(HANDLE thread, DWORD code)
     const auto process = processes.Find(found->process);
     std::erase(process->threads, found);
     found->exitCode = code;
+    found->ended = true;
     if (process->threads.empty()) {  // A process ends with its last thread.
         process->threads.push_back(found);
         processes.End(process->id, code);
