@@ -6,6 +6,7 @@ import os
 import re
 import subprocess
 import sys
+import textwrap
 
 # Who may include whom; a room may always include itself. Tests and tools see everything.
 ARROWS = {
@@ -18,6 +19,8 @@ ARROWS = {
     'app': {'helpers', 'toolkit', 'controls', 'host', 'base'},
 }
 CODE = ('.h', '.cpp')
+# Pages whose C++ blocks are lines of a test program.
+EXAMPLES = {'docs/toolkit.md': 'tests/toolkit/Examples.cpp'}
 UNFINISHED = re.compile(r'\b(' + '|'.join(['TO' + 'DO', 'FIX' + 'ME', 'X' + 'XX', 'HA' + 'CK']) + r')\b')
 
 
@@ -113,6 +116,14 @@ def check_functions(files, write):
         yield 'platform/winapi.list does not match the code: run tools/check.py --write'
 
 
+def check_examples():
+    for page, source in EXAMPLES.items():
+        code = read(source)
+        for block in re.findall(r'```cpp\n(.*?)```', read(page), re.S):
+            if textwrap.indent(block, '    ') not in code:
+                yield f'{page}: not in {source} as it stands: {block.splitlines()[0]} ...'
+
+
 def check_format(files):
     code = [path for path in files if path.endswith(CODE)]
     result = subprocess.run(['clang-format', '--dry-run', *code], capture_output=True, text=True)
@@ -124,7 +135,7 @@ def main():
     os.chdir(subprocess.run(['git', 'rev-parse', '--show-toplevel'], capture_output=True, text=True, check=True).stdout.strip())
     files = tracked_files()
     problems = [*check_arrows(files), *check_first_lines_and_marks(files), *check_functions(files, '--write' in sys.argv[1:]),
-                *check_format(files), *check_headers_alone(files)]
+                *check_examples(), *check_format(files), *check_headers_alone(files)]
     for problem in problems:
         print(problem)
     print(f'check: {len(problems)} problems in {len(files)} files')
