@@ -119,11 +119,12 @@ LRESULT CALLBACK DSubclass::Link::Procedure(HWND window, UINT message, WPARAM wP
 LRESULT DSubclass::Link::Deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     LRESULT result = 0;
-    // The handler may take the object off this window, or even put it on another one.
-    const bool handled = !isPaused_ && Raise(window, message, wParam, lParam, result);
-    if (!handled && window_ == window)
+    if (!isPaused_ && Raise(window, message, wParam, lParam, result))
+        return result;
+    // A handler that took the object off has the last word on this message; one that put it on another window has not.
+    if (window_)
         result = DefSubclassProc(window, message, wParam, lParam);
-    if (!handled && message == WM_DESTROY && window_ == window)
+    if (message == WM_DESTROY && window_ == window)
         Disable();
     return result;
 }
@@ -213,6 +214,16 @@ LRESULT SendMessageUnsubclassed(DSubclass& subclass, HWND window, UINT message, 
         return 0;
     const SubclassPause pause(subclass);
     return SendMessageW(window, message, wParam, lParam);
+}
+
+base::String WindowTextUnsubclassed(DSubclass& subclass, HWND window)
+{
+    const auto ask = [&](UINT message, std::size_t room, WCHAR* text) {
+        return static_cast<std::size_t>(SendMessageUnsubclassed(subclass, window, message, room, reinterpret_cast<LPARAM>(text)));
+    };
+    base::String text(ask(WM_GETTEXTLENGTH, 0, nullptr) + 1, TEXT('\0'));
+    text.resize(ask(WM_GETTEXT, text.size(), text.data()));
+    return text;
 }
 
 }  // namespace controls

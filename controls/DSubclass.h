@@ -1,6 +1,7 @@
 // DSubclass: lets an object watch and answer the messages of one window of its own process.
 #pragma once
 
+#include "base/String.h"
 #include "host/Event.h"
 
 #include <windows.h>
@@ -71,5 +72,8 @@ private:
 
 /// Sends a message to a control's own window past the control's own handler. 0 when there is no window.
 LRESULT SendMessageUnsubclassed(DSubclass& subclass, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+/// The text of a control's own window, asked for past the control's own handler.
+[[nodiscard]] base::String WindowTextUnsubclassed(DSubclass& subclass, HWND window);
 
 }  // namespace controls

@@ -1,6 +1,7 @@
 // FontRule: enumeration of the system's fonts.
 #include "controls/FontRule.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace controls {
@@ -34,10 +35,9 @@ int CALLBACK CollectFamily(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPAR
     return 1;
 }
 
-bool IsTextTrueType(const String& faceName)
+bool IsTextTrueType(const FontInfo& font)
 {
-    const FontInfo font = GetFontInfo(faceName);
-    return !faceName.empty() && font.isFound && font.isTrueType && font.characterSet != SYMBOL_CHARSET;
+    return font.isFound && font.isTrueType && font.characterSet != SYMBOL_CHARSET;
 }
 
 }  // namespace
@@ -69,22 +69,16 @@ String GetMessageFontName()
 
 void ApplyForceTrueType(host::Font& font, ForceTrueTypeChoice choice)
 {
-    const String current = font.Name();
-    if (!GetFontInfo(current).isFound || IsTextTrueType(current))
+    const FontInfo current = GetFontInfo(font.Name());
+    if (!current.isFound || IsTextTrueType(current))
         return;
-    if (choice == ForceTrueTypeChoice::MessageFontFirst) {
-        const String messageFont = GetMessageFontName();
-        if (IsTextTrueType(messageFont)) {
-            font.Name(messageFont);
-            return;
-        }
-    }
-    for (const String& family : GetFontFamilies()) {
-        if (IsTextTrueType(family)) {
-            font.Name(family);
-            return;
-        }
-    }
+    std::vector<String> candidates = GetFontFamilies();
+    if (choice == ForceTrueTypeChoice::MessageFontFirst)
+        candidates.insert(candidates.begin(), GetMessageFontName());
+    const auto fits = [](const String& name) { return !name.empty() && IsTextTrueType(GetFontInfo(name)); };
+    const auto found = std::ranges::find_if(candidates, fits);
+    if (found != candidates.end())
+        font.Name(*found);
 }
 
 }  // namespace controls

@@ -81,9 +81,7 @@ LRESULT HostedWindow::Send(UINT message, WPARAM wParam, LPARAM lParam) const
 
 String HostedWindow::Text() const
 {
-    String text(static_cast<std::size_t>(Send(WM_GETTEXTLENGTH)) + 1, TEXT('\0'));
-    text.resize(static_cast<std::size_t>(Send(WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
-    return text;
+    return WindowTextUnsubclassed(const_cast<DSubclass&>(SubclassControl), window_);
 }
 
 void HostedWindow::Cover()

@@ -61,6 +61,13 @@ protected:
         OleColor foreColor = 0x80000017;
     };
 
+    /// Leads to one of the settings, for a control's table of stored properties.
+    template <class Control, class Value>
+    [[nodiscard]] static auto Tip(Value Settings::*setting)
+    {
+        return [setting](Control& control) -> Value& { return static_cast<ToolTip&>(control).tip_.*setting; };
+    }
+
     explicit ToolTip(host::UserControl& control, ToolTipNames names = {}) : control_(control), names_(names) {}
     ToolTip(const ToolTip&) = delete;
     ToolTip& operator=(const ToolTip&) = delete;
@@ -76,8 +83,6 @@ protected:
     void AdoptExtenderToolTip();
     void DestroyToolTip();
 
-    Settings tip_;
-
 private:
     void Notify(const WCHAR* name);
     void CreateToolTip(HWND window);
@@ -85,6 +90,7 @@ private:
 
     host::UserControl& control_;
     ToolTipNames names_;
+    Settings tip_;
     HWND window_ = nullptr;
     bool isMouseInside_ = false;
     base::String shownText_;

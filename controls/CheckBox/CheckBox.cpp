@@ -22,22 +22,14 @@ const PropertyTable<CheckBox>& CheckBox::Properties()
         StoredAs<C, uint8_t>(TEXT("AlignRight"), &C::alignRight_, 0),
         StoredAs<C, uint8_t>(TEXT("FontAutoSize"), &C::fontAutoSize_, 0),
         StoredAs<C, uint8_t>(TEXT("BorderStyle"), &C::borderStyle_, BorderNone),
-        StoredAs<C, String>(
-            TEXT("ToolTipTextW"), [](C & box) -> auto& { return box.tip_.text; }, String()),
-        StoredAs<C, String>(
-            TEXT("Tooltiptitle"), [](C & box) -> auto& { return box.tip_.title; }, String()),
-        StoredAs<C, int32_t>(
-            TEXT("ToolTipIcon"), [](C & box) -> auto& { return box.tip_.icon; }, 0),
-        StoredAs<C, uint8_t>(
-            TEXT("TooltipBalloon"), [](C & box) -> auto& { return box.tip_.balloon; }, 0),
-        StoredAs<C, uint8_t>(
-            TEXT("ToolTipCentred"), [](C & box) -> auto& { return box.tip_.centred; }, 0),
-        StoredAs<C, int32_t>(
-            TEXT("ToolTipWidth"), [](C & box) -> auto& { return box.tip_.width; }, 0),
-        StoredAs<C, uint32_t>(
-            TEXT("TooltipBackColor"), [](C & box) -> auto& { return box.tip_.backColor; }, 0x80000018),
-        StoredAs<C, uint32_t>(
-            TEXT("ToolTipForeColor"), [](C & box) -> auto& { return box.tip_.foreColor; }, 0x80000017),
+        StoredAs<C, String>(TEXT("ToolTipTextW"), Tip<C>(&Settings::text), String()),
+        StoredAs<C, String>(TEXT("Tooltiptitle"), Tip<C>(&Settings::title), String()),
+        StoredAs<C, int32_t>(TEXT("ToolTipIcon"), Tip<C>(&Settings::icon), 0),
+        StoredAs<C, uint8_t>(TEXT("TooltipBalloon"), Tip<C>(&Settings::balloon), 0),
+        StoredAs<C, uint8_t>(TEXT("ToolTipCentred"), Tip<C>(&Settings::centred), 0),
+        StoredAs<C, int32_t>(TEXT("ToolTipWidth"), Tip<C>(&Settings::width), 0),
+        StoredAs<C, uint32_t>(TEXT("TooltipBackColor"), Tip<C>(&Settings::backColor), 0x80000018),
+        StoredAs<C, uint32_t>(TEXT("ToolTipForeColor"), Tip<C>(&Settings::foreColor), 0x80000017),
         StoredAs<C, uint8_t>(TEXT("ForceTrueType"), &C::forceTrueType_, 0),
         StoredAs<C, uint8_t>(TEXT("AutoSize"), &C::autoSize_, 0),
         StoredAs<C, uint32_t>(TEXT("ForeColor"), &C::foreColor_, host::SystemColor(COLOR_BTNTEXT)),

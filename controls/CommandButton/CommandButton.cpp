@@ -37,8 +37,7 @@ const PropertyTable<CommandButton>& CommandButton::Properties()
         StoredAs<B, String>(TEXT("CaptionUniChars"), &B::captionUniChars_, String()),
         StoredAs<B, String>(TEXT("Caption"), &B::caption_, String()),
         StoredAs<B, int32_t>(TEXT("FontAutoSize"), &B::fontAutoSize_, AutoSizeOff),
-        StoredAs<B, String>(
-            TEXT("ToolTipTextW"), [](B & button) -> auto& { return button.tip_.text; }, String()),
+        StoredAs<B, String>(TEXT("ToolTipTextW"), Tip<B>(&Settings::text), String()),
         StoredAs<B, uint8_t>(TEXT("ForceTrueType"), &B::forceTrueType_, 0),
         StoredAs<B, int32_t>(TEXT("GradientDirection"), &B::gradientDirection_, GradientDiagonal),
         StoredAs<B, int32_t>(TEXT("CaptionFx"), &B::captionFx_, CaptionFxNone),
@@ -60,20 +59,13 @@ const PropertyTable<CommandButton>& CommandButton::Properties()
         StoredAs<B, uint32_t>(TEXT("HighlightColor"), &B::highLightColor_, SystemRgb(COLOR_HIGHLIGHT)),
         StoredAs<B, uint32_t>(TEXT("FontColor"), &B::fontColor_, SystemRgb(COLOR_BTNTEXT)),
         StoredAs<B, uint32_t>(TEXT("FontHighlightColor"), &B::fontHighlightColor_, SystemRgb(COLOR_BTNTEXT)),
-        StoredAs<B, String>(
-            TEXT("Tooltiptitle"), [](B & button) -> auto& { return button.tip_.title; }, String(), whatever),
-        StoredAs<B, int32_t>(
-            TEXT("ToolTipIcon"), [](B & button) -> auto& { return button.tip_.icon; }, 0, whatever),
-        StoredAs<B, uint8_t>(
-            TEXT("TooltipBalloon"), [](B & button) -> auto& { return button.tip_.balloon; }, 0, whatever),
-        StoredAs<B, uint8_t>(
-            TEXT("ToolTipCentred"), [](B & button) -> auto& { return button.tip_.centred; }, 0),
-        StoredAs<B, int32_t>(
-            TEXT("ToolTipWidth"), [](B & button) -> auto& { return button.tip_.width; }, 0),
-        StoredAs<B, uint32_t>(
-            TEXT("ToolTipBackColor"), [](B & button) -> auto& { return button.tip_.backColor; }, 0x80000018),
-        StoredAs<B, uint32_t>(
-            TEXT("ToolTipForeColor"), [](B & button) -> auto& { return button.tip_.foreColor; }, 0x80000017),
+        StoredAs<B, String>(TEXT("Tooltiptitle"), Tip<B>(&Settings::title), String(), whatever),
+        StoredAs<B, int32_t>(TEXT("ToolTipIcon"), Tip<B>(&Settings::icon), 0, whatever),
+        StoredAs<B, uint8_t>(TEXT("TooltipBalloon"), Tip<B>(&Settings::balloon), 0, whatever),
+        StoredAs<B, uint8_t>(TEXT("ToolTipCentred"), Tip<B>(&Settings::centred), 0),
+        StoredAs<B, int32_t>(TEXT("ToolTipWidth"), Tip<B>(&Settings::width), 0),
+        StoredAs<B, uint32_t>(TEXT("ToolTipBackColor"), Tip<B>(&Settings::backColor), 0x80000018),
+        StoredAs<B, uint32_t>(TEXT("ToolTipForeColor"), Tip<B>(&Settings::foreColor), 0x80000017),
         StoredAs<B, int32_t>(TEXT("ButtonType"), &B::buttonType_, PushButton),
         StoredAs<B, int32_t>(TEXT("Value"), &B::value_, 0),
         StoredAs<B, uint8_t>(TEXT("MaskColorEnabled"), &B::maskColorEnabled_, 0).WrittenLater(1),

@@ -14,9 +14,10 @@ using base::String;
 using base::StringView;
 using host::PropertyBag;
 
-/// Two values go by the name "BackStyle": the frame's own, 0 by default, and whether the drawing surface is opaque (1, the default) or
-/// transparent. Frames have a window of their own, which is always opaque, so only the frame's value is stored. In a file that holds
-/// both, the frame's stands first, and reading takes the first; in one that holds only the surface's 0, the frame's was 0 too.
+/// Two values go by the name "BackStyle": the frame's own (0 by default) and then, behind "OLEDropMode", whether its drawing surface is
+/// opaque (1, the default) or transparent. Each is left out when it equals its own default. So the first of that name is the frame's value
+/// and the last one is the surface's: where there is only one, a 1 was the frame's and the surface is opaque, a 0 was the surface's and
+/// the frame's value is 0.
 const PropertyTable<Frame>& Frame::Properties()
 {
     using std::int32_t;
@@ -30,22 +31,14 @@ const PropertyTable<Frame>& Frame::Properties()
         StoredAs<Frame, int32_t>(TEXT("BorderRound"), &Frame::borderRound_, 0),
         StoredAs<Frame, uint32_t>(TEXT("BorderColorDark"), &Frame::borderColorDark_, host::SystemColor(COLOR_BTNSHADOW)),
         StoredAs<Frame, uint32_t>(TEXT("BorderColorLight"), &Frame::borderColorLight_, host::SystemColor(COLOR_BTNHIGHLIGHT)),
-        StoredAs<Frame, String>(
-            TEXT("ToolTipTextW"), [](Frame & frame) -> auto& { return frame.tip_.text; }, String()),
-        StoredAs<Frame, String>(
-            TEXT("Tooltiptitle"), [](Frame & frame) -> auto& { return frame.tip_.title; }, String(), whatever),
-        StoredAs<Frame, int32_t>(
-            TEXT("ToolTipIcon"), [](Frame & frame) -> auto& { return frame.tip_.icon; }, 0, whatever),
-        StoredAs<Frame, uint8_t>(
-            TEXT("TooltipBalloon"), [](Frame & frame) -> auto& { return frame.tip_.balloon; }, 0, whatever),
-        StoredAs<Frame, uint8_t>(
-            TEXT("ToolTipCentred"), [](Frame & frame) -> auto& { return frame.tip_.centred; }, 0),
-        StoredAs<Frame, int32_t>(
-            TEXT("ToolTipWidth"), [](Frame & frame) -> auto& { return frame.tip_.width; }, 0),
-        StoredAs<Frame, uint32_t>(
-            TEXT("ToolTipBackColor"), [](Frame & frame) -> auto& { return frame.tip_.backColor; }, 0x80000018),
-        StoredAs<Frame, uint32_t>(
-            TEXT("ToolTipForeColor"), [](Frame & frame) -> auto& { return frame.tip_.foreColor; }, 0x80000017),
+        StoredAs<Frame, String>(TEXT("ToolTipTextW"), Tip<Frame>(&Settings::text), String()),
+        StoredAs<Frame, String>(TEXT("Tooltiptitle"), Tip<Frame>(&Settings::title), String(), whatever),
+        StoredAs<Frame, int32_t>(TEXT("ToolTipIcon"), Tip<Frame>(&Settings::icon), 0, whatever),
+        StoredAs<Frame, uint8_t>(TEXT("TooltipBalloon"), Tip<Frame>(&Settings::balloon), 0, whatever),
+        StoredAs<Frame, uint8_t>(TEXT("ToolTipCentred"), Tip<Frame>(&Settings::centred), 0),
+        StoredAs<Frame, int32_t>(TEXT("ToolTipWidth"), Tip<Frame>(&Settings::width), 0),
+        StoredAs<Frame, uint32_t>(TEXT("ToolTipBackColor"), Tip<Frame>(&Settings::backColor), 0x80000018),
+        StoredAs<Frame, uint32_t>(TEXT("ToolTipForeColor"), Tip<Frame>(&Settings::foreColor), 0x80000017),
         StoredAs<Frame, uint8_t>(TEXT("ForceTrueType"), &Frame::forceTrueType_, 0),
         StoredAs<Frame, uint8_t>(TEXT("UseClassicTheme"), &Frame::useClassicTheme_, 0),
         StoredAs<Frame, uint8_t>(TEXT("EnableDisableChilds"), &Frame::enableDisableChilds_, 0),
@@ -59,13 +52,17 @@ const PropertyTable<Frame>& Frame::Properties()
         StoredThrough<Frame, std::int16_t>(
             TEXT("OLEDropMode"), [](Frame& frame) { return frame.OLEDropMode(); },
             [](Frame& frame, std::int16_t mode) { frame.GetSurface().OleDropMode(mode); }, 0),
+        PropertyTable<Frame>::Row(
+            [](Frame& frame, const PropertyBag& bag) {
+                const std::int16_t only = bag.Read<std::int16_t>(TEXT("BackStyle"), 1);
+                frame.GetSurface().BackStyle(bag.Read<std::int16_t>(TEXT("BackStyle"), only, 1));
+            },
+            [](Frame& frame, PropertyBag& bag) { bag.Write<std::int16_t>(TEXT("BackStyle"), frame.GetSurface().BackStyle(), 1); }),
         StoredThrough<Frame, String>(
             TEXT("Caption"), [](Frame& frame) { return frame.Caption(); },
             [](Frame& frame, const String& caption) { frame.caption_ = caption; },
             [](Frame& frame) { return frame.Ambient().DisplayName(); }),
-        StoredThrough<Frame, uint8_t>(
-            TEXT("Enabled"), [](Frame& frame) -> uint8_t { return frame.enabled_; },
-            [](Frame& frame, uint8_t enabled) { frame.enabled_ = enabled != 0; }, 1),
+        StoredAs<Frame, uint8_t>(TEXT("Enabled"), &Frame::enabled_, 1),
         StoredAs<Frame, uint8_t>(TEXT("Appearance"), &Frame::appearance_, 1),
         StoredThrough<Frame, std::shared_ptr<host::Font>>(
             TEXT("Font"), [](Frame& frame) { return frame.Font(); },

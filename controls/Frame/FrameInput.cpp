@@ -61,9 +61,9 @@ void Frame::OnDropFiles(WPARAM drop)
 void Frame::FixBlackLine()
 {
     const HDC dc = windowDc_.Get();
-    if (!dc)
-        return;
     const base::PenHandle pen(CreatePen(PS_SOLID, 1, TranslateOleColor(BackColor())));
+    if (!dc || !pen)
+        return;
     const HGDIOBJ former = SelectObject(dc, pen.Get());
     MoveToEx(dc, 0, 0, nullptr);
     LineTo(dc, GetSurface().ScaleWidth(), 0);

@@ -29,6 +29,8 @@ void Outline(HDC dc, LONG left, LONG top, LONG right, LONG bottom, COLORREF colo
 void RoundOutline(HDC dc, LONG left, LONG top, LONG right, LONG bottom, std::int32_t corner, COLORREF color)
 {
     const base::PenHandle pen(CreatePen(PS_SOLID, 1, color));
+    if (!pen)
+        return;
     const HGDIOBJ formerPen = SelectObject(dc, pen.Get());
     const HGDIOBJ formerBrush = SelectObject(dc, GetStockObject(NULL_BRUSH));
     RoundRect(dc, left, top, right, bottom, corner, corner);
@@ -59,9 +61,9 @@ void ClassicBorder(HDC dc, const FrameLook& look, const RECT& border)
         RECT edge = border;
         DrawEdge(dc, &edge, EDGE_ETCHED, BF_RECT);
     } else {
-        // A light line two pixels wide, which reaches one pixel to the left of and above its place, under a dark one.
-        Outline(dc, 0, border.top, width - 2, height - 3, look.light);
-        Outline(dc, 1, border.top + 1, width - 1, height - 2, look.light);
+        // A light line two pixels wide under a dark one of one pixel.
+        Outline(dc, 0, border.top, width - 1, height - 2, look.light);
+        Outline(dc, 1, border.top + 1, width - 2, height - 3, look.light);
         Outline(dc, 0, border.top, width - 2, height - 3, look.dark);
     }
 }

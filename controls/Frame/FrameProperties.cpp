@@ -8,19 +8,6 @@ namespace controls {
 
 using base::String;
 
-namespace {
-
-String WindowText(DSubclass& subclass, HWND window)
-{
-    const LRESULT length = SendMessageUnsubclassed(subclass, window, WM_GETTEXTLENGTH, 0, 0);
-    String text(static_cast<std::size_t>(length) + 1, TEXT('\0'));
-    const LRESULT copied = SendMessageUnsubclassed(subclass, window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
-    text.resize(static_cast<std::size_t>(copied));
-    return text;
-}
-
-}  // namespace
-
 void Frame::Changed(const WCHAR* name)
 {
     PropertyChanged(name);
@@ -29,7 +16,7 @@ void Frame::Changed(const WCHAR* name)
 
 String Frame::Caption()
 {
-    if (WindowText(subclassControl_, hWnd()) != caption_)
+    if (WindowTextUnsubclassed(subclassControl_, hWnd()) != caption_)
         SendMessageUnsubclassed(subclassControl_, hWnd(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(caption_.c_str()));
     return caption_;
 }

@@ -24,20 +24,14 @@ const PropertyTable<TextBox>& TextBox::Properties()
         StoredAs<T, int32_t>(TEXT("MaxLength"), &T::maxLength_, 30000),
         StoredAs<T, uint8_t>(TEXT("BorderStyle"), &T::borderStyle_, 3),
         StoredAs<T, std::int16_t>(TEXT("PasswordChar"), &T::passwordChar_, 0),
-        StoredAs<T, String>(
-            TEXT("ToolTipTextW"), [](T & box) -> auto& { return box.tip_.text; }, String()),
+        StoredAs<T, String>(TEXT("ToolTipTextW"), Tip<T>(&Settings::text), String()),
         StoredAs<T, uint8_t>(TEXT("ForceTrueType"), &T::forceTrueType_, 0),
         StoredAs<T, uint8_t>(TEXT("EnhacedLineComputing"), &T::enhacedLineComputing_, 0),
-        StoredAs<T, uint8_t>(
-            TEXT("ToolTipBalloon"), [](T & box) -> auto& { return box.tip_.balloon; }, 0),
-        StoredAs<T, uint32_t>(
-            TEXT("ToolTipBackColor"), [](T & box) -> auto& { return box.tip_.backColor; }, 0x80000018),
-        StoredAs<T, uint32_t>(
-            TEXT("ToolTipForeColor"), [](T & box) -> auto& { return box.tip_.foreColor; }, 0x80000017),
-        StoredAs<T, uint8_t>(
-            TEXT("ToolTipCentred"), [](T & box) -> auto& { return box.tip_.centred; }, 0),
-        StoredAs<T, int32_t>(
-            TEXT("ToolTipWidth"), [](T & box) -> auto& { return box.tip_.width; }, 0),
+        StoredAs<T, uint8_t>(TEXT("ToolTipBalloon"), Tip<T>(&Settings::balloon), 0),
+        StoredAs<T, uint32_t>(TEXT("ToolTipBackColor"), Tip<T>(&Settings::backColor), 0x80000018),
+        StoredAs<T, uint32_t>(TEXT("ToolTipForeColor"), Tip<T>(&Settings::foreColor), 0x80000017),
+        StoredAs<T, uint8_t>(TEXT("ToolTipCentred"), Tip<T>(&Settings::centred), 0),
+        StoredAs<T, int32_t>(TEXT("ToolTipWidth"), Tip<T>(&Settings::width), 0),
         StoredAs<T, uint32_t>(TEXT("BackColor"), &T::backColor_, window),
         StoredAs<T, uint32_t>(TEXT("BackColorSelected"), &T::backColorSelected_, window),
         StoredAs<T, uint32_t>(TEXT("BackColorDisabled"), &T::backColorDisabled_, window),
