@@ -127,7 +127,8 @@ void ToolTip::CreateToolTip(HWND window)
     subclassToolTip_->TryEnable(window_);
 }
 
-/// The tip window's timer 3 pops it up again and again while the mouse rests; it never gets there.
+/// With its timer 3 the tip window looks for itself whether the mouse is still there. It never gets to that: the control's own leave
+/// message is what ends the tip.
 void ToolTip::SubclassToolTip_WndProc(UINT message, WPARAM timer, bool& handled)
 {
     handled = message == WM_TIMER && timer == 3;

@@ -93,16 +93,20 @@ TEST(DSubclass, DeadOrNoWindow_IsRefusedWithoutAHeap)
 
 TEST(DSubclass, Message_GoesThroughNewestFirstUntilHandled)
 {
-    const PlainWindow window;
-    std::string order;
-    const auto first = Listener(window.Get(), order, 'a');
-    const auto second = Listener(window.Get(), order, 'b');
-    EXPECT_EQ(window.Ask(), 11);
-    EXPECT_EQ(order, "ba");
-    order.clear();
-    const auto third = Listener(window.Get(), order, 'c', true);
-    EXPECT_EQ(window.Ask(), 99);
-    EXPECT_EQ(order, "c");
+    const struct {
+        char handler;
+        const char* heardBy;
+        LRESULT answer;
+    } cases[] = {{'-', "cba", 11}, {'a', "cba", 99}, {'b', "cb", 99}, {'c', "c", 99}};
+    for (const auto& [handler, heardBy, answer] : cases) {
+        const PlainWindow window;
+        std::string order;
+        std::vector<std::unique_ptr<DSubclass>> objects;
+        for (const char name : {'a', 'b', 'c'})
+            objects.push_back(Listener(window.Get(), order, name, name == handler));
+        EXPECT_EQ(window.Ask(), answer);
+        EXPECT_EQ(order, heardBy);
+    }
 }
 
 TEST(DSubclass, Pausing_LetsMessagesPassUnseen)
@@ -125,19 +129,45 @@ TEST(DSubclass, Pausing_LetsMessagesPassUnseen)
     EXPECT_FALSE(subclass->IsPaused());
 }
 
-TEST(DSubclass, CallOriginalProc_LetsAHandlerAlterTheResult)
+TEST(DSubclass, WhatItsHandlerDoes_DecidesOnTheMessage)
 {
-    const PlainWindow window;
-    DSubclass subclass;
-    bool handled = false;
-    EXPECT_EQ(subclass.CallOriginalProc(window.Get(), probe, 10, 0, handled), 0);
-    EXPECT_FALSE(handled);
-    subclass.WndProc.Connect([&](HWND target, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& isHandled) {
-        if (message == probe)
-            result = 100 + subclass.CallOriginalProc(target, message, wParam, lParam, isHandled);
-    });
-    subclass.Enable(window.Get());
-    EXPECT_EQ(window.Ask(), 111);
+    using Act = void (*)(DSubclass&, HWND target, HWND other, LRESULT & result, bool& handled);
+    const struct {
+        const char* name;
+        Act act;
+        bool heardBehind;
+        LRESULT answer;
+    } cases[] = {{"nothing", [](DSubclass&, HWND, HWND, LRESULT&, bool&) {}, true, 11},
+                 {"a result that it does not stand by", [](DSubclass&, HWND, HWND, LRESULT& result, bool&) { result = 5; }, true, 11},
+                 {"handled", [](DSubclass&, HWND, HWND, LRESULT&, bool& handled) { handled = true; }, false, 0},
+                 {"pause", [](DSubclass& self, HWND, HWND, LRESULT&, bool&) { self.PauseSubclass(); }, true, 11},
+                 {"off", [](DSubclass& self, HWND, HWND, LRESULT& result, bool&) { result = self.Disable() ? 5 : 6; }, false, 5},
+                 {"elsewhere", [](DSubclass& self, HWND, HWND other, LRESULT&, bool&) { self.Enable(other); }, true, 11},
+                 {"the default first",
+                  [](DSubclass& self, HWND target, HWND, LRESULT& result, bool& handled) {
+                      result = 100 + self.CallOriginalProc(target, probe, 10, 0, handled);
+                  },
+                  true, 111},
+                 {"the default of an object that is off",
+                  [](DSubclass& self, HWND target, HWND, LRESULT& result, bool& handled) {
+                      self.Disable();
+                      result = handled ? 6 : 5 + self.CallOriginalProc(target, probe, 10, 0, handled);
+                  },
+                  false, 5}};
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.name);
+        const PlainWindow window, other;
+        std::string order;
+        const auto behind = Listener(window.Get(), order, 'a');
+        DSubclass subclass;
+        subclass.WndProc.Connect([&](HWND target, UINT message, WPARAM, LPARAM, LRESULT& result, bool& handled) {
+            if (message == probe)
+                row.act(subclass, target, other.Get(), result, handled);
+        });
+        subclass.Enable(window.Get());
+        EXPECT_EQ(window.Ask(), row.answer);
+        EXPECT_EQ(order, row.heardBehind ? "a" : "");
+    }
 }
 
 TEST(DSubclass, HandlerThatSendsToItsWindow_Nests)
@@ -192,27 +222,57 @@ TEST(DSubclass, Destroy_TakesTheObjectOff_UnlessHandled)
     }
 }
 
-TEST(DSubclass, ReleaseInItsOwnHandler_StillAnswers)
+TEST(DSubclass, EndingAnythingAnywhere_LeavesNothing)
 {
-    const PlainWindow window;
-    auto subclass = std::make_unique<DSubclass>();
-    int deliveries = 0;
-    subclass->WndProc.Connect([&](HWND target, UINT message, WPARAM wParam, LPARAM, LRESULT& result, bool& handled) {
-        if (message != probe)
-            return;
-        ++deliveries;
-        if (wParam == 1)
-            SendMessageW(target, probe, 0, 0);
-        else
-            subclass.reset();
-        handled = true;
-        result = static_cast<LRESULT>(40 + wParam);
-    });
-    subclass->Enable(window.Get());
-    EXPECT_EQ(window.Ask(1), 41);
-    EXPECT_EQ(deliveries, 2);
-    EXPECT_EQ(window.Ask(10), 11);
-    EXPECT_EQ(Published(window.Get()), TEXT("00000000"));
+    struct Scene {
+        PlainWindow window;
+        std::unique_ptr<DSubclass> older = std::make_unique<DSubclass>(), newer = std::make_unique<DSubclass>();
+        void Objects() { newer.reset(), older.reset(); }
+    };
+    const struct {
+        const char* what;
+        void (*end)(Scene&);
+        bool endsWindow;
+    } endings[] = {{"newer", [](Scene& scene) { scene.newer.reset(); }, false},
+                   {"older", [](Scene& scene) { scene.older.reset(); }, false},
+                   {"older, newer", [](Scene& scene) { scene.older.reset(), scene.newer.reset(); }, false},
+                   {"newer, older", [](Scene& scene) { scene.Objects(); }, false},
+                   {"window", [](Scene& scene) { scene.window.Destroy(); }, true},
+                   {"window, objects", [](Scene& scene) { scene.window.Destroy(), scene.Objects(); }, true},
+                   {"objects, window", [](Scene& scene) { scene.Objects(), scene.window.Destroy(); }, true}};
+    enum Place { Outside, InHandler, InNestedHandler, AtDestroy };
+    for (const auto& ending : endings)
+        for (const Place place : {Outside, InHandler, InNestedHandler, AtDestroy}) {
+            if (place == AtDestroy && ending.endsWindow)
+                continue;
+            SCOPED_TRACE(std::string(ending.what) + " at place " + std::to_string(place));
+            Scene scene;
+            int depth = 0;
+            scene.newer->WndProc.Connect([&](HWND target, UINT message, WPARAM, LPARAM, LRESULT& result, bool& handled) {
+                if (message == WM_DESTROY && place == AtDestroy)
+                    ending.end(scene);
+                if (message != probe || place == Outside)
+                    return;
+                handled = true;
+                if (++depth == 1 && place == InNestedHandler) {
+                    EXPECT_EQ(SendMessageW(target, probe, 0, 0), 42);
+                } else {
+                    ending.end(scene);
+                }
+                result = 40 + depth--;
+            });
+            scene.older->Enable(scene.window.Get());
+            scene.newer->Enable(scene.window.Get());
+            if (place == Outside)
+                ending.end(scene);
+            else if (place == AtDestroy)
+                scene.window.Destroy();
+            else
+                EXPECT_EQ(scene.window.Ask(), 41) << "the answer comes out all the same";
+            scene.Objects();
+            EXPECT_EQ(Published(scene.window.Get()), TEXT("00000000"));
+            EXPECT_EQ(scene.window.Ask(), IsWindow(scene.window.Get()) ? 11 : 0);
+        }
 }
 
 TEST(DSubclass, ReleaseInEveryOrder_EndsWithNoHeap)

@@ -70,15 +70,22 @@ TEST_F(Persistence, Button_IsWrittenInItsOwnOrder)
         "ToolTipForeColor Font ButtonType Value MaskColor MaskColorEnabled MousePointer RoundedBordersByTheme RightToLeft ");
 }
 
-TEST_F(Persistence, DefaultFrame_WritesOnlyWhatIsAlwaysWritten)
+TEST_F(Persistence, FrameAndItsSurface_ShareAKey)
 {
-    EXPECT_EQ(Keys("Frame", ""), "Tooltiptitle ToolTipIcon TooltipBalloon ");
-}
-
-TEST_F(Persistence, FrameOfAFileWithBothBackStyles_TakesTheFirst)
-{
-    EXPECT_EQ(Keys("Frame", "BackStyle = 1 BackStyle = 0"), "BackStyle Tooltiptitle ToolTipIcon TooltipBalloon ");
-    EXPECT_EQ(Get<controls::Frame>("C").BackStyle(), 1);
+    const struct {
+        const char* stored;
+        int frame, surface;
+        const char* keys;
+    } files[] = {{"", 0, 1, "Tooltiptitle ToolTipIcon TooltipBalloon "},
+                 {"BackStyle = 1", 1, 1, "BackStyle Tooltiptitle ToolTipIcon TooltipBalloon "},
+                 {"BackStyle = 0", 0, 0, "Tooltiptitle ToolTipIcon TooltipBalloon BackStyle "},
+                 {"BackStyle = 1 BackStyle = 0", 1, 0, "BackStyle Tooltiptitle ToolTipIcon TooltipBalloon BackStyle "}};
+    for (const auto& [stored, frame, surface, keys] : files) {
+        form = std::make_unique<KeyForm>();
+        EXPECT_EQ(Keys("Frame", stored), keys);
+        EXPECT_EQ(Get<controls::Frame>("C").BackStyle(), frame) << stored;
+        EXPECT_EQ(Get<controls::Frame>("C").GetSurface().BackStyle(), surface) << stored;
+    }
 }
 
 TEST_F(Persistence, DefaultCheckBoxAndTextBox_WriteNothing)
