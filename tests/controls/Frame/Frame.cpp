@@ -1,9 +1,15 @@
 #include "controls/Frame/Frame.h"
 
 #include "controls/CommandButton/CommandButton.h"
-#include "controls/Frame/FrameLayout.h"
+#include "controls/Frame/FramePainter.h"
 #include "controls/TextBox/TextBox.h"
+#include "controls/ThemeHandle.h"
+#include "controls/ThemeState.h"
+#include "tests/conformance/Paper.h"
 #include "tests/controls/FormFixture.h"
+
+#include <uxtheme.h>
+#include <vsstyle.h>
 
 namespace tests {
 
@@ -78,40 +84,140 @@ TEST_F(Frame, BorderRound_StaysBetween0And20)
     EXPECT_FALSE(Box().TabStop());
 }
 
-TEST_F(Frame, Looks_DrawWhatTheyShould)
+class FrameBorder : public FormFixture {
+protected:
+    using Rows = std::vector<std::string>;
+
+    void SetUp() override
+    {
+        Open(R"(Frame Box { Width = 210 Height = 600 Caption = "" UseClassicTheme = 1 BackColor = 0x00FFFFFF })");
+        top_ = controls::MeasureFrameCaption(Box().GetSurface().Dc(), TEXT(" ")).cy / 2;
+        Box().GetExtender().Height(static_cast<float>(15 * (top_ + 9)));
+    }
+    controls::Frame& Box() { return Get<controls::Frame>("Box"); }
+    [[nodiscard]] COLORREF At(int x, int y) { return GetPixel(Box().GetSurface().Dc(), x, y); }
+    /// The whole frame from the middle of the caption's row down, 14 by 9 pixels: '.' the background, 'D' and 'L' the border's colours.
+    Rows Picture()
+    {
+        const std::map<COLORREF, char> letters{{controls::TranslateOleColor(Box().BackColor()), '.'},
+                                               {controls::TranslateOleColor(Box().BorderColorDark()), 'D'},
+                                               {controls::TranslateOleColor(Box().BorderColorLight()), 'L'}};
+        Rows rows;
+        for (int y = 0; y < Box().GetSurface().ScaleHeight(); ++y) {
+            std::string row;
+            for (int x = 0; x < Box().GetSurface().ScaleWidth(); ++x) {
+                const auto letter = letters.find(At(x, y));
+                row += letter == letters.end() ? '?' : letter->second;
+            }
+            if (y >= top_)
+                rows.push_back(row);
+            else
+                EXPECT_EQ(row, "..............") << "above the border at " << y;
+        }
+        return rows;
+    }
+
+    int top_ = 0;
+};
+
+TEST_F(FrameBorder, ClassicForms)
 {
-    const COLORREF back = RGB(10, 200, 30);
-    const auto pixel = [&](int x, int y) { return GetPixel(Box().GetSurface().Dc(), x, y); };
-    Box().BackColor(back);
-    Box().BorderColorDark(0x0000FF);
-    Box().BorderColorLight(0xFF0000);
-    Box().UseClassicTheme(true);
-    Box().Caption(TEXT(""));
-    const int width = Box().GetSurface().ScaleWidth(), height = Box().GetSurface().ScaleHeight(), middle = height / 2;
+    const Rows etched{"DDDDDDDDDDDDDL", "DLLLLLLLLLLLDL", "DL..........DL", "DL..........DL", "DL..........DL",
+                      "DL..........DL", "DDDDDDDDDDDDDL", "LLLLLLLLLLLLLL", ".............."};
     const struct {
         std::uint8_t appearance;
-        COLORREF outer, inner, right;
-    } looks[] = {{0, 0x0000FF, back, 0x0000FF}, {1, 0x0000FF, 0xFF0000, 0xFF0000}, {2, 0x0000FF, 0xFF0000, 0xFF0000}};
-    for (const auto& look : looks) {
-        Box().Appearance(look.appearance);
-        EXPECT_EQ(pixel(0, middle), look.outer) << int{look.appearance};
-        EXPECT_EQ(pixel(1, middle), look.inner) << int{look.appearance};
-        EXPECT_EQ(pixel(width - 1, middle), look.right) << int{look.appearance};
-        EXPECT_EQ(pixel(width / 2, middle), back);
-        EXPECT_EQ(pixel(width / 2, height - 1), back) << "the last row stays free";
+        int round;
+        Rows picture;
+    } forms[] = {{0,
+                  0,
+                  {"DDDDDDDDDDDDDD", "D............D", "D............D", "D............D", "D............D", "D............D",
+                   "D............D", "DDDDDDDDDDDDDD", ".............."}},
+                 {1, 0, etched},
+                 {2, 0, etched},
+                 {0,
+                  6,
+                  {"..DDDDDDDDD...", ".D.........D..", "D...........D.", "D...........D.", "D...........D.", ".D.........D..",
+                   "..DDDDDDDDD...", "..............", ".............."}},
+                 {1,
+                  6,
+                  {"..DDDDDDDDD...", ".D.LLLLLLLLD..", "D.L.........D.", "DL..........DL", "DL..........DL", ".D.........D.L",
+                   "..DDDDDDDDD.L.", "...LLLLLLLLL..", ".............."}},
+                 {2,
+                  6,
+                  {"..LLLLLLLLL...", ".L.DDDDDDDDL..", "L.D.........L.", "LD..........LD", "LD..........LD", ".L.........L.D",
+                   "..LLLLLLLLL.D.", "...DDDDDDDDD..", ".............."}}};
+    for (const bool ownColors : {true, false}) {
+        Box().BorderColorDark(ownColors ? 0x0000FF : host::SystemColor(COLOR_BTNSHADOW));
+        Box().BorderColorLight(ownColors ? 0xFF0000 : host::SystemColor(COLOR_BTNHIGHLIGHT));
+        Box().BackColor(0x00FF00);
+        for (const auto& form : forms) {
+            Box().Appearance(form.appearance);
+            Box().BorderRound(form.round);
+            EXPECT_EQ(Picture(), form.picture) << int{form.appearance} << ", round " << form.round << ", own colours " << ownColors;
+        }
     }
-    Box().Appearance(2);
-    Box().BorderRound(8);
-    EXPECT_EQ(pixel(0, middle), 0xFF0000U) << "inverted: light on top";
-    EXPECT_EQ(pixel(width - 1, middle), 0x0000FFU);
-    Box().BorderStyle(0);
-    EXPECT_EQ(pixel(0, middle), back);
-    Box().BorderStyle(1);
-    Box().Invisible(true);
-    EXPECT_EQ(pixel(0, middle), back);
-    Box().Invisible(false);
+}
+
+TEST_F(FrameBorder, WithoutOne)
+{
+    const Rows nothing(9, "..............");
+    for (const bool classic : {true, false}) {
+        Box().UseClassicTheme(classic);
+        Box().BorderStyle(0);
+        EXPECT_EQ(Picture(), nothing);
+        Box().BorderStyle(1);
+        EXPECT_NE(Picture(), nothing);
+        Box().Caption(TEXT("caption"));
+        Box().Invisible(true);
+        EXPECT_EQ(Picture(), nothing);
+        Box().Invisible(false);
+        Box().Caption({});
+    }
     Box().BackStyle(1);
-    EXPECT_EQ(pixel(width / 2, middle), controls::TranslateOleColor(form->BackColor())) << "the container's colours";
+    EXPECT_EQ(Box().BackColor(), form->BackColor()) << "each drawing takes the container's colours";
+    EXPECT_EQ(At(7, top_ + 4), controls::TranslateOleColor(form->BackColor()));
+}
+
+TEST_F(FrameBorder, Caption_InterruptsIt)
+{
+    Box().GetExtender().Width(900);
+    Box().Appearance(0);
+    // A caption that leaves no mark of its own.
+    const base::String blanks = TEXT("   ");
+    const LONG length = controls::MeasureFrameCaption(Box().GetSurface().Dc(), blanks).cx;
+    for (const bool classic : {true, false}) {
+        Box().UseClassicTheme(classic);
+        Box().Caption(blanks);
+        const COLORREF back = controls::TranslateOleColor(Box().BackColor());
+        const COLORREF border = classic ? GetSysColor(COLOR_BTNSHADOW) : At(6, top_);
+        EXPECT_NE(border, back);
+        EXPECT_EQ(At(6, top_), border);
+        for (int x = 7; x < length + 9; ++x)
+            EXPECT_EQ(At(x, top_), back) << x;
+        EXPECT_EQ(At(length + 9, top_), border);
+    }
+}
+
+TEST_F(FrameBorder, Themed_IsTheGroupBoxOfTheTheme)
+{
+    if (!IsThemeActive())
+        GTEST_SKIP() << "visual styles are switched off here";
+    Box().UseClassicTheme(false);
+    Box().GetExtender().Width(900);
+    const int width = Box().GetSurface().ScaleWidth(), height = Box().GetSurface().ScaleHeight();
+    const controls::ThemeHandle theme(OpenThemeData(nullptr, TEXT("BUTTON")));
+    for (const bool enabled : {true, false}) {
+        Box().Enabled(enabled);
+        const Paper paper(width, height);
+        const RECT border{0, top_, width, height - 1};
+        DrawThemeBackground(theme.Get(), paper.Dc(), BP_GROUPBOX, enabled ? GBS_NORMAL : GBS_DISABLED, &border, nullptr);
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < width; ++x)
+                ASSERT_EQ(At(x, y), paper.At(x, y)) << x << ", " << y << ", enabled " << enabled;
+    }
+    controls::ThemeState::OfProcess().AskVersionWith([] { return DWORD{5}; });
+    SendMessageW(Box().hWnd(), WM_THEMECHANGED, 0, 0);
+    EXPECT_EQ(At(0, top_ + 4), GetSysColor(COLOR_BTNSHADOW)) << "common controls that are too old";
 }
 
 TEST_F(Frame, TopRow_IsPaintedOverOnceMoreAfterAPaint)
