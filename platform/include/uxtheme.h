@@ -14,7 +14,6 @@ BOOL WINAPI IsAppThemed();
 HTHEME WINAPI OpenThemeData(HWND window, LPCWSTR classList);
 HRESULT WINAPI CloseThemeData(HTHEME theme);
 HRESULT WINAPI SetWindowTheme(HWND window, LPCWSTR applicationName, LPCWSTR classList);
-HRESULT WINAPI EnableTheming(BOOL enable);
 HRESULT WINAPI DrawThemeBackground(HTHEME theme, HDC dc, int part, int state, const RECT* rectangle, const RECT* clip);
 HRESULT WINAPI DrawThemeText(HTHEME theme, HDC dc, int part, int state, LPCWSTR text, int length, DWORD textFlags, DWORD secondFlags,
                              const RECT* rectangle);

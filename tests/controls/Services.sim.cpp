@@ -3,9 +3,11 @@
 #include "controls/FontRule.h"
 #include "controls/Frame/Frame.h"
 #include "controls/TextBox/TextBox.h"
+#include "controls/ThemeState.h"
 #include "platform/sim/Desktop.h"
 #include "platform/sim/Graphics.h"
 #include "platform/sim/Shell.h"
+#include "platform/sim/Theme.h"
 #include "tests/controls/FormFixture.h"
 
 namespace tests {
@@ -37,6 +39,22 @@ TEST(FontRule, FontThatIsNoTrueTypeText_IsReplaced)
     EXPECT_EQ(forced(TEXT("Symbol"), ForceTrueTypeChoice::MessageFontFirst), TEXT("First"));
     graphics.Families().resize(2);
     EXPECT_EQ(forced(TEXT("Symbol"), ForceTrueTypeChoice::MessageFontFirst), TEXT("Symbol")) << "nothing suitable";
+}
+
+TEST(ThemeState, StylesComeAndGo_WhileTheVersionStays)
+{
+    platform::Theme& theme = platform::SimPc::Current().Get<platform::Theme>();
+    controls::ThemeState state;
+    theme.CommonControlsVersion(6);
+    theme.Active(false);
+    EXPECT_FALSE(state.IsThemeAvailable());
+    theme.Active(true);
+    EXPECT_TRUE(state.IsThemeAvailable()) << "nothing was decided while styles were off";
+    theme.CommonControlsVersion(5);
+    theme.AppThemed(false);
+    EXPECT_FALSE(state.IsThemeAvailable());
+    theme.AppThemed(true);
+    EXPECT_TRUE(state.IsThemeAvailable());
 }
 
 class SharedServices : public FormFixture {};

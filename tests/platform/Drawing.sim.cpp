@@ -219,7 +219,7 @@ TEST(ThemeLooks, SwitchedOffOrUnknown_NothingOpens)
     theme.Active(false);
     EXPECT_FALSE(IsThemeActive());
     EXPECT_EQ(OpenThemeData(nullptr, TEXT("Button")), nullptr);
-    EnableTheming(TRUE);
+    theme.Active(true);
     theme.AppThemed(false);
     EXPECT_TRUE(IsThemeActive());
     EXPECT_EQ(OpenThemeData(nullptr, TEXT("Button")), nullptr);

@@ -98,13 +98,6 @@ HRESULT WINAPI SetWindowTheme(HWND window, LPCWSTR applicationName, LPCWSTR clas
     return S_OK;
 }
 
-HRESULT WINAPI EnableTheming(BOOL enable)
-{
-    SIM_NOTE(enable);
-    SimPc::Current().Get<Theme>().Active(enable != FALSE);
-    return S_OK;
-}
-
 HRESULT WINAPI DrawThemeBackground(HTHEME theme, HDC dc, int part, int state, const RECT* rectangle, const RECT* clip)
 {
     SIM_CALL(E_FAIL, ERROR_NOT_ENOUGH_MEMORY, theme, dc, part, state, rectangle, clip);

@@ -3,9 +3,8 @@
 #include "controls/ColorArithmetic.h"
 #include "controls/CommandButton/CommandButtonStyles.h"
 #include "controls/Gradient.h"
+#include "controls/ThemeState.h"
 #include "tests/controls/FormFixture.h"
-
-#include <uxtheme.h>
 
 namespace tests {
 
@@ -99,10 +98,9 @@ TEST_F(Rendering, ThemeStyle_FallsBackWithoutThemes)
     Button().Style(controls::ThemeStyle);
     const COLORREF frame = controls::ShiftByFraction(color, -0.33);
     EXPECT_NE(Pixel(50, 0), frame);
-    EnableTheming(FALSE);
+    controls::ThemeState::OfProcess().AskVersionWith([] { return DWORD{5}; });
     SendMessageW(Button().hWnd(), WM_THEMECHANGED, 0, 0);
     EXPECT_EQ(Pixel(50, 0), frame);
-    EnableTheming(TRUE);
 }
 
 TEST_F(Rendering, FocusRectangle_ComesWithFocusAndShowFocus)
