@@ -51,9 +51,9 @@ run_for_person() {
     wine_in "$run_prefix" wine "$exe_name" </dev/null
 }
 
-run_for_picture() {
+# Starts a display of its own for this run's prefix; run_end ends it.
+virtual_display() {
     command -v Xvfb >/dev/null && command -v import >/dev/null || { echo "no display, and no Xvfb and ImageMagick to make a picture with" >&2; return 1; }
-    echo "no display: the real exe under Wine on a virtual one, for a picture"
     local number=471
     while [ -e "/tmp/.X11-unix/X$number" ] || [ -e "/tmp/.X$number-lock" ]; do number=$((number + 1)); done
     Xvfb ":$number" -screen 0 800x700x24 -nolisten tcp </dev/null >/dev/null 2>&1 &
@@ -62,6 +62,11 @@ run_for_picture() {
     local tries
     for tries in {1..50}; do [ -e "/tmp/.X11-unix/X$number" ] && break; sleep 0.1; done
     use_display N
+}
+
+run_for_picture() {
+    virtual_display || return 1
+    echo "no display: the real exe under Wine on a virtual one, for a picture"
 
     # Something to see: a password, and the agent running as a service.
     cd "$run_folder"

@@ -1,0 +1,50 @@
+# The pictures in docs/, made anew.
+# Renews the pictures in docs/ from the real exe under Wine, on a virtual display
+. tools/run.sh
+
+# import_window <file> <geometry>: the window and what stands over it.
+import_window() { import -window root -crop "$2" +repage "$1"; }
+
+# open_window <command...>: a Windows program that runs until close_window.
+open_window() {
+    wine_in "$run_prefix" wine "$@" </dev/null >/dev/null 2>&1 &
+    run_started+=($!)
+    sleep 4
+}
+
+# pose <what...>: what gallery.exe can do with the open window.
+pose() { wine_in "$run_prefix" wine gallery.exe "$@" </dev/null 2>/dev/null | tr -d '\r'; }
+
+close_window() { pose close && wait "${run_started[-1]}"; }
+
+gallery_main() {
+    wine_make_prefix
+    step "build windows" build_preset windows utility agent gallery
+    run_folder="$root/build/gallery-run"
+    mkdir -p "$run_folder"
+    cp "build/windows/app/resources/$exe_name" build/windows/tools/agent/Velmora.exe build/windows/tools/gallery/gallery.exe "$run_folder/"
+    run_prefix="$root/build/wine-gallery"
+    wine_clone "$run_prefix"
+    run_started=()
+    trap run_end EXIT
+    virtual_display
+    cd "$run_folder"
+
+    local place
+    open_window "$exe_name"
+    place=$(pose hover 300 530)
+    sleep 1
+    import_window "$root/docs/frames-classic.png" "$place"
+    pose hover 95 48 >/dev/null
+    sleep 2
+    import_window "$root/docs/tip.png" "${place%%x*}x180${place#"${place%%+*}"}"
+    close_window
+    open_window gallery.exe themed
+    place=$(pose hover 300 530)
+    sleep 1
+    import_window "$root/docs/frames-themed.png" "$place"
+    close_window
+    ls -l "$root"/docs/*.png
+}
+
+gallery_main
