@@ -107,6 +107,27 @@ TEST_F(Form1StartUp, OrdinaryUser_GetsServiceAndAutoStartDisabled)
     EXPECT_EQ(The<Services>().Find(u"Velmora")->state, static_cast<DWORD>(SERVICE_STOPPED)) << "the frame keeps the mouse off its buttons";
 }
 
+TEST_F(Form1StartUp, FramesOfAnOrdinaryUser_EnabledAgain_AreAsAnAdministratorsAre)
+{
+    for (const bool installed : {false, true}) {
+        if (installed)
+            The<Services>().Install(u"Velmora", u"C:\\Tools\\Velmora.exe");
+        The<Users>().Administrator(true);
+        ASSERT_TRUE(Open());
+        const std::u16string disabledBefore = Disabled();
+        Close();
+        The<Users>().Administrator(false);
+        ASSERT_TRUE(Open());
+        EXPECT_EQ(Disabled(),
+                  u"FrameAutoStart CheckAutoStart CheckHideTrayIcon CheckSoundStart FrameService cmdInstall cmdStart lblAccount "
+                  u"txtAccount lblPassword txtPassword chkSystem lblStartup ComboStartup CommandCloseVelmora");
+        for (const WCHAR* name : {TEXT("FrameService"), TEXT("FrameAutoStart")})
+            Form().Find(name)->Enabled(true);
+        EXPECT_EQ(Disabled(), disabledBefore) << "installed " << installed;
+        Close();
+    }
+}
+
 TEST_F(Form1StartUp, Keys_CloseTheWindowOnlyWithTheRightModifiers)
 {
     ASSERT_TRUE(Open());
