@@ -44,6 +44,9 @@ TEST_F(Frame, Caption_IsMeasuredWithoutItsMarks)
         EXPECT_EQ(result.accessKey, key);
     }
     EXPECT_EQ(Box().AccessKey(), TEXT("f"));
+    Any("Text").SetFocus();
+    Press('F', 4);
+    EXPECT_EQ(Focused(), "First") << "the key of what can't have the focus is for the control that follows";
 }
 
 TEST_F(Frame, Caption_IsTheWindowsTextToo)
