@@ -23,6 +23,7 @@ struct FileTraits {
 
 using KernelHandle = Handle<NullHandleTraits<HANDLE, &CloseHandle>>;
 using FileHandle = Handle<FileTraits>;
+using GlobalMemory = Handle<NullHandleTraits<HGLOBAL, &GlobalFree>>;
 using ModuleHandle = Handle<NullHandleTraits<HMODULE, &FreeLibrary>>;
 using ServiceHandle = Handle<NullHandleTraits<SC_HANDLE, &CloseServiceHandle>>;
 using RegistryKey = Handle<NullHandleTraits<HKEY, &RegCloseKey>>;

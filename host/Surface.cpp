@@ -37,6 +37,19 @@ void Surface::Clear()
     FillRect(dc, &all, brush.Get());
 }
 
+void Surface::Attach(HWND window)
+{
+    window_ = window;
+    oleDrag_.Attach(window);
+    oleDrag_.AcceptDrops(oleDropMode_ == 1);
+}
+
+void Surface::OleDropMode(std::int16_t mode)
+{
+    oleDropMode_ = mode;
+    oleDrag_.AcceptDrops(mode == 1);
+}
+
 void Surface::Enabled(bool enabled)
 {
     enabled_ = enabled;

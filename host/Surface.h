@@ -5,6 +5,7 @@
 #include "base/String.h"
 #include "host/Font.h"
 #include "host/OleColor.h"
+#include "host/OleDrag.h"
 
 #include <cstdint>
 #include <memory>
@@ -14,7 +15,7 @@ namespace host {
 /// Pixels, (0, 0) at the top left of the control's window. Without memory for the picture there is no DC: drawing then does nothing.
 class Surface {
 public:
-    Surface() = default;
+    explicit Surface(OleDragEvents& control) : oleDrag_(control) {}
     ~Surface() { Release(); }
     Surface(const Surface&) = delete;
     Surface& operator=(const Surface&) = delete;
@@ -43,16 +44,19 @@ public:
     /// 0 and 1 arrow, 2 cross, 3 I-beam, 5 move, 6 to 9 sizing, 10 up arrow, 11 hourglass, 12 no drop, 13 arrow and hourglass, 14 help.
     [[nodiscard]] std::int16_t MousePointer() const { return mousePointer_; }
     void MousePointer(std::int16_t pointer) { mousePointer_ = pointer; }
-    /// 0 none, 1 manual; 0 transparent, 1 opaque. Kept for the control that stores them.
+    /// 0 none; 1 manual: the control hears of data that is dragged over it and dropped on it. Other values are kept and mean none.
     [[nodiscard]] std::int16_t OleDropMode() const { return oleDropMode_; }
-    void OleDropMode(std::int16_t mode) { oleDropMode_ = mode; }
+    void OleDropMode(std::int16_t mode);
+    /// Drags data from here until the user lets go of it: OLEStartDrag, OLEGiveFeedback, OLESetData, OLECompleteDrag.
+    void OLEDrag() { oleDrag_.Start(); }
+    /// 0 transparent, 1 opaque. Kept for the control that stores it.
     [[nodiscard]] std::int16_t BackStyle() const { return backStyle_; }
     void BackStyle(std::int16_t style) { backStyle_ = style; }
 
     // The user control does these.
 
     /// Binds the surface to its window (NULL unbinds).
-    void Attach(HWND window) { window_ = window; }
+    void Attach(HWND window);
     /// A new empty picture of this size, filled with the background colour.
     void Resize(SIZE size);
     /// Copies the picture to `target`, whole.
@@ -79,6 +83,7 @@ private:
     std::int16_t mousePointer_ = 0;
     std::int16_t oleDropMode_ = 0;
     std::int16_t backStyle_ = 1;
+    OleDrag oleDrag_;
 };
 
 }  // namespace host

@@ -19,7 +19,9 @@ namespace host {
 /// Focus: EnterFocus, GotFocus when the control becomes the form's active control; LostFocus, ExitFocus when another one does. When
 /// the own window gets the keyboard focus while the control is active already, only GotFocus comes. Another window of this or another
 /// program taking the keyboard focus is no LostFocus: the control stays the active one.
-class UserControl : public Control, public Container, private OwnWindow {
+///
+/// OLE drag and drop: the surface's OleDropMode and OLEDrag; the control overrides what it wants to hear of OleDragEvents.
+class UserControl : public Control, public Container, protected OleDragEvents, private OwnWindow {
 public:
     [[nodiscard]] HWND hWnd() const override { return OwnHandle(); }
     [[nodiscard]] HWND OwnHandle() const final { return OwnWindow::Handle(); }
@@ -100,7 +102,7 @@ private:
     Stage stage_ = Stage::Made;
     bool isShown_ = false;
     bool clickBegun_ = false;
-    Surface surface_;
+    Surface surface_{*this};
 };
 
 }  // namespace host

@@ -34,6 +34,10 @@ LRESULT UserControl::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
         case WM_PRINTCLIENT:
             surface_.CopyTo(reinterpret_cast<HDC>(wParam));
             return 0;
+        case WM_DESTROY:
+            // Somebody else destroys the window, or its parent.
+            surface_.Attach(nullptr);
+            break;
         case WM_SIZE:
             Sized();
             return 0;

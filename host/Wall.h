@@ -7,10 +7,10 @@
 
 namespace host {
 
-/// Runs `handle` and gives its result. Windows' own code lies between a window procedure and its caller and knows nothing of C++
-/// exceptions, so none may leave: after an exception `fallback`, the message's default treatment, answers instead.
+/// Runs `handle` and gives its result. Windows' own code lies between a window procedure, or a COM object, and its caller and knows
+/// nothing of C++ exceptions, so none may leave: after an exception `fallback`, the message's default treatment or an error, answers.
 template <class Handle, class Fallback>
-LRESULT BehindWall(Handle&& handle, Fallback&& fallback) noexcept
+auto BehindWall(Handle&& handle, Fallback&& fallback) noexcept -> decltype(handle())
 {
     try {
         return std::forward<Handle>(handle)();

@@ -3,6 +3,7 @@
 
 #include "windef.h"
 
+#include "objidl.h"
 #include "winbase.h"
 
 #define CSIDL_DESKTOP 0x0000
@@ -23,6 +24,7 @@
 
 BOOL WINAPI SHGetSpecialFolderPathW(HWND window, LPWSTR path, INT folder, BOOL create);
 INT WINAPI SHCreateDirectoryExW(HWND window, LPCWSTR path, const SECURITY_ATTRIBUTES* security);
+HRESULT WINAPI SHCreateStdEnumFmtEtc(UINT count, const FORMATETC* formats, IEnumFORMATETC** enumerator);
 // IsNTAdmin lives in advpack.dll and is declared in advpub.h.
 
 struct DROPFILES {

@@ -188,6 +188,11 @@ struct MEMORYSTATUS {
     SIZE_T dwTotalPhys, dwAvailPhys, dwTotalPageFile, dwAvailPageFile, dwTotalVirtual, dwAvailVirtual;
 };
 using LPMEMORYSTATUS = MEMORYSTATUS*;
+HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T size);
+HGLOBAL WINAPI GlobalFree(HGLOBAL block);
+LPVOID WINAPI GlobalLock(HGLOBAL block);
+BOOL WINAPI GlobalUnlock(HGLOBAL block);
+SIZE_T WINAPI GlobalSize(HGLOBAL block);
 VOID WINAPI GlobalMemoryStatus(LPMEMORYSTATUS status);
 
 // ---- Environment ----

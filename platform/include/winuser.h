@@ -446,6 +446,10 @@ HWND WINAPI GetCapture();
 #define MK_SHIFT 0x0004
 #define MK_CONTROL 0x0008
 #define MK_MBUTTON 0x0010
+#define CF_TEXT 1
+#define CF_BITMAP 2
+#define CF_UNICODETEXT 13
+#define CF_HDROP 15
 #define WHEEL_DELTA 120
 #define GET_X_LPARAM(value) (static_cast<int>(static_cast<short>(LOWORD(value))))
 #define GET_Y_LPARAM(value) (static_cast<int>(static_cast<short>(HIWORD(value))))

@@ -1,5 +1,6 @@
 // Sizes and offsets of the system's records as 64-bit Windows has them.
 #include <lm.h>
+#include <ole2.h>
 #include <psapi.h>
 #include <shlobj.h>
 #include <shlwapi.h>
@@ -29,3 +30,4 @@ static_assert(sizeof(QUERY_SERVICE_CONFIGW) == 64 && offsetof(QUERY_SERVICE_CONF
               offsetof(QUERY_SERVICE_CONFIGW, lpServiceStartName) == 48);
 static_assert(sizeof(WKSTA_USER_INFO_1) == 32 && offsetof(WKSTA_USER_INFO_1, wkui1_logon_domain) == 8);
 static_assert(sizeof(DLLVERSIONINFO) == 20 && sizeof(DROPFILES) == 20);
+static_assert(sizeof(FORMATETC) == 32 && offsetof(FORMATETC, tymed) == 24 && sizeof(STGMEDIUM) == 24);
