@@ -11,8 +11,6 @@
 #include <cstdint>
 #include <vector>
 
-struct IDataObject;
-
 namespace controls {
 
 template <class Control>
@@ -66,6 +64,7 @@ public:
     /// The window accepts files from the shell.
     [[nodiscard]] bool DragDropEnabled() const { return dragDropEnabled_; }
     void DragDropEnabled(bool enable);
+    /// 0 none, 1 manual: data may be dropped here.
     [[nodiscard]] std::int16_t OLEDropMode() const { return GetSurface().OleDropMode(); }
     void OLEDropMode(std::int16_t mode);
     [[nodiscard]] bool UseClassicTheme() const { return useClassicTheme_; }
@@ -82,6 +81,8 @@ public:
     void FixBlackLine();
     /// Does the same once more 10 ms later, when the paint is over.
     void FixBlackLineRetard();
+    /// Drags data from here: OLEStartDrag says what. Returns when the drag is over; the frame may be gone then.
+    void OLEDrag() { GetSurface().OLEDrag(); }
 
     host::Event<1> Click;
     host::Event<2> DblClick;
@@ -90,13 +91,13 @@ public:
     host::Event<5, std::int16_t&, std::int16_t&, float&, float&> MouseMove;
     host::Event<6, std::int16_t&, std::int16_t&, float&, float&> MouseUp;
     host::Event<7, std::vector<base::String>&, std::int16_t&> DragDropFile;
-    // OLE drag and drop is the host's to begin; a host without it never raises these.
+    // See host::OleDragEvents.
     host::Event<8, std::int32_t&> OLECompleteDrag;
-    host::Event<9, IDataObject*, std::int32_t&, std::int16_t&, std::int16_t&, float&, float&> OLEDragDrop;
-    host::Event<10, IDataObject*, std::int32_t&, std::int16_t&, std::int16_t&, float&, float&, std::int16_t&> OLEDragOver;
+    host::Event<9, host::DataObject&, std::int32_t&, std::int16_t&, std::int16_t&, float&, float&> OLEDragDrop;
+    host::Event<10, host::DataObject&, std::int32_t&, std::int16_t&, std::int16_t&, float&, float&, std::int16_t&> OLEDragOver;
     host::Event<11, std::int32_t&, bool&> OLEGiveFeedback;
-    host::Event<12, IDataObject*, std::int16_t&> OLESetData;
-    host::Event<13, IDataObject*, std::int32_t&> OLEStartDrag;
+    host::Event<12, host::DataObject&, std::int16_t&> OLESetData;
+    host::Event<13, host::DataObject&, std::int32_t&> OLEStartDrag;
 
 private:
     static const PropertyTable<Frame>& Properties();
@@ -120,6 +121,23 @@ private:
         MouseMove.Raise(button, shift, x, y);
     }
     void UserControl_MouseUp(std::int16_t& button, std::int16_t& shift, float& x, float& y) override { MouseUp.Raise(button, shift, x, y); }
+    void UserControl_OLECompleteDrag(std::int32_t& effect) override { OLECompleteDrag.Raise(effect); }
+    void UserControl_OLEDragDrop(host::DataObject& data, std::int32_t& effect, std::int16_t& button, std::int16_t& shift, float& x,
+                                 float& y) override
+    {
+        OLEDragDrop.Raise(data, effect, button, shift, x, y);
+    }
+    void UserControl_OLEDragOver(host::DataObject& data, std::int32_t& effect, std::int16_t& button, std::int16_t& shift, float& x,
+                                 float& y, std::int16_t& state) override
+    {
+        OLEDragOver.Raise(data, effect, button, shift, x, y, state);
+    }
+    void UserControl_OLEGiveFeedback(std::int32_t& effect, bool& defaultCursors) override { OLEGiveFeedback.Raise(effect, defaultCursors); }
+    void UserControl_OLESetData(host::DataObject& data, std::int16_t& dataFormat) override { OLESetData.Raise(data, dataFormat); }
+    void UserControl_OLEStartDrag(host::DataObject& data, std::int32_t& allowedEffects) override
+    {
+        OLEStartDrag.Raise(data, allowedEffects);
+    }
 
     void Start();
     /// Reports a change and draws.
