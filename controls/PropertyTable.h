@@ -155,6 +155,29 @@ private:
     const PropertyDefault<Control, Stored> standard_;
 };
 
+/// A property that reads and writes itself, because its key holds more than its value.
+template <class Control>
+class OwnWayRow final : public PropertyRow<Control> {
+public:
+    using Reader = void (*)(Control&, const host::PropertyBag&, const WCHAR* key);
+    using Writer = void (*)(Control&, host::PropertyBag&, const WCHAR* key);
+
+    OwnWayRow(const WCHAR* key, Reader read, Writer write) : PropertyRow<Control>(key, WhenDefault::LeftOut), read_(read), write_(write) {}
+    void Read(Control& control, const host::PropertyBag& bag) const override { read_(control, bag, this->key_); }
+    void Write(Control& control, host::PropertyBag& bag) const override { write_(control, bag, this->key_); }
+
+private:
+    const Reader read_;
+    const Writer write_;
+};
+
+template <class Control>
+typename PropertyTable<Control>::Row StoredInItsOwnWay(const WCHAR* key, typename OwnWayRow<Control>::Reader read,
+                                                       typename OwnWayRow<Control>::Writer write)
+{
+    return typename PropertyTable<Control>::Row(std::make_shared<OwnWayRow<Control>>(key, read, write));
+}
+
 /// A row for a value that is got and set through functions without state: `Stored get(Control&)`, `void set(Control&, Stored)`.
 template <class Control, class Stored, class Get, class Set>
 typename PropertyTable<Control>::Row StoredThrough(const WCHAR* key, Get, Set, PropertyDefault<Control, Stored> standard,

@@ -62,10 +62,13 @@ protected:
     };
 
     /// Leads to one of the settings, for a control's table of stored properties.
-    template <class Control, class Value>
-    [[nodiscard]] static auto Tip(Value Settings::*setting)
+    template <class Control, auto setting>
+    [[nodiscard]] static auto Tip()
     {
-        return [setting](Control& control) -> Value& { return static_cast<ToolTip&>(control).tip_.*setting; };
+        return [](Control & control) -> auto&
+        {
+            return static_cast<ToolTip&>(control).tip_.*setting;
+        };
     }
 
     explicit ToolTip(host::UserControl& control, ToolTipNames names = {}) : control_(control), names_(names) {}

@@ -31,14 +31,14 @@ const PropertyTable<Frame>& Frame::Properties()
         StoredAs<Frame, int32_t>(TEXT("BorderRound"), &Frame::borderRound_, 0),
         StoredAs<Frame, uint32_t>(TEXT("BorderColorDark"), &Frame::borderColorDark_, host::SystemColor(COLOR_BTNSHADOW)),
         StoredAs<Frame, uint32_t>(TEXT("BorderColorLight"), &Frame::borderColorLight_, host::SystemColor(COLOR_BTNHIGHLIGHT)),
-        StoredAs<Frame, String>(TEXT("ToolTipTextW"), Tip<Frame>(&Settings::text), String()),
-        StoredAs<Frame, String>(TEXT("Tooltiptitle"), Tip<Frame>(&Settings::title), String(), whatever),
-        StoredAs<Frame, int32_t>(TEXT("ToolTipIcon"), Tip<Frame>(&Settings::icon), 0, whatever),
-        StoredAs<Frame, uint8_t>(TEXT("TooltipBalloon"), Tip<Frame>(&Settings::balloon), 0, whatever),
-        StoredAs<Frame, uint8_t>(TEXT("ToolTipCentred"), Tip<Frame>(&Settings::centred), 0),
-        StoredAs<Frame, int32_t>(TEXT("ToolTipWidth"), Tip<Frame>(&Settings::width), 0),
-        StoredAs<Frame, uint32_t>(TEXT("ToolTipBackColor"), Tip<Frame>(&Settings::backColor), 0x80000018),
-        StoredAs<Frame, uint32_t>(TEXT("ToolTipForeColor"), Tip<Frame>(&Settings::foreColor), 0x80000017),
+        StoredAs<Frame, String>(TEXT("ToolTipTextW"), Tip<Frame, &Settings::text>(), String()),
+        StoredAs<Frame, String>(TEXT("Tooltiptitle"), Tip<Frame, &Settings::title>(), String(), whatever),
+        StoredAs<Frame, int32_t>(TEXT("ToolTipIcon"), Tip<Frame, &Settings::icon>(), 0, whatever),
+        StoredAs<Frame, uint8_t>(TEXT("TooltipBalloon"), Tip<Frame, &Settings::balloon>(), 0, whatever),
+        StoredAs<Frame, uint8_t>(TEXT("ToolTipCentred"), Tip<Frame, &Settings::centred>(), 0),
+        StoredAs<Frame, int32_t>(TEXT("ToolTipWidth"), Tip<Frame, &Settings::width>(), 0),
+        StoredAs<Frame, uint32_t>(TEXT("ToolTipBackColor"), Tip<Frame, &Settings::backColor>(), 0x80000018),
+        StoredAs<Frame, uint32_t>(TEXT("ToolTipForeColor"), Tip<Frame, &Settings::foreColor>(), 0x80000017),
         StoredAs<Frame, uint8_t>(TEXT("ForceTrueType"), &Frame::forceTrueType_, 0),
         StoredAs<Frame, uint8_t>(TEXT("UseClassicTheme"), &Frame::useClassicTheme_, 0),
         StoredAs<Frame, uint8_t>(TEXT("EnableDisableChilds"), &Frame::enableDisableChilds_, 0),
@@ -52,12 +52,13 @@ const PropertyTable<Frame>& Frame::Properties()
         StoredThrough<Frame, std::int16_t>(
             TEXT("OLEDropMode"), [](Frame& frame) { return frame.OLEDropMode(); },
             [](Frame& frame, std::int16_t mode) { frame.GetSurface().OleDropMode(mode); }, 0),
-        PropertyTable<Frame>::Row(
-            [](Frame& frame, const PropertyBag& bag) {
-                const std::int16_t only = bag.Read<std::int16_t>(TEXT("BackStyle"), 1);
-                frame.GetSurface().BackStyle(bag.Read<std::int16_t>(TEXT("BackStyle"), only, 1));
+        StoredInItsOwnWay<Frame>(
+            TEXT("BackStyle"),
+            [](Frame& frame, const PropertyBag& bag, const WCHAR* key) {
+                const std::int16_t only = bag.Read<std::int16_t>(key, 1);
+                frame.GetSurface().BackStyle(bag.Read<std::int16_t>(key, only, 1));
             },
-            [](Frame& frame, PropertyBag& bag) { bag.Write<std::int16_t>(TEXT("BackStyle"), frame.GetSurface().BackStyle(), 1); }),
+            [](Frame& frame, PropertyBag& bag, const WCHAR* key) { bag.Write<std::int16_t>(key, frame.GetSurface().BackStyle(), 1); }),
         StoredThrough<Frame, String>(
             TEXT("Caption"), [](Frame& frame) { return frame.Caption(); },
             [](Frame& frame, const String& caption) { frame.caption_ = caption; },
