@@ -88,7 +88,11 @@ void Vanish(const WindowPtr& window)
 
 void DestroyOwned(const Window& window)
 {
-    for (const WindowPtr& candidate : WindowTree::Children(Tree().Desktop())) {
+    std::vector<WindowPtr> owned;
+    for (Window* candidate : Tree().Desktop().children)
+        if (candidate->owner == &window)
+            owned.push_back(candidate->shared_from_this());
+    for (const WindowPtr& candidate : owned) {
         if (candidate->owner != &window || !WindowOf(candidate->handle))
             continue;
         if (candidate->actor == window.actor)

@@ -106,6 +106,7 @@ void WindowTree::Move(Window& window, Window& parent)
 std::vector<WindowPtr> WindowTree::Children(const Window& window)
 {
     std::vector<WindowPtr> children;
+    children.reserve(window.children.size());
     for (Window* child : window.children)
         children.push_back(child->shared_from_this());
     return children;
