@@ -1,4 +1,5 @@
 // The examples of docs/toolkit.md, compiled and run. Each block of the page stands here word for word; what follows it is checked.
+#include "tests/support/KnownGap.h"
 #include "tests/toolkit/HelperProcess.h"
 #include "tests/toolkit/TestWindows.h"
 #include "toolkit/SystemSecurity.h"
@@ -85,8 +86,10 @@ TEST(ToolkitExamples, OwnWindow)
     own.FirstFormWindow = [form] { return form; };  // the application says which window it is
     own.ActivateMyWindow();
 
-    EXPECT_TRUE(IsWindowVisible(form));
     LockSetForegroundWindow(LSFW_UNLOCK);
+    EXPECT_TRUE(IsWindowVisible(form));
+    KNOWN_GAP("leaves no window in the foreground when the threads' inputs are taken apart");
+    EXPECT_TRUE(own.IsForegroundWindow(form));
 }
 
 TEST(ToolkitExamples, Threads)

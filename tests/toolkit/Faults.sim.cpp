@@ -1,5 +1,6 @@
 // Every member while one Windows call after another fails inside it: its result, outputs left alone, nothing left open.
 #include "base/Handles.h"
+#include "platform/sim/Desktop.h"
 #include "platform/sim/Machine.h"
 #include "platform/sim/Processes.h"
 #include "platform/sim/Users.h"
@@ -31,6 +32,8 @@ struct Scene : toolkit::TaskManLight {
         toolkit::ForgetWow64();
         toolkit::IsRunningOnWow64();
         FirstFormWindow = [form = own.Top(TEXT("form"))] { return form; };
+        MakeWindowVisible(FirstFormWindow());
+        pc.Get<platform::Desktop>().MouseMove(50, 60);
     }
     [[nodiscard]] bool Runs(DWORD process) const { return pc.Get<platform::Processes>().IsRunning(process); }
     [[nodiscard]] int Trims() const { return pc.Get<platform::Processes>().Find(id)->trims; }
@@ -48,7 +51,7 @@ struct Scene : toolkit::TaskManLight {
     SIZE_T z[8] = {7, 7, 7, 7, 7, 7, 7, 7};
     DWORD_PTR masks[2] = {7, 7};
     DWORD faults = 7;
-    std::int32_t state = 7;
+    std::int32_t state = 7, x = 7, y = 7;
 };
 
 /// A result and what it left in its outputs, evaluated in this order: numbers, sizes of texts and lists, whether a handle was given.
@@ -130,6 +133,8 @@ const Row rows[] = {
     {"FindHWndByCaption", [](Scene& s) { return Outcome{s.FindHWndByCaption(TEXT("Inner"), true)}; }, {1}, {0}},
     {"GetHWndByCaptionCount", [](Scene& s) { return Outcome{s.GetHWndByCaptionCount(TEXT("Main"), true)}; }, {1}, {0}},
     {"ActivateMyWindow", [](Scene& s) { return s.ActivateMyWindow(), Outcome{s.IsForegroundWindow(s.FirstFormWindow())}; }, {1}, {1}},
+    {"GetMouseCursorPos", [](Scene& s) { return s.GetMouseCursorPos(s.x, s.y), Outcome{s.x, s.y}; }, {50, 60}, {0, 0}},
+    {"GetHWndFromMousePos", [](Scene& s) { return Outcome{s.GetHWndFromMousePos() == s.FirstFormWindow()}; }, {1}, {1}},
     {"GetRGBPixelColorFromPos", [](Scene& s) { return Outcome{s.GetRGBPixelColorFromPos(0, 0) == CLR_INVALID}; }, {0}, {1}},
     {"KillThread", [](Scene& s) { return Outcome{s.KillThread(s.thread)}; }, {1}, {0}, {{"GetExitCodeThread", {1}}}},
     {"SospendiThread", [](Scene& s) { return Outcome{s.SospendiThread(s.thread)}; }, {1}, {-1}},

@@ -3,6 +3,8 @@
 
 #include "base/Handles.h"
 
+#include <gtest/gtest.h>
+
 #include <string>
 
 namespace tests {
@@ -10,8 +12,16 @@ namespace tests {
 class HelperProcess {
 public:
     /// `script` is what TestWindows makes; the word `thread` adds a thread that stands still from its start. All is there on return.
-    explicit HelperProcess(const std::string& script);
-    ~HelperProcess();
+    explicit HelperProcess(const std::string& script)
+    {
+        Start(script);
+        EXPECT_NE(Id(), 0u) << "the helper did not start: " << script;
+    }
+    ~HelperProcess()
+    {
+        if (process_ && !Ends(0))
+            TerminateProcess(process_.Get(), 0);
+    }
     HelperProcess(const HelperProcess&) = delete;
     HelperProcess& operator=(const HelperProcess&) = delete;
 
@@ -25,7 +35,12 @@ public:
     {
         return WaitForSingleObject(process_.Get(), milliseconds) == WAIT_OBJECT_0;
     }
-    [[nodiscard]] DWORD ExitCode() const;
+    [[nodiscard]] DWORD ExitCode() const
+    {
+        DWORD code = 0;
+        GetExitCodeProcess(process_.Get(), &code);
+        return code;
+    }
 
 private:
     /// Each build's own way to a running process.

@@ -38,8 +38,9 @@ protected:
 
 TEST_F(TaskManLightProcesses, Process_IsListedAndOpenedWhileItRuns)
 {
-    for (const DWORD id : {tools.GetMyPID(), HelperProcess("").Id()})
-        EXPECT_EQ(IsListed(id), id == GetCurrentProcessId()) << "the helper is already gone";
+    EXPECT_TRUE(IsListed(tools.GetMyPID()));
+    const DWORD gone = HelperProcess("").Id();
+    EXPECT_FALSE(IsListed(gone));
     const HelperProcess helper("");
     EXPECT_TRUE(IsListed(helper.Id()));
     EXPECT_TRUE(tools.ExistsPID(helper.Id()));
@@ -65,7 +66,6 @@ TEST_F(TaskManLightProcesses, ImpossibleIds_AreNotAsked)
         EXPECT_EQ(tools.GetNTPathFromPID(process), TEXT(""));
         EXPECT_EQ(tools.KillProcessByPID(process), 0);
     }
-    EXPECT_FALSE(tools.IsProcessRunningByHnd(nullptr));
     EXPECT_EQ(tools.KillProcessByHnd(nullptr), 0);
     EXPECT_EQ(tools.CloseProcessByPID(0), 0);
     EXPECT_FALSE(helper.Ends(0));
@@ -145,43 +145,18 @@ TEST_F(TaskManLightProcesses, Instances_AreThoseOfTheSameImageWithAWindow)
     EXPECT_EQ(tools.GetAllMyOtherInstancesPID(found), 0);
 }
 
-TEST_F(TaskManLightProcesses, PriorityAndAffinity_AreThoseOfTheProcess)
+TEST_F(TaskManLightProcesses, Affinity_IsThatOfTheProcess)
 {
     const HelperProcess helper("");
-    EXPECT_NE(tools.SetPriorityFromPID(helper.Id(), BELOW_NORMAL_PRIORITY_CLASS), 0);
-    EXPECT_EQ(GetPriorityClass(helper.Handle()), static_cast<DWORD>(BELOW_NORMAL_PRIORITY_CLASS));
-    EXPECT_EQ(tools.GetPriorityFromPID(helper.Id()), static_cast<DWORD>(BELOW_NORMAL_PRIORITY_CLASS));
-    EXPECT_EQ(tools.GetCurrentProcessPriority(), GetPriorityClass(GetCurrentProcess()));
-    EXPECT_NE(tools.SetCurrentProcessPriority(NORMAL_PRIORITY_CLASS), 0);
-
-    DWORD_PTR own = 0;
-    DWORD_PTR available = 0;
+    DWORD_PTR own = 0, available = 0, read[2] = {};
     ASSERT_TRUE(GetProcessAffinityMask(helper.Handle(), &own, &available));
     const DWORD_PTR lowest = available & (~available + 1);
     EXPECT_EQ(tools.SetAffinityMaskFromPID(helper.Id(), lowest), 1);
-    DWORD_PTR read[2] = {};
     EXPECT_EQ(tools.GetAffinityMaskFromPID(helper.Id(), read[0], read[1]), 1);
     EXPECT_EQ(read[0], lowest);
     EXPECT_EQ(read[1], available);
     ASSERT_TRUE(GetProcessAffinityMask(helper.Handle(), &own, &available));
     EXPECT_EQ(own, lowest);
-}
-
-TEST_F(TaskManLightProcesses, Memory_IsThatOfTheProcess)
-{
-    const HelperProcess helper("thread");
-    PROCESS_MEMORY_COUNTERS expected = {};
-    ASSERT_TRUE(GetProcessMemoryInfo(helper.Handle(), &expected, sizeof(expected)));
-    PROCESS_MEMORY_COUNTERS read = {};
-    EXPECT_EQ(tools.GetMemoryUsageFromPID(helper.Id(), read.WorkingSetSize, read.PeakWorkingSetSize, read.PageFaultCount,
-                                          read.QuotaPagedPoolUsage, read.QuotaPeakPagedPoolUsage, read.QuotaNonPagedPoolUsage,
-                                          read.QuotaPeakNonPagedPoolUsage, read.PagefileUsage, read.PeakPagefileUsage),
-              1);
-    EXPECT_EQ(read.PeakWorkingSetSize, expected.PeakWorkingSetSize);
-    EXPECT_EQ(read.PagefileUsage, expected.PagefileUsage);
-    EXPECT_GT(read.WorkingSetSize, 0u);
-    tools.TrimWorkingSet(helper.Id());
-    EXPECT_FALSE(helper.Ends(0));
 }
 
 TEST_F(TaskManLightProcesses, Threads_AreCountedAndKilledWithTheirOwnCode)
@@ -201,19 +176,6 @@ TEST_F(TaskManLightProcesses, Threads_AreCountedAndKilledWithTheirOwnCode)
     EXPECT_EQ(tools.SospendiThread(0), -1);
     EXPECT_EQ(tools.RiattivaThread(0), -1);
     EXPECT_EQ(tools.KillThread(0), 0);
-}
-
-TEST_F(TaskManLightProcesses, Figures_OfThePcArePlausible)
-{
-    EXPECT_GE(tools.GetPhysMemTotal(), tools.GetPhysMemAvailable());
-    EXPECT_GE(tools.GetVirtMemTotal(), tools.GetVirtMemAvailable());
-    EXPECT_GE(tools.GetPageFileMemTotal(), tools.GetPageFileMemAvailable());
-    EXPECT_GT(tools.GetPhysMemTotal(), 0u);
-    EXPECT_LE(tools.GetMemLoad(), 100);
-    EXPECT_GE(tools.GetCPUCount(), 1);
-    EXPECT_FALSE(tools.GetActualUser().empty());
-    EXPECT_NE(tools.GetActualUser().back(), TEXT('\0'));
-    EXPECT_FALSE(tools.GetActualDomain().empty());
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 // Windows of this process and of a helper: lists of them held against a plain enumeration, texts, titles that are looked for, closing.
-#include "tests/support/KnownGap.h"
 #include "tests/toolkit/HelperProcess.h"
 #include "tests/toolkit/TestWindows.h"
 #include "toolkit/TaskManLight.h"
@@ -173,21 +172,6 @@ TEST_F(TaskManLightWindows, PoliteClose_AsksTheMainWindowFirstAndThenEachUnowned
     std::sort(later.begin(), later.end());
     std::sort(unowned.begin(), unowned.end());
     EXPECT_EQ(later, unowned);
-}
-
-TEST_F(TaskManLightWindows, ActivateMyWindow_BringsUpTheFormThatTheApplicationNames)
-{
-    tools.ActivateMyWindow();
-    tools.FirstFormWindow = [] { return HWND{}; };
-    tools.ActivateMyWindow();
-    const HWND window = windows.Top(TEXT("form"));
-    tools.FirstFormWindow = [window] { return window; };
-    tools.ActivateMyWindow();
-    LockSetForegroundWindow(LSFW_UNLOCK);
-    EXPECT_TRUE(IsWindowVisible(window));
-    EXPECT_TRUE(tools.IsForegroundWindow(GetForegroundWindow()));
-    KNOWN_GAP("leaves no window in the foreground when the threads' inputs are taken apart");
-    EXPECT_TRUE(tools.IsForegroundWindow(window));
 }
 
 }  // namespace
