@@ -13,7 +13,7 @@ const toolkit::TaskManLight tools;
 
 TEST(ToolkitExamples, Processes)
 {
-    const tests::HelperProcess helper("top:Main");
+    const tests::HelperProcess helper("top:Main closes");
     const DWORD pid = helper.Id();
 
     // Give way to others, if it is still there.
