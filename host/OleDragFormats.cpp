@@ -34,7 +34,8 @@ String Widen(const char* text, std::size_t size)
 String Units(const std::uint8_t* start, std::size_t size)
 {
     String units(size / sizeof(WCHAR), TEXT('\0'));
-    std::memcpy(units.data(), start, units.size() * sizeof(WCHAR));
+    if (!units.empty())
+        std::memcpy(units.data(), start, units.size() * sizeof(WCHAR));
     return units;
 }
 
@@ -43,7 +44,8 @@ String Units(const std::uint8_t* start, std::size_t size)
 Bytes EncodeText(StringView text)
 {
     Bytes bytes((text.size() + 1) * sizeof(WCHAR));
-    std::memcpy(bytes.data(), text.data(), text.size() * sizeof(WCHAR));
+    if (!text.empty())
+        std::memcpy(bytes.data(), text.data(), text.size() * sizeof(WCHAR));
     return bytes;
 }
 
