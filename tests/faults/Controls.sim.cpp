@@ -18,7 +18,7 @@ struct Kind {
     const char* control;
 };
 
-constexpr const char* tip = R"(ToolTipTextW = "A tip" Tooltiptitle = "Title" Left = 150 Top = 150 Width = 1800 Height = 750 )";
+constexpr const char* tip = R"(ToolTipTextW = "A tip" Tooltiptitle = "Title" Left = 150 Top = 150 Width = 900 Height = 450 )";
 
 class ControlFaults : public testing::TestWithParam<Kind> {
 protected:
@@ -31,7 +31,7 @@ protected:
         const std::string control = GetParam().control;
         const std::size_t brace = control.find('{') + 1;
         return form.Load(
-            "Form F { ClientWidth = 6000 ClientHeight = 3000\n" + control.substr(0, brace) + tip + control.substr(brace) + "\n}", factory_);
+            "Form F { ClientWidth = 1800 ClientHeight = 1200\n" + control.substr(0, brace) + tip + control.substr(brace) + "\n}", factory_);
     }
     ~ControlFaults() override { controls::ThemeState::OfProcess().AskVersionWith({}); }
 
@@ -64,16 +64,16 @@ TEST_P(ControlFaults, Life)
         pc.Settle();
         host::Control& control = *form.Controls().front();
         arm();
-        desktop.Hover(control.OwnHandle(), 20, 20);
-        desktop.Hover(control.OwnHandle(), 22, 20);
+        desktop.Hover(control.OwnHandle(), 20, 10);
+        desktop.Hover(control.OwnHandle(), 22, 10);
         pc.Advance(700);
         desktop.MouseDown();
         desktop.MouseUp();
         desktop.Press(VK_SPACE);
-        desktop.Hover(form.hWnd(), 390, 190);
+        desktop.Hover(form.hWnd(), 110, 75);
         pc.Advance(200);
         control.Enabled(false);
-        control.GetExtender().Move(300, 300, 2400, 900);
+        control.GetExtender().Move(300, 300, 1200, 600);
         control.Enabled(true);
         form.BackColor(0x8080FF);
         desktop.AnnounceThemeChange();
@@ -86,9 +86,8 @@ TEST_P(ControlFaults, Life)
 
 const Kind kinds[] = {
     {"ThemedFrame", R"(Frame C { ForceTrueType = 1 DragDropEnabled = 1 EnableDisableChilds = 1 Caption = "A &frame" Font = Font("Symbol", 8)
-        Label L { Left = 150 Top = 300 Width = 900 Height = 255 Caption = "text" } })"},
-    {"EtchedFrame", "Frame C { UseClassicTheme = 1 BackStyle = 1 }"},
-    {"RoundFrame", "Frame C { UseClassicTheme = 1 BorderRound = 8 BorderColorDark = 0x000000FF }"},
+        Label L { Left = 150 Top = 225 Width = 450 Height = 210 Caption = "text" } })"},
+    {"RoundFrame", "Frame C { UseClassicTheme = 1 BackStyle = 1 BorderRound = 8 BorderColorDark = 0x000000FF }"},
     {"SquareFrame", "Frame C { UseClassicTheme = 1 BorderColorDark = 0x000000FF }"},
     {"ThemedButton", R"(CommandButton C { Style = 7 Caption = "A &button" ShowFocus = 1 ForceTrueType = 1 Font = Font("Symbol", 8) })"},
     {"SoftRoundButton", R"(CommandButton C { Style = 10 Caption = "A &button" ShowFocus = 1 FontAutoSize = 1 CaptionFx = 1 })"},
