@@ -79,6 +79,14 @@ LRESULT HostedWindow::Send(UINT message, WPARAM wParam, LPARAM lParam) const
     return SendMessageUnsubclassed(const_cast<DSubclass&>(SubclassControl), window_, message, wParam, lParam);
 }
 
+void HostedWindow::SetStyleBits(DWORD mask, DWORD bits) const
+{
+    if (!window_)
+        return;
+    const auto style = static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE));
+    SetWindowLongW(window_, GWL_STYLE, static_cast<LONG>((style & ~mask) | bits));
+}
+
 String HostedWindow::Text() const
 {
     return WindowTextUnsubclassed(const_cast<DSubclass&>(SubclassControl), window_);

@@ -62,6 +62,8 @@ public:
     [[nodiscard]] bool ContainerIsForm() const { return container_ == form_; }
     /// `SendMessageUnsubclassed` to the window.
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    /// Puts `bits` in the place of `mask` in the window's style.
+    void SetStyleBits(DWORD mask, DWORD bits) const;
     /// The window's text.
     [[nodiscard]] base::String Text() const;
 

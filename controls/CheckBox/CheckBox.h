@@ -100,7 +100,6 @@ private:
 
     void CreateButton();
     void ReleaseButton();
-    void SetStyleBits(DWORD mask, DWORD bits);
     void Toggle();
     void ResizeToCaption();
     void ShowFont();

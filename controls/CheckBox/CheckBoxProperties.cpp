@@ -67,18 +67,10 @@ void CheckBox::Enabled(bool enabled)
     PropertyChanged(TEXT("Enabled"));
 }
 
-void CheckBox::SetStyleBits(DWORD mask, DWORD bits)
-{
-    if (!hosted_.Window())
-        return;
-    const auto style = static_cast<DWORD>(GetWindowLongW(hosted_.Window(), GWL_STYLE));
-    SetWindowLongW(hosted_.Window(), GWL_STYLE, static_cast<LONG>((style & ~mask) | bits));
-}
-
 void CheckBox::Alignment(std::int32_t alignment)
 {
     alignment_ = alignment;
-    SetStyleBits(BS_LEFT | BS_RIGHT | BS_CENTER, AlignmentBits(alignment));
+    hosted_.SetStyleBits(BS_LEFT | BS_RIGHT | BS_CENTER, AlignmentBits(alignment));
     Refresh();
     PropertyChanged(TEXT("TextAlignment"));
 }
@@ -86,7 +78,7 @@ void CheckBox::Alignment(std::int32_t alignment)
 void CheckBox::MultiLine(bool multiLine)
 {
     multiLine_ = multiLine;
-    SetStyleBits(BS_MULTILINE, multiLine ? BS_MULTILINE : 0);
+    hosted_.SetStyleBits(BS_MULTILINE, multiLine ? BS_MULTILINE : 0);
     Refresh();
     PropertyChanged(TEXT("MultiLine"));
 }

@@ -147,7 +147,7 @@ void TextBox::CreateEdit()
         SendMessageW(lineWindow_.Get(), EM_SETLIMITTEXT, static_cast<WPARAM>(maxLength_), 0);
     if (useClassicTheme_)
         SetWindowTheme(hosted_.Window(), TEXT(""), TEXT(""));
-    SetStyleBit(ES_NUMBER, allowOnlyNumbers_);
+    hosted_.SetStyleBits(ES_NUMBER, allowOnlyNumbers_ ? ES_NUMBER : 0);
     if (locked_)
         hosted_.Send(EM_SETREADONLY, TRUE);
     GetSurface().ForeColor(foreColor_);

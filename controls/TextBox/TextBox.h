@@ -186,7 +186,6 @@ private:
     void CreateEdit();
     void CreateLineWindow();
     void ReleaseEdit();
-    void SetStyleBit(DWORD bit, bool on);
     void TakeFont(const std::shared_ptr<host::Font>& font);
     void ShowFont();
     [[nodiscard]] OleColor CurrentBackColor() const;

@@ -138,14 +138,6 @@ void TextBox::DragDropEnabled(bool enable)
     PropertyChanged(TEXT("DragDropEnabled"));
 }
 
-void TextBox::SetStyleBit(DWORD bit, bool on)
-{
-    if (!hosted_.Window())
-        return;
-    const auto style = static_cast<DWORD>(GetWindowLongW(hosted_.Window(), GWL_STYLE));
-    SetWindowLongW(hosted_.Window(), GWL_STYLE, static_cast<LONG>(on ? style | bit : style & ~bit));
-}
-
 /// The edit refuses other than digits by itself; the other two rules are ours and give way.
 void TextBox::AllowOnlyNumbers(bool only)
 {
@@ -154,7 +146,7 @@ void TextBox::AllowOnlyNumbers(bool only)
         AllowOnlyChars({});
     }
     allowOnlyNumbers_ = only;
-    SetStyleBit(ES_NUMBER, only);
+    hosted_.SetStyleBits(ES_NUMBER, only ? ES_NUMBER : 0);
     PropertyChanged(TEXT("AllowOnlyNumbers"));
 }
 
