@@ -1,9 +1,11 @@
-// Facts about lines, shapes and edges, pixel by pixel.
+// Facts about lines, shapes, edges and bitmaps, pixel by pixel.
+#include "base/String.h"
 #include "tests/conformance/Paper.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <tuple>
 
 namespace {
@@ -12,107 +14,38 @@ using tests::Paper;
 using tests::Select;
 using Rows = Paper::Rows;
 
-void Line(const Paper& paper, POINT from, POINT to)
+BITMAPINFO TwoByTwo(int height)
 {
-    MoveToEx(paper.Dc(), from.x, from.y, nullptr);
-    LineTo(paper.Dc(), to.x, to.y);
+    BITMAPINFO info{};
+    info.bmiHeader = {sizeof(BITMAPINFOHEADER), 2, height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    return info;
 }
 
-TEST(Lines, LeaveOutTheirLastPixel_AndRoundHalvesUpAndLeftInBothDirections)
+/// The blue values of a row's first pixels as digits.
+std::string Digits(const Paper& paper, int row, int count)
 {
-    const Paper paper(22, 9);
-    Line(paper, {0, 0}, {10, 3});
-    Line(paper, {21, 3}, {11, 0});
-    Line(paper, {0, 4}, {2, 8});
-    Line(paper, {5, 8}, {3, 4});
-    Line(paper, {8, 5}, {12, 5});
-    Line(paper, {17, 7}, {13, 7});
-    EXPECT_EQ(paper.Picture(), (Rows{"##..........#.........", "..####.......####.....", "......###........###..", ".........#..........##",
-                                     "#.....................", "#..#....####..........", ".#..#.................", ".#..#.........####....",
-                                     ".....#................"}));
+    std::string digits;
+    for (int x = 0; x < count; ++x)
+        digits += static_cast<char>('0' + GetBValue(paper.At(x, row)));
+    return digits;
 }
 
-TEST(Lines, ThePositionFollows_AndPolylinesLeaveItAlone)
-{
-    const Paper paper(8, 4);
-    Line(paper, {1, 1}, {4, 1});
-    POINT position{};
-    MoveToEx(paper.Dc(), 6, 3, &position);
-    EXPECT_EQ(position.x, 4);
-    EXPECT_EQ(position.y, 1);
-    const POINT corner[]{{0, 0}, {6, 0}, {6, 3}};
-    EXPECT_TRUE(Polyline(paper.Dc(), corner, 3));
-    MoveToEx(paper.Dc(), 0, 0, &position);
-    EXPECT_EQ(position.x, 6);
-    EXPECT_EQ(paper.Picture(), (Rows{"#######.", ".###..#.", "......#.", "........"}));
-}
-
-TEST(Lines, DotsAreThreeLong_AndTwoPixelsWidePensLieBeforeTheLine)
-{
-    const Paper paper(16, 6);
-    const base::PenHandle dots(CreatePen(PS_DOT, 1, 0));
-    const base::PenHandle wide(CreatePen(PS_SOLID, 2, 0));
-    SetBkMode(paper.Dc(), TRANSPARENT);
-    {
-        const Select select(paper.Dc(), dots.Get());
-        Line(paper, {0, 0}, {14, 0});
-    }
-    const Select select(paper.Dc(), wide.Get());
-    Line(paper, {3, 3}, {10, 3});
-    EXPECT_EQ(paper.Picture(), (Rows{"###...###...##..", "................", "..#########.....", "..#########.....", "................",
-                                     "................"}));
-}
-
-TEST(Lines, XorTwice_RestoresThePaper)
-{
-    const Paper paper(6, 1, RGB(10, 20, 30));
-    EXPECT_EQ(SetROP2(paper.Dc(), R2_NOTXORPEN), R2_COPYPEN);
-    Line(paper, {0, 0}, {6, 0});
-    EXPECT_EQ(paper.At(2, 0), RGB(245, 235, 225));
-    Line(paper, {0, 0}, {6, 0});
-    EXPECT_EQ(paper.At(2, 0), RGB(10, 20, 30));
-    EXPECT_EQ(SetROP2(paper.Dc(), 17), 0);
-}
-
-TEST(Shapes, RectanglesExcludeRightAndBottom_AndShrinkWithoutAPen)
-{
-    const Paper paper(18, 5);
-    Rectangle(paper.Dc(), 1, 0, 6, 4);
-    Rectangle(paper.Dc(), 12, 4, 8, 1);
-    const Select brush(paper.Dc(), GetStockObject(BLACK_BRUSH));
-    const Select pen(paper.Dc(), GetStockObject(NULL_PEN));
-    Rectangle(paper.Dc(), 13, 0, 18, 4);
-    EXPECT_EQ(paper.Picture(),
-              (Rows{".#####.......####.", ".#...#..####.####.", ".#...#..#..#.####.", ".#####..####......", ".................."}));
-}
-
-TEST(Shapes, RoundRectIsOnePixelLargerThanItsRegion)
-{
-    const Paper paper(26, 10);
-    {
-        const Select brush(paper.Dc(), GetStockObject(NULL_BRUSH));
-        RoundRect(paper.Dc(), 0, 0, 12, 10, 6, 6);
-    }
-    const base::RegionHandle region(CreateRoundRectRgn(13, 0, 25, 10, 6, 6));
-    FillRgn(paper.Dc(), region.Get(), static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
-    EXPECT_EQ(paper.Picture(),
-              (Rows{"..########.....#######....", ".#........#...#########...", "#..........#.###########..", "#..........#.###########..",
-                    "#..........#.###########..", "#..........#.###########..", "#..........#.###########..", "#..........#..#########...",
-                    ".#........#....#######....", "..########................"}));
-}
-
-TEST(Shapes, PolygonsAreOutlinedOnTheirPoints_AndRegionsLeaveOutRightAndBottom)
+TEST(Shapes, LeaveOutTheirLastPixels)
 {
     const Paper paper(30, 10);
-    const POINT triangle[]{{1, 1}, {12, 1}, {6, 9}};
-    const POINT moved[]{{16, 1}, {27, 1}, {21, 9}};
-    Polygon(paper.Dc(), triangle, 3);
-    const base::RegionHandle region(CreatePolygonRgn(moved, 3, ALTERNATE));
-    FillRgn(paper.Dc(), region.Get(), static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
-    EXPECT_EQ(paper.Picture(), (Rows{"..............................", ".############...###########...", "..#........#.....##########...",
-                                     "..#.......#.......########....", "...#......#.......#######.....", "...#.....#.........#####......",
-                                     "....#...#...........####......", ".....#.#............###.......", ".....#.#.............#........",
-                                     "......#......................."}));
+    MoveToEx(paper.Dc(), 1, 1, nullptr);
+    LineTo(paper.Dc(), 5, 1);
+    POINT position{};
+    MoveToEx(paper.Dc(), 5, 7, &position);
+    EXPECT_EQ(position.x, 5);
+    LineTo(paper.Dc(), 1, 7);
+    const Select brush(paper.Dc(), GetStockObject(NULL_BRUSH));
+    Rectangle(paper.Dc(), 7, 1, 13, 5);
+    RoundRect(paper.Dc(), 14, 0, 26, 10, 6, 6);
+    EXPECT_EQ(paper.Picture(), (Rows{"................########......", ".####..######..#........#.....", ".......#....#.#..........#....",
+                                     ".......#....#.#..........#....", ".......######.#..........#....", "..............#..........#....",
+                                     "..............#..........#....", "..####........#..........#....", "...............#........#.....",
+                                     "................########......"}));
 }
 
 TEST(Edges, EveryCornerHasTheColourOfItsSide)
@@ -126,16 +59,13 @@ TEST(Edges, EveryCornerHasTheColourOfItsSide)
         {EDGE_RAISED, BF_RECT, Light, Dark, High, Shadow},
         {EDGE_SUNKEN, BF_RECT, Shadow, High, Dark, Light},
         {EDGE_ETCHED, BF_RECT, Shadow, High, High, Shadow},
-        {EDGE_BUMP, BF_RECT, Light, Dark, Dark, Light},
-        {EDGE_RAISED, BF_RECT | BF_SOFT, High, Dark, Light, Shadow},
-        {EDGE_SUNKEN, BF_RECT | BF_SOFT, Dark, High, Shadow, Light},
         {EDGE_RAISED, BF_RECT | BF_FLAT, Shadow, Shadow, Face, Face},
     };
     for (const Case& test : cases) {
         SCOPED_TRACE(testing::Message() << "edge " << test.edge << " flags " << test.flags);
         const Paper paper(10, 8, RGB(1, 2, 3));
         RECT box{1, 1, 9, 7};
-        EXPECT_TRUE(DrawEdge(paper.Dc(), &box, test.edge, test.flags | BF_ADJUST));
+        EXPECT_TRUE(DrawEdge(paper.Dc(), &box, test.edge, test.flags));
         for (const auto& [x, y, ink] : {std::tuple{1, 1, test.outerLeftTop},
                                         {8, 1, test.outerRightBottom},
                                         {1, 6, test.outerRightBottom},
@@ -145,40 +75,78 @@ TEST(Edges, EveryCornerHasTheColourOfItsSide)
                                         {2, 5, test.innerRightBottom}})
             EXPECT_EQ(paper.At(x, y), GetSysColor(ink)) << x << ", " << y;
         EXPECT_EQ(paper.At(3, 3), RGB(1, 2, 3));
-        EXPECT_EQ(box.left, 3);
-        EXPECT_EQ(box.bottom, 5);
     }
 }
 
-TEST(Edges, ASideAlone_AndTheMiddle)
-{
-    const Paper paper(6, 4, RGB(1, 2, 3));
-    RECT box{0, 0, 6, 4};
-    DrawEdge(paper.Dc(), &box, BDR_SUNKENOUTER, BF_BOTTOM);
-    EXPECT_EQ(paper.At(0, 3), GetSysColor(COLOR_BTNHIGHLIGHT));
-    EXPECT_EQ(paper.At(0, 0), RGB(1, 2, 3));
-    DrawEdge(paper.Dc(), &box, EDGE_RAISED, BF_RECT | BF_MIDDLE);
-    EXPECT_EQ(paper.At(3, 2), GetSysColor(COLOR_BTNSHADOW));
-    EXPECT_EQ(box.left, 0);
-}
-
-TEST(Rectangles, FrameIsOnePixel_FocusDotsVanishTheSecondTime_AndInvertTurnsColoursOver)
+TEST(Rectangles, FrameIsOnePixel_AndFocusDotsVanishTheSecondTime)
 {
     const Paper paper(10, 5);
     RECT box{1, 0, 6, 4};
     FrameRect(paper.Dc(), &box, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
-    EXPECT_EQ(paper.Picture(), (Rows{".#####....", ".#...#....", ".#...#....", ".#####....", ".........."}));
     const Rows before = paper.Picture();
+    EXPECT_EQ(before, (Rows{".#####....", ".#...#....", ".#...#....", ".#####....", ".........."}));
     const RECT focus{0, 0, 10, 5};
     DrawFocusRect(paper.Dc(), &focus);
     const std::string dots = paper.Picture()[4];
     EXPECT_EQ(std::count(dots.begin(), dots.end(), '#'), 5);
     DrawFocusRect(paper.Dc(), &focus);
     EXPECT_EQ(paper.Picture(), before);
-    InvertRect(paper.Dc(), &box);
-    EXPECT_EQ(paper.Picture()[1], "..###.....");
+    SetViewportOrgEx(paper.Dc(), 7, 1, nullptr);
     FillRect(paper.Dc(), &box, reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_BTNSHADOW + 1)));
-    EXPECT_EQ(paper.At(2, 2), GetSysColor(COLOR_BTNSHADOW));
+    POINT origin{};
+    SetViewportOrgEx(paper.Dc(), 0, 0, &origin);
+    EXPECT_EQ(origin.x, 7);
+    EXPECT_EQ(paper.At(8, 1), GetSysColor(COLOR_BTNSHADOW));
+}
+
+TEST(Bitmaps, PositiveHeightMeansLowestRowFirst)
+{
+    constexpr std::uint32_t kFour[]{1, 2, 3, 4};
+    for (const int height : {2, -2}) {
+        SCOPED_TRACE(height);
+        const Paper paper(5, 4, 0);
+        const BITMAPINFO info = TwoByTwo(height);
+        EXPECT_EQ(StretchDIBits(paper.Dc(), 1, 1, 2, 2, 0, 0, 2, 2, kFour, &info, DIB_RGB_COLORS, SRCCOPY), 2);
+        EXPECT_EQ(Digits(paper, 1, 5), height > 0 ? "03400" : "01200");
+        EXPECT_EQ(Digits(paper, 2, 5), height > 0 ? "01200" : "03400");
+        BitBlt(paper.Dc(), 2, 1, 2, 1, paper.Dc(), 1, 1, SRCCOPY);
+        EXPECT_EQ(Digits(paper, 1, 5), height > 0 ? "03340" : "01120") << "overlap is harmless";
+
+        const base::MemoryDc dc(CreateCompatibleDC(nullptr));
+        void* memory = nullptr;
+        const base::BitmapHandle bitmap(CreateDIBSection(dc.Get(), &info, DIB_RGB_COLORS, &memory, nullptr, 0));
+        ASSERT_TRUE(bitmap);
+        std::copy(std::begin(kFour), std::end(kFour), static_cast<std::uint32_t*>(memory));
+        const Select select(dc.Get(), bitmap.Get());
+        EXPECT_EQ(GetPixel(dc.Get(), 0, 0), height > 0 ? RGB(0, 0, 3) : RGB(0, 0, 1)) << "a section's bits are its pixels";
+    }
+}
+
+TEST(Objects, TellWhatTheyAreMadeOf_AndABitmapFitsOneDeviceContextAtATime)
+{
+    LOGFONTW wanted{};
+    wanted.lfHeight = -11;
+    wanted.lfWeight = FW_BOLD;
+    base::FontHandle font(CreateFontIndirectW(&wanted));
+    LOGFONTW description{};
+    EXPECT_EQ(GetObjectW(font.Get(), sizeof(description), &description), static_cast<int>(sizeof(LOGFONTW)));
+    EXPECT_EQ(description.lfHeight, -11);
+    EXPECT_EQ(description.lfWeight, FW_BOLD);
+    const HFONT stale = font.Get();
+    font.Reset();
+    EXPECT_FALSE(DeleteObject(stale));
+    EXPECT_TRUE(DeleteObject(GetStockObject(WHITE_BRUSH)));
+
+    const base::MemoryDc first(CreateCompatibleDC(nullptr));
+    const base::MemoryDc second(CreateCompatibleDC(nullptr));
+    const base::BitmapHandle bitmap(CreateCompatibleBitmap(first.Get(), 5, 4));
+    BITMAP record{};
+    EXPECT_EQ(GetObjectW(bitmap.Get(), sizeof(record), &record), static_cast<int>(sizeof(record)));
+    EXPECT_EQ(record.bmBitsPixel, 1) << "a fresh device context is monochrome";
+    EXPECT_EQ(record.bmWidth, 5);
+    const Select select(first.Get(), bitmap.Get());
+    EXPECT_EQ(SelectObject(second.Get(), bitmap.Get()), nullptr);
+    EXPECT_EQ(GetCurrentObject(first.Get(), OBJ_BITMAP), static_cast<HGDIOBJ>(bitmap.Get()));
 }
 
 }  // namespace

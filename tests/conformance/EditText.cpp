@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <utility>
 
 namespace {
@@ -76,10 +77,6 @@ TEST_F(Edit, Limit_HoldsForTypingAndReplacingButNotForSetting)
     EXPECT_EQ(SendMessageW(edit, EM_GETLIMITTEXT, 0, 0), 30000);
     SendMessageW(edit, EM_SETLIMITTEXT, 3, 0);
     Type(edit, TEXT("abc"));
-    parent_.Codes();
-    Type(edit, TEXT("d"));
-    EXPECT_EQ(parent_.Codes().front(), EN_MAXTEXT);
-    EXPECT_EQ(TextOf(edit), TEXT("abc"));
     Select(edit, 1, 2);
     Type(edit, TEXT("x"));
     EXPECT_EQ(TextOf(edit), TEXT("axc")) << "what is typed over makes room";
@@ -92,58 +89,40 @@ TEST_F(Edit, Limit_HoldsForTypingAndReplacingButNotForSetting)
     EXPECT_EQ(TextOf(edit), TEXT("longer than three"));
     SendMessageW(edit, EM_SETLIMITTEXT, 0, 0);
     EXPECT_EQ(SendMessageW(edit, EM_GETLIMITTEXT, 0, 0), 0x7FFFFFFE);
-    const HWND multi = Add(ES_MULTILINE);
-    SendMessageW(multi, EM_SETLIMITTEXT, 0, 0);
-    EXPECT_EQ(static_cast<DWORD>(SendMessageW(multi, EM_GETLIMITTEXT, 0, 0)), 0xFFFFFFFFu);
-}
 
-TEST_F(Edit, CharacterThatHasNoRoom_IsNoChange)
-{
-    const HWND edit = Add(ES_AUTOHSCROLL);
-    SendMessageW(edit, EM_SETLIMITTEXT, 1, 0);
-    Type(edit, TEXT("a"));
+    const HWND multi = Add(ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL);
+    SendMessageW(multi, EM_SETLIMITTEXT, 4, 0);
+    Type(multi, TEXT("a\r"));
+    EXPECT_EQ(TextOf(multi), TEXT("a\r\n"));
+    Type(multi, TEXT("\b"));
+    EXPECT_EQ(TextOf(multi), TEXT("a")) << "backspace takes both characters of a line break";
+    SendMessageW(multi, EM_SETLIMITTEXT, 1, 0);
     parent_.Codes();
     KNOWN_GAP("tells of an update and a change although the text stayed");
-    Type(edit, TEXT("b"));
+    Type(multi, TEXT("b"));
     EXPECT_EQ(parent_.Codes(), Codes{EN_MAXTEXT});
 }
 
-TEST_F(Edit, LineBreak_NeedsRoomForBothItsCharacters)
+TEST_F(Edit, Styles_DecideWhatTypingLeaves)
 {
-    const HWND edit = Add(ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL);
-    SendMessageW(edit, EM_SETLIMITTEXT, 4, 0);
-    Type(edit, TEXT("a\r"));
-    EXPECT_EQ(TextOf(edit), TEXT("a\r\n"));
-    Type(edit, TEXT("\b"));
-    EXPECT_EQ(TextOf(edit), TEXT("a")) << "backspace takes both";
-    const HWND single = Add(ES_AUTOHSCROLL);
-    Type(single, TEXT("a\rb"));
-    EXPECT_EQ(TextOf(single), TEXT("ab"));
-}
-
-TEST_F(Edit, NumberStyle_RefusesTypedLettersAndCanBeSwitchedAtAnyTime)
-{
-    const HWND edit = Add(ES_AUTOHSCROLL | ES_NUMBER);
-    Type(edit, TEXT("1a2"));
-    EXPECT_EQ(TextOf(edit), TEXT("12"));
-    SetWindowTextW(edit, TEXT("x"));
-    EXPECT_EQ(TextOf(edit), TEXT("x"));
-    SetWindowLongW(edit, GWL_STYLE, GetWindowLongW(edit, GWL_STYLE) & ~ES_NUMBER);
-    SendMessageW(edit, EM_SETSEL, 0, 0);
-    Type(edit, TEXT("a"));
-    EXPECT_EQ(TextOf(edit), TEXT("ax"));
-}
-
-TEST_F(Edit, CaseStyles_ConvertWhatIsTypedAndSet)
-{
-    const HWND upper = Add(ES_AUTOHSCROLL | ES_UPPERCASE);
-    Type(upper, TEXT("a\u00E0"));
-    EXPECT_EQ(TextOf(upper), TEXT("A\u00C0"));
-    SetWindowTextW(upper, TEXT("mixED"));
-    EXPECT_EQ(TextOf(upper), TEXT("MIXED"));
-    const HWND lower = Add(ES_AUTOHSCROLL | ES_LOWERCASE);
-    Replace(lower, TEXT("MIX\u00C0"));
-    EXPECT_EQ(TextOf(lower), TEXT("mix\u00E0"));
+    const struct {
+        DWORD style;
+        LPCWSTR typed;
+        base::String text;
+    } cases[] = {{ES_NUMBER, TEXT("1a2"), TEXT("12")},
+                 {ES_UPPERCASE, TEXT("a\u00E0"), TEXT("A\u00C0")},
+                 {ES_LOWERCASE, TEXT("MiX\u00C0"), TEXT("mix\u00E0")},
+                 {0, TEXT("a\rb"), TEXT("ab")}};
+    for (const auto& test : cases) {
+        const HWND edit = Add(ES_AUTOHSCROLL | test.style);
+        Type(edit, test.typed);
+        EXPECT_EQ(TextOf(edit), test.text);
+    }
+    const HWND number = Add(ES_AUTOHSCROLL | ES_NUMBER);
+    SetWindowTextW(number, TEXT("x"));
+    SetWindowLongW(number, GWL_STYLE, GetWindowLongW(number, GWL_STYLE) & ~ES_NUMBER);
+    Type(number, TEXT("a"));
+    EXPECT_EQ(TextOf(number), TEXT("ax")) << "setting is free, and the style can be switched at any time";
 }
 
 TEST_F(Edit, ReadOnly_TakesNoTypingButReplacements)
@@ -178,82 +157,39 @@ TEST_F(Edit, Selection_IsOrderedAndHeldInsideTheText)
     EXPECT_EQ(Selection(edit), (std::pair<DWORD, DWORD>(0, 0)));
 }
 
-TEST_F(Edit, ArrowKeys_MoveTheCaret)
-{
-    const HWND edit = Add(ES_AUTOHSCROLL, TEXT("hello"));
-    Select(edit, 2, 2);
-    Press(edit, VK_LEFT);
-    EXPECT_EQ(Selection(edit).first, 1u);
-    Press(edit, VK_END);
-    Press(edit, VK_RIGHT);
-    EXPECT_EQ(Selection(edit).first, 5u);
-    Press(edit, VK_HOME);
-    Press(edit, VK_DELETE);
-    EXPECT_EQ(TextOf(edit), TEXT("ello"));
-    Press(edit, VK_DOWN);
-    EXPECT_EQ(Selection(edit).first, 1u) << "a single line takes down for right";
-    EXPECT_EQ(parent_.Codes(), kChange);
-    const HWND multi = Add(ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL, TEXT("one\r\ntwo\r\nlonger"), 200, 80);
-    Select(multi, 12, 12);
-    Press(multi, VK_UP);
-    Press(multi, VK_HOME);
-    EXPECT_EQ(Selection(multi).first, 5u);
-    Press(multi, VK_LEFT);
-    EXPECT_EQ(Selection(multi).first, 3u) << "a line break is passed in one go";
-    Press(multi, VK_END);
-    EXPECT_EQ(Selection(multi).first, 3u);
-}
-
 TEST_F(Edit, Undo_TakesBackARunOfTypingAndThenItself)
 {
     const HWND edit = Add(ES_AUTOHSCROLL);
+    const auto undone = [&] {
+        SendMessageW(edit, EM_UNDO, 0, 0);
+        return TextOf(edit);
+    };
     EXPECT_FALSE(Is(edit, EM_CANUNDO));
     Type(edit, TEXT("abc"));
     EXPECT_TRUE(Is(edit, EM_CANUNDO));
-    EXPECT_TRUE(Is(edit, EM_UNDO));
-    EXPECT_EQ(TextOf(edit), TEXT(""));
-    SendMessageW(edit, EM_UNDO, 0, 0);
-    EXPECT_EQ(TextOf(edit), TEXT("abc"));
+    EXPECT_EQ(undone(), TEXT(""));
+    EXPECT_EQ(undone(), TEXT("abc"));
     Select(edit, 0, 2);
     Replace(edit, TEXT("xyz"));
-    SendMessageW(edit, EM_UNDO, 0, 0);
-    EXPECT_EQ(TextOf(edit), TEXT("abc"));
-    Select(edit, 0, 1);
-    SendMessageW(edit, WM_CLEAR, 0, 0);
-    EXPECT_EQ(TextOf(edit), TEXT("bc"));
-    SendMessageW(edit, EM_UNDO, 0, 0);
-    EXPECT_EQ(TextOf(edit), TEXT("abc"));
-    EXPECT_EQ(Selection(edit), (std::pair<DWORD, DWORD>(0, 1))) << "what came back is selected";
-}
-
-TEST_F(Edit, Undo_IsToldOnce)
-{
-    const HWND edit = Add(ES_AUTOHSCROLL);
+    EXPECT_EQ(undone(), TEXT("abc"));
+    EXPECT_EQ(Selection(edit), (std::pair<DWORD, DWORD>(0, 2))) << "what came back is selected";
+    const std::function<void()> forgets[] = {[&] { SetWindowTextW(edit, TEXT("b")); }, [&] { Replace(edit, TEXT("c"), false); },
+                                             [&] { SendMessageW(edit, EM_EMPTYUNDOBUFFER, 0, 0); }};
+    for (const auto& forget : forgets) {
+        Type(edit, TEXT("a"));
+        forget();
+        EXPECT_FALSE(Is(edit, EM_CANUNDO));
+    }
     Type(edit, TEXT("abc"));
     parent_.Codes();
-    SendMessageW(edit, EM_UNDO, 0, 0);
     KNOWN_GAP("tells of the change twice");
+    undone();
     EXPECT_EQ(parent_.Codes(), kChange);
-}
-
-TEST_F(Edit, Undo_IsForgottenAfterSettingTextAndSilentReplacing)
-{
-    const HWND edit = Add(ES_AUTOHSCROLL);
-    Type(edit, TEXT("a"));
-    SetWindowTextW(edit, TEXT("b"));
-    EXPECT_FALSE(Is(edit, EM_CANUNDO));
-    Type(edit, TEXT("a"));
-    Replace(edit, TEXT("c"), false);
-    EXPECT_FALSE(Is(edit, EM_CANUNDO));
-    Type(edit, TEXT("d"));
-    SendMessageW(edit, EM_EMPTYUNDOBUFFER, 0, 0);
-    EXPECT_FALSE(Is(edit, EM_CANUNDO));
 }
 
 TEST_F(Edit, ModifyFlag_IsSetByTheUserAndClearedBySettingText)
 {
     const HWND edit = Add(ES_AUTOHSCROLL);
-    EXPECT_FALSE(Is(edit, EM_GETMODIFY));
     Type(edit, TEXT("b"));
     EXPECT_TRUE(Is(edit, EM_GETMODIFY));
     SendMessageW(edit, EM_SETMODIFY, FALSE, 0);
@@ -264,46 +200,52 @@ TEST_F(Edit, ModifyFlag_IsSetByTheUserAndClearedBySettingText)
     EXPECT_FALSE(Is(edit, EM_GETMODIFY));
 }
 
+TEST_F(Edit, Arrows_MoveTheCaret)
+{
+    const struct {
+        LPCWSTR text;
+        INT from;
+        WPARAM key;
+        DWORD to;
+    } cases[] = {{TEXT("hello"), 2, VK_LEFT, 1},      {TEXT("hello"), 2, VK_END, 5},     {TEXT("hello"), 5, VK_RIGHT, 5},
+                 {TEXT("hello"), 2, VK_HOME, 0},      {TEXT("hello"), 0, VK_DOWN, 1},    {TEXT("one\r\ntwo\r\nlonger"), 10, VK_UP, 5},
+                 {TEXT("one\r\ntwo"), 5, VK_LEFT, 3}, {TEXT("one\r\ntwo"), 0, VK_END, 3}};
+    for (const auto& test : cases) {
+        const bool lines = base::StringView(test.text).find(TEXT('\n')) != base::StringView::npos;
+        const HWND edit = Add(ES_AUTOHSCROLL | (lines ? ES_MULTILINE | ES_AUTOVSCROLL : 0), test.text, 200, 80);
+        Select(edit, test.from, test.from);
+        Press(edit, test.key);
+        EXPECT_EQ(Selection(edit).first, test.to) << test.from << ", key " << test.key;
+        EXPECT_EQ(parent_.Codes(), Codes());
+    }
+    const HWND edit = Add(ES_AUTOHSCROLL, TEXT("hello"));
+    Press(edit, VK_DELETE);
+    EXPECT_EQ(TextOf(edit), TEXT("ello"));
+    EXPECT_EQ(parent_.Codes(), kChange);
+}
+
 TEST_F(Edit, CutAndPaste_GoThroughTheClipboard)
 {
     const HWND edit = Add(ES_AUTOHSCROLL, TEXT("hello"));
     Select(edit, 0, 2);
     SendMessageW(edit, WM_CUT, 0, 0);
     EXPECT_EQ(TextOf(edit), TEXT("llo"));
-    Press(edit, VK_END);
     parent_.Codes();
     Type(edit, TEXT("\x16"));  // Ctrl+V
-    EXPECT_EQ(TextOf(edit), TEXT("llohe"));
+    EXPECT_EQ(TextOf(edit), TEXT("hello"));
     EXPECT_EQ(parent_.Codes(), kChange);
-    SendMessageW(edit, EM_UNDO, 0, 0);
-    EXPECT_EQ(TextOf(edit), TEXT("llo"));
-}
 
-TEST_F(Edit, Password_DoesNotReachTheClipboard)
-{
-    const HWND edit = Add(ES_AUTOHSCROLL, TEXT("open"));
-    Select(edit, 0, -1);
-    SendMessageW(edit, WM_COPY, 0, 0);
     const HWND password = Add(ES_AUTOHSCROLL | ES_PASSWORD, TEXT("secret"));
+    const auto standard = SendMessageW(password, EM_GETPASSWORDCHAR, 0, 0);
+    EXPECT_TRUE(standard == 0x25CF || standard == '*') << standard;
     Select(password, 0, -1);
     KNOWN_GAP("copies and cuts passwords when it is asked by message");
     SendMessageW(password, WM_COPY, 0, 0);
     SendMessageW(password, WM_CUT, 0, 0);
     EXPECT_EQ(TextOf(password), TEXT("secret"));
+    SetWindowTextW(edit, TEXT(""));
     SendMessageW(edit, WM_PASTE, 0, 0);
-    EXPECT_EQ(TextOf(edit), TEXT("open"));
-}
-
-TEST_F(Edit, PasswordCharacter_ComesWithTheStyleAndCanBeChanged)
-{
-    const HWND edit = Add(ES_AUTOHSCROLL | ES_PASSWORD, TEXT("x"));
-    const auto standard = SendMessageW(edit, EM_GETPASSWORDCHAR, 0, 0);
-    EXPECT_TRUE(standard == 0x25CF || standard == '*') << standard;
-    SendMessageW(edit, EM_SETPASSWORDCHAR, '#', 0);
-    EXPECT_EQ(SendMessageW(edit, EM_GETPASSWORDCHAR, 0, 0), '#');
-    SendMessageW(edit, EM_SETPASSWORDCHAR, 0, 0);
-    EXPECT_FALSE(GetWindowLongW(edit, GWL_STYLE) & ES_PASSWORD);
-    EXPECT_EQ(TextOf(edit), TEXT("x"));
+    EXPECT_EQ(TextOf(edit), TEXT("he"));
 }
 
 TEST_F(Edit, ColorsAreAskedAsEditWhileItCanBeTypedInto)
@@ -315,19 +257,6 @@ TEST_F(Edit, ColorsAreAskedAsEditWhileItCanBeTypedInto)
     SendMessageW(edit, EM_SETREADONLY, FALSE, 0);
     EnableWindow(edit, FALSE);
     EXPECT_EQ(parent_.ColorsAskedBy(edit), std::vector<UINT>{WM_CTLCOLORSTATIC});
-}
-
-TEST_F(Edit, Focus_IsToldAndWantsAllArrowKeys)
-{
-    const HWND first = Add(ES_AUTOHSCROLL);
-    const HWND second = Add(ES_MULTILINE);
-    SetFocus(first);
-    EXPECT_EQ(parent_.Codes(), Codes{EN_SETFOCUS});
-    SetFocus(second);
-    EXPECT_EQ(parent_.Codes(), (Codes{EN_KILLFOCUS, EN_SETFOCUS}));
-    const LRESULT code = SendMessageW(first, WM_GETDLGCODE, 0, 0);
-    EXPECT_EQ(code, DLGC_WANTARROWS | DLGC_WANTCHARS | DLGC_HASSETSEL);
-    EXPECT_TRUE(SendMessageW(second, WM_GETDLGCODE, 0, 0) & DLGC_WANTALLKEYS);
 }
 
 }  // namespace

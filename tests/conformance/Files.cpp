@@ -1,4 +1,4 @@
-// Facts about files: how they open, the position, and the access check on a folder of the user's own.
+// Facts about files: why they do not open, and the access check on a folder of the user's own.
 #include "base/Handles.h"
 #include "tests/support/ScratchFolder.h"
 
@@ -38,28 +38,6 @@ TEST(Files, Opening_TellsWhyItFails)
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_SHARING_VIOLATION));
 }
 
-TEST(Files, Position_MovesWithReadingAndCanBeSet)
-{
-    tests::ScratchFolder folder;
-    const FileHandle file = Open(folder.Write(TEXT("a.txt"), "0123456789"), GENERIC_READ, OPEN_EXISTING);
-    LARGE_INTEGER size{};
-    ASSERT_TRUE(GetFileSizeEx(file.Get(), &size));
-    EXPECT_EQ(size.QuadPart, 10);
-    LARGE_INTEGER distance{};
-    distance.QuadPart = 8;
-    LARGE_INTEGER position{};
-    ASSERT_TRUE(SetFilePointerEx(file.Get(), distance, &position, FILE_BEGIN));
-    char buffer[8] = {};
-    DWORD read = 0;
-    ASSERT_TRUE(ReadFile(file.Get(), buffer, sizeof buffer, &read, nullptr));
-    EXPECT_EQ(std::string(buffer, read), "89");
-    EXPECT_TRUE(ReadFile(file.Get(), buffer, sizeof buffer, &read, nullptr)) << "reading at the end is no error";
-    EXPECT_EQ(read, 0u);
-    DWORD written = 9;
-    EXPECT_FALSE(WriteFile(file.Get(), buffer, 1, &written, nullptr));
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_ACCESS_DENIED));
-}
-
 TEST(Files, AccessCheck_GrantsTheUsersOwnFolder)
 {
     tests::ScratchFolder folder;
@@ -90,21 +68,6 @@ TEST(Files, AccessCheck_GrantsTheUsersOwnFolder)
     EXPECT_TRUE(status);
     EXPECT_EQ(granted, wanted);
     EXPECT_TRUE(RevertToSelf());
-}
-
-TEST(Drives, AreListedWithAZeroEachAndHaveADeviceName)
-{
-    char drives[260] = {};
-    const DWORD length = GetLogicalDriveStringsA(sizeof drives, drives);
-    ASSERT_GE(length, 4u);
-    EXPECT_EQ(length % 4, 0u);
-    EXPECT_NE(std::string(drives, length).find(std::string("C:\\\0", 4)), std::string::npos);
-    WCHAR device[261] = {};
-    const DWORD count = QueryDosDeviceW(TEXT("C:"), device, 260);
-    ASSERT_GT(count, 2u);
-    EXPECT_EQ(String(device).size(), count - 2) << "one name, its zero and the list's zero";
-    EXPECT_EQ(String(device).substr(0, 8), String(TEXT("\\Device\\")));
-    EXPECT_EQ(QueryDosDeviceW(TEXT("!:"), device, 260), 0u);
 }
 
 }  // namespace

@@ -8,11 +8,11 @@ namespace {
 
 using tests::MessageLog;
 
-std::vector<UINT> Take(UINT first = 0, UINT last = 0)
+std::vector<UINT> Take()
 {
     std::vector<UINT> taken;
     MSG message;
-    while (PeekMessageW(&message, nullptr, first, last, PM_REMOVE)) {
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
         taken.push_back(message.message);
         if (message.message == WM_PAINT)
             ValidateRect(message.hwnd, nullptr);
@@ -37,39 +37,6 @@ TEST(MessageQueue, PostedComeBeforeQuitBeforePaint)
     EXPECT_FALSE(PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) << "WM_QUIT comes once";
     PostMessageW(window, WM_QUIT, 3, 0);
     EXPECT_FALSE(GetMessageW(&message, nullptr, 0, 0)) << "a posted one ends the loop as well";
-}
-
-TEST(MessageQueue, Filters_LeaveTheRestWaiting)
-{
-    MessageLog log;
-    const HWND one = log.Create("one", WS_POPUP);
-    const HWND child = log.Create("child", WS_CHILD, one);
-    const HWND other = log.Create("other", WS_POPUP);
-    PostMessageW(other, WM_APP + 1, 0, 0);
-    PostMessageW(child, WM_APP + 2, 0, 0);
-    PostMessageW(nullptr, WM_APP + 3, 0, 0);
-    MSG message;
-    EXPECT_TRUE(PeekMessageW(&message, one, 0, 0, PM_NOREMOVE));
-    EXPECT_EQ(message.hwnd, child) << "a window's children belong to it";
-    EXPECT_EQ(Take(WM_APP + 3, WM_APP + 3), (std::vector<UINT>{WM_APP + 3}));
-    DestroyWindow(other);
-    EXPECT_EQ(Take(WM_APP, WM_APP + 9), (std::vector<UINT>{WM_APP + 2})) << "what waited for a dead window is gone";
-}
-
-TEST(MessageQueue, DeadWindow_RefusesMessages)
-{
-    MessageLog log;
-    const HWND window = log.Create("top", WS_POPUP);
-    DestroyWindow(window);
-    DWORD_PTR result = 5;
-    SetLastError(0);
-    EXPECT_FALSE(PostMessageW(window, WM_APP, 0, 0));
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_WINDOW_HANDLE));
-    EXPECT_EQ(SendMessageW(window, WM_APP, 0, 0), 0);
-    SetLastError(0);
-    EXPECT_EQ(SendMessageTimeoutW(window, WM_APP, 0, 0, SMTO_NORMAL, 100, &result), 0);
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_WINDOW_HANDLE));
-    EXPECT_FALSE(SendNotifyMessageW(window, WM_APP, 0, 0));
 }
 
 TEST(Timer, FiresAfterEachPeriodAndOnlyWhenNothingElseWaits)
@@ -99,28 +66,6 @@ TEST(Timer, FiresAfterEachPeriodAndOnlyWhenNothingElseWaits)
     EXPECT_EQ(std::count(taken.begin(), taken.end(), static_cast<UINT>(WM_TIMER)), 1);
     DestroyWindow(window);
     EXPECT_EQ(Take(), std::vector<UINT>{}) << "timers go with their window";
-}
-
-int called = 0;
-
-void CALLBACK CountCall(HWND, UINT, UINT_PTR, DWORD)
-{
-    ++called;
-}
-
-TEST(Timer, Callback_IsCalledInsteadOfTheWindow)
-{
-    MessageLog log;
-    const HWND window = log.Create("top", WS_POPUP);
-    log.Clear();
-    called = 0;
-    SetTimer(window, 1, 20, CountCall);
-    const UINT_PTR own = SetTimer(nullptr, 0, 20, CountCall);
-    EXPECT_NE(own, 0u);
-    tests::PumpMessages(30);
-    EXPECT_EQ(called, 2);
-    EXPECT_TRUE(log.Is({}));
-    EXPECT_TRUE(KillTimer(nullptr, own));
 }
 
 TEST(MessageQueue, Waiting_EndsWithWhatIsAskedFor)

@@ -1,6 +1,5 @@
 // Facts about the shell's path functions.
 #include "base/String.h"
-#include "tests/support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 #include <shlobj.h>
@@ -68,31 +67,6 @@ TEST(PathFunctions, InPlaceChanges)
     };
     for (const auto& test : cases)
         EXPECT_EQ(After(test.before, test.change), test.after) << Narrow(test.before);
-}
-
-TEST(PathFunctions, FilesAndFolders_AreToldApart)
-{
-    tests::ScratchFolder folder;
-    const String file = folder.Write(TEXT("Here.txt"), "x");
-    const String inOtherCase = folder.Path() + TEXT("hERE.TXT");
-    EXPECT_EQ(PathFileExistsW(inOtherCase.c_str()), TRUE);
-    EXPECT_FALSE(PathIsDirectoryW(file.c_str()));
-    EXPECT_NE(PathIsDirectoryW(folder.Path().c_str()), FALSE);
-    EXPECT_TRUE(PathFileExistsW(folder.Path().c_str()));
-    EXPECT_FALSE(PathFileExistsW((folder.Path() + TEXT("absent")).c_str()));
-    EXPECT_FALSE(PathFileExistsW(TEXT("")));
-}
-
-TEST(PathFunctions, SHCreateDirectory_MakesEveryMissingFolderOfAnAbsolutePath)
-{
-    tests::ScratchFolder folder;
-    const String deep = folder.Path() + TEXT("a\\b\\c");
-    EXPECT_EQ(SHCreateDirectoryExW(nullptr, deep.c_str(), nullptr), ERROR_SUCCESS);
-    EXPECT_NE(PathIsDirectoryW(deep.c_str()), FALSE);
-    EXPECT_EQ(SHCreateDirectoryExW(nullptr, deep.c_str(), nullptr), ERROR_ALREADY_EXISTS);
-    EXPECT_EQ(SHCreateDirectoryExW(nullptr, TEXT("relative\\path"), nullptr), ERROR_BAD_PATHNAME);
-    for (const LPCWSTR part : {TEXT("a\\b\\c"), TEXT("a\\b"), TEXT("a")})
-        EXPECT_TRUE(RemoveDirectoryW((folder.Path() + part).c_str()));
 }
 
 TEST(PathFunctions, SpecialFolders_ExistAndEndWithoutABackslash)

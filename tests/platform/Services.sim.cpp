@@ -66,19 +66,6 @@ TEST_F(Services, StartAndStop_PassThroughPendingStatesInTheirOwnTime)
     EXPECT_EQ(Stop(), DWORD{ERROR_SERVICE_NOT_ACTIVE});
 }
 
-TEST_F(Services, StartThatFails_EndsStoppedWithItsError)
-{
-    services_.Install(u"Velmora", kPath).startFailure = ERROR_SERVICE_REQUEST_TIMEOUT;
-    EXPECT_EQ(Start(), DWORD{NO_ERROR});
-    pc_.Advance(1000);
-    SERVICE_STATUS status{};
-    ASSERT_TRUE(QueryServiceStatus(Open(SERVICE_QUERY_STATUS).Get(), &status));
-    EXPECT_EQ(status.dwCurrentState, DWORD{SERVICE_STOPPED});
-    EXPECT_EQ(status.dwWin32ExitCode, DWORD{ERROR_SERVICE_REQUEST_TIMEOUT});
-    pc_.Get<platform::Volumes>().Remove(u"C:\\Tools\\Velmora.exe");
-    EXPECT_EQ(Start(), DWORD{ERROR_FILE_NOT_FOUND});
-}
-
 TEST_F(Services, Accounts_MustBeKnownWhenCreatedAndFitWhenStarted)
 {
     EXPECT_EQ(Create(u"OFFICE\\nobody", u""), DWORD{ERROR_INVALID_SERVICE_ACCOUNT});
@@ -92,16 +79,6 @@ TEST_F(Services, Accounts_MustBeKnownWhenCreatedAndFitWhenStarted)
     EXPECT_EQ(Create(u"LocalSystem", u""), DWORD{NO_ERROR});
     pc_.Get<platform::Users>().AddAccount(u".\\helper", u"x");
     EXPECT_TRUE(pc_.Get<platform::Users>().PasswordFits(u"studio\\Helper", u"x")) << "a dot is this computer";
-}
-
-TEST_F(Services, WithoutAdministrator_OnlyLookingIsAllowed)
-{
-    services_.Install(u"Velmora", kPath);
-    pc_.Get<platform::Users>().Administrator(false);
-    EXPECT_EQ(Create(u"LocalSystem", u""), DWORD{ERROR_ACCESS_DENIED});
-    EXPECT_TRUE(Open(SERVICE_QUERY_STATUS | SERVICE_QUERY_CONFIG));
-    EXPECT_FALSE(Open(SERVICE_ALL_ACCESS));
-    EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
 }
 
 TEST_F(Services, DeletedWhileRunning_GoesWhenItHasStoppedAndNobodyHoldsIt)

@@ -77,25 +77,6 @@ TEST_F(TooltipTime, Tip_GoesAfterItsTimeAndStaysAwayUntilTheMouseComesBack)
     EXPECT_TRUE(Shown());
 }
 
-TEST_F(TooltipTime, Tip_GoesWhenTheMouseLeavesOrPresses)
-{
-    desktop_.Hover(tool_, 10, 10);
-    pc_.Advance(600);
-    ASSERT_TRUE(Shown());
-    desktop_.Hover(parent_.Window(), 300, 300);
-    pc_.Advance(200);
-    EXPECT_FALSE(Shown());
-    desktop_.Hover(tool_, 10, 10);
-    pc_.Advance(600);
-    ASSERT_TRUE(Shown());
-    desktop_.MouseDown();
-    EXPECT_FALSE(Shown());
-    desktop_.MouseUp();
-    DestroyWindow(tooltip_);
-    desktop_.Hover(tool_, 15, 10);
-    pc_.Advance(1000);
-}
-
 TEST_F(TooltipTime, CenteredTip_StandsBelowTheMiddleOfItsTool)
 {
     AddTool(TTF_SUBCLASS | TTF_CENTERTIP);

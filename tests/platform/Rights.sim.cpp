@@ -1,19 +1,15 @@
-// Scenes of the stand-in PC: registry views, denied keys, volumes without access-control lists, folders that are not the user's.
+// Scenes of the stand-in PC: denied keys, folders that are not the user's.
 #include "base/Handles.h"
-#include "platform/sim/Folders.h"
-#include "platform/sim/Machine.h"
 #include "platform/sim/Registry.h"
 #include "platform/sim/Users.h"
 #include "platform/sim/Volumes.h"
 
 #include <gtest/gtest.h>
-#include <psapi.h>
 
 namespace {
 
 using platform::Registry;
 using platform::SimPc;
-using platform::TextValue;
 
 constexpr LPCWSTR kRun = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
 
@@ -25,24 +21,6 @@ LSTATUS WriteRun(REGSAM access)
         return error;
     const WCHAR text[] = u"x";
     return RegSetValueExW(key.Get(), u"Velmora", 0, REG_SZ, reinterpret_cast<const BYTE*>(text), sizeof text);
-}
-
-TEST(RegistryViews, Under32BitEmulation_TheFlagDecidesWhichRunKeyIsMeant)
-{
-    SimPc& pc = SimPc::Current();
-    const Registry& registry = pc.Get<Registry>();
-    EXPECT_EQ(WriteRun(KEY_ALL_ACCESS), ERROR_SUCCESS);
-    EXPECT_TRUE(registry.Get(HKEY_LOCAL_MACHINE, kRun, u"velmora", Registry::View::Bits64));
-    EXPECT_FALSE(registry.Get(HKEY_LOCAL_MACHINE, kRun, u"Velmora", Registry::View::Bits32));
-
-    pc.Get<platform::Machine>().Wow64(true);
-    pc.Get<Registry>().Remove(HKEY_LOCAL_MACHINE, kRun, u"Velmora");
-    EXPECT_EQ(WriteRun(KEY_ALL_ACCESS), ERROR_SUCCESS);
-    EXPECT_FALSE(registry.Get(HKEY_LOCAL_MACHINE, kRun, u"Velmora", Registry::View::Bits64));
-    EXPECT_EQ(registry.Get(HKEY_LOCAL_MACHINE, u"SOFTWARE\\WOW6432Node\\Microsoft\\Windows\\CurrentVersion\\Run", u"Velmora"),
-              TextValue(u"x"));
-    EXPECT_EQ(WriteRun(KEY_ALL_ACCESS | KEY_WOW64_64KEY), ERROR_SUCCESS);
-    EXPECT_EQ(registry.GetText(HKEY_LOCAL_MACHINE, kRun, u"Velmora"), u"x");
 }
 
 TEST(RegistryRights, DeniedKeyOrUserWithoutRights_GetsErrorFive)
@@ -83,28 +61,6 @@ TEST(VolumeRights, ReadOnlyFolder_RefusesNewFilesAndWritesForThatUserOnly)
     EXPECT_FALSE(WritePrivateProfileStringW(u"Settings", u"Port", u"2", file));
     EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
     EXPECT_EQ(volumes.ReadFile(file), "[Settings]\r\nPwd=AYWJj\r\nPort=1\r\n");
-}
-
-TEST(VolumeRights, VolumeWithoutLists_SaysSoAndRefusesNobody)
-{
-    SimPc& pc = SimPc::Current();
-    auto& volumes = pc.Get<platform::Volumes>();
-    volumes.AddVolume(u"E:\\", false);
-    volumes.AddVolume(u"\\\\server\\share\\");
-    volumes.MakeFolder(u"E:\\Tools");
-    volumes.MakeReadOnly(u"E:\\Tools");
-    DWORD flags = 0;
-    WCHAR name[16] = {};
-    ASSERT_TRUE(GetVolumeInformationW(u"E:\\", nullptr, 0, nullptr, nullptr, &flags, name, 16));
-    EXPECT_EQ(flags & FILE_PERSISTENT_ACLS, 0u);
-    EXPECT_EQ(std::u16string(name), u"FAT32");
-    EXPECT_TRUE(CreateDirectoryW(u"e:\\tools\\New", nullptr));
-    ASSERT_TRUE(GetVolumeInformationW(u"\\\\SERVER\\share\\", nullptr, 0, nullptr, nullptr, &flags, nullptr, 0));
-    EXPECT_NE(flags & FILE_PERSISTENT_ACLS, 0u);
-    EXPECT_FALSE(GetVolumeInformationW(u"F:\\", nullptr, 0, nullptr, nullptr, &flags, nullptr, 0));
-    char drives[16] = {};
-    EXPECT_EQ(GetLogicalDriveStringsA(sizeof drives, drives), 8u) << "a network share is no drive";
-    EXPECT_EQ(GetLogicalDriveStringsA(4, drives), 9u);
 }
 
 }  // namespace
