@@ -23,7 +23,6 @@
 #define CSIDL_FLAG_CREATE 0x8000
 
 BOOL WINAPI SHGetSpecialFolderPathW(HWND window, LPWSTR path, INT folder, BOOL create);
-INT WINAPI SHCreateDirectoryExW(HWND window, LPCWSTR path, const SECURITY_ATTRIBUTES* security);
 HRESULT WINAPI SHCreateStdEnumFmtEtc(UINT count, const FORMATETC* formats, IEnumFORMATETC** enumerator);
 // IsNTAdmin lives in advpack.dll and is declared in advpub.h.
 

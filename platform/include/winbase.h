@@ -137,7 +137,6 @@ BOOL WINAPI TerminateThread(HANDLE thread, DWORD code);
 DWORD WINAPI SuspendThread(HANDLE thread);
 DWORD WINAPI ResumeThread(HANDLE thread);
 HANDLE WINAPI CreateMutexW(LPSECURITY_ATTRIBUTES security, BOOL initialOwner, LPCWSTR name);
-BOOL WINAPI ReleaseMutex(HANDLE mutex);
 DWORD WINAPI WaitForSingleObject(HANDLE object, DWORD milliseconds);
 
 // ---- Modules ----

@@ -238,8 +238,6 @@ struct BITMAPFILEHEADER {
 
 HDC WINAPI CreateCompatibleDC(HDC dc);
 BOOL WINAPI DeleteDC(HDC dc);
-int WINAPI SaveDC(HDC dc);
-BOOL WINAPI RestoreDC(HDC dc, int saved);
 int WINAPI GetDeviceCaps(HDC dc, int index);
 COLORREF WINAPI SetBkColor(HDC dc, COLORREF color);
 COLORREF WINAPI GetBkColor(HDC dc);
@@ -247,11 +245,7 @@ COLORREF WINAPI SetTextColor(HDC dc, COLORREF color);
 COLORREF WINAPI GetTextColor(HDC dc);
 int WINAPI SetBkMode(HDC dc, int mode);
 int WINAPI GetBkMode(HDC dc);
-int WINAPI SetROP2(HDC dc, int rop2);
-UINT WINAPI SetTextAlign(HDC dc, UINT align);
 BOOL WINAPI SetViewportOrgEx(HDC dc, int x, int y, LPPOINT before);
-BOOL WINAPI OffsetViewportOrgEx(HDC dc, int x, int y, LPPOINT before);
-COLORREF WINAPI GetNearestColor(HDC dc, COLORREF color);
 
 // ---- Objects ----
 
@@ -259,7 +253,6 @@ HGDIOBJ WINAPI SelectObject(HDC dc, HGDIOBJ object);
 BOOL WINAPI DeleteObject(HGDIOBJ object);
 HGDIOBJ WINAPI GetStockObject(int index);
 HGDIOBJ WINAPI GetCurrentObject(HDC dc, UINT type);
-DWORD WINAPI GetObjectType(HGDIOBJ object);
 int WINAPI GetObjectW(HANDLE object, int size, LPVOID buffer);
 HPEN WINAPI CreatePen(int style, int width, COLORREF color);
 HBRUSH WINAPI CreateSolidBrush(COLORREF color);
@@ -271,28 +264,18 @@ HFONT WINAPI CreateFontW(int height, int width, int escapement, int orientation,
 // ---- Bitmaps ----
 
 HBITMAP WINAPI CreateCompatibleBitmap(HDC dc, int width, int height);
-HBITMAP WINAPI CreateBitmap(int width, int height, UINT planes, UINT bitsPerPixel, const VOID* bits);
 HBITMAP WINAPI CreateDIBSection(HDC dc, const BITMAPINFO* info, UINT usage, VOID** bits, HANDLE section, DWORD offset);
-int WINAPI GetDIBits(HDC dc, HBITMAP bitmap, UINT start, UINT lines, LPVOID bits, LPBITMAPINFO info, UINT usage);
-int WINAPI SetDIBitsToDevice(HDC dc, int x, int y, DWORD width, DWORD height, int xSource, int ySource, UINT startScan, UINT lines,
-                             const VOID* bits, const BITMAPINFO* info, UINT usage);
 int WINAPI StretchDIBits(HDC dc, int x, int y, int width, int height, int xSource, int ySource, int widthSource, int heightSource,
                          const VOID* bits, const BITMAPINFO* info, UINT usage, DWORD rop);
 BOOL WINAPI BitBlt(HDC dc, int x, int y, int width, int height, HDC source, int xSource, int ySource, DWORD rop);
-BOOL WINAPI StretchBlt(HDC dc, int x, int y, int width, int height, HDC source, int xSource, int ySource, int widthSource, int heightSource,
-                       DWORD rop);
-BOOL WINAPI PatBlt(HDC dc, int x, int y, int width, int height, DWORD rop);
 COLORREF WINAPI SetPixel(HDC dc, int x, int y, COLORREF color);
 BOOL WINAPI SetPixelV(HDC dc, int x, int y, COLORREF color);
 COLORREF WINAPI GetPixel(HDC dc, int x, int y);
-BOOL WINAPI GdiFlush();
 
 // ---- Lines and shapes ----
 
 BOOL WINAPI MoveToEx(HDC dc, int x, int y, LPPOINT before);
 BOOL WINAPI LineTo(HDC dc, int x, int y);
-BOOL WINAPI Polyline(HDC dc, const POINT* points, int count);
-BOOL WINAPI Polygon(HDC dc, const POINT* points, int count);
 BOOL WINAPI Rectangle(HDC dc, int left, int top, int right, int bottom);
 BOOL WINAPI RoundRect(HDC dc, int left, int top, int right, int bottom, int width, int height);
 
@@ -300,21 +283,10 @@ BOOL WINAPI RoundRect(HDC dc, int left, int top, int right, int bottom, int widt
 
 HRGN WINAPI CreateRectRgn(int left, int top, int right, int bottom);
 HRGN WINAPI CreateRoundRectRgn(int left, int top, int right, int bottom, int width, int height);
-HRGN WINAPI CreatePolygonRgn(const POINT* points, int count, int fillMode);
-int WINAPI CombineRgn(HRGN target, HRGN first, HRGN second, int mode);
-int WINAPI OffsetRgn(HRGN region, int x, int y);
-int WINAPI GetRgnBox(HRGN region, LPRECT box);
 BOOL WINAPI PtInRegion(HRGN region, int x, int y);
-BOOL WINAPI EqualRgn(HRGN first, HRGN second);
-BOOL WINAPI FillRgn(HDC dc, HRGN region, HBRUSH brush);
-int WINAPI SelectClipRgn(HDC dc, HRGN region);
-int WINAPI ExcludeClipRect(HDC dc, int left, int top, int right, int bottom);
-int WINAPI IntersectClipRect(HDC dc, int left, int top, int right, int bottom);
-int WINAPI GetClipBox(HDC dc, LPRECT box);
 
 // ---- Text ----
 
-BOOL WINAPI TextOutW(HDC dc, int x, int y, LPCWSTR text, int length);
 BOOL WINAPI GetTextExtentPoint32W(HDC dc, LPCWSTR text, int length, LPSIZE size);
 BOOL WINAPI GetTextMetricsW(HDC dc, LPTEXTMETRICW metrics);
 int WINAPI EnumFontFamiliesExW(HDC dc, LOGFONTW* font, FONTENUMPROCW callback, LPARAM parameter, DWORD flags);

@@ -163,16 +163,12 @@ BOOL WINAPI DestroyWindow(HWND window);
 BOOL WINAPI IsWindow(HWND window);
 BOOL WINAPI IsChild(HWND parent, HWND window);
 HWND WINAPI GetParent(HWND window);
-HWND WINAPI SetParent(HWND window, HWND parent);
 HWND WINAPI GetAncestor(HWND window, UINT which);
 HWND WINAPI GetWindow(HWND window, UINT relation);
 LONG WINAPI GetWindowLongW(HWND window, int index);
 LONG WINAPI SetWindowLongW(HWND window, int index, LONG value);
 LONG_PTR WINAPI GetWindowLongPtrW(HWND window, int index);
 LONG_PTR WINAPI SetWindowLongPtrW(HWND window, int index, LONG_PTR value);
-BOOL WINAPI SetPropW(HWND window, LPCWSTR name, HANDLE data);
-HANDLE WINAPI GetPropW(HWND window, LPCWSTR name);
-HANDLE WINAPI RemovePropW(HWND window, LPCWSTR name);
 BOOL WINAPI SetWindowTextW(HWND window, LPCWSTR text);
 int WINAPI GetWindowTextW(HWND window, LPWSTR text, int capacity);
 int WINAPI GetWindowTextLengthW(HWND window);
@@ -283,7 +279,6 @@ BOOL WINAPI SetForegroundWindow(HWND window);
 BOOL WINAPI AllowSetForegroundWindow(DWORD process);
 BOOL WINAPI LockSetForegroundWindow(UINT lock);
 BOOL WINAPI LockWorkStation();
-HWND WINAPI SetActiveWindow(HWND window);
 HWND WINAPI GetActiveWindow();
 BOOL WINAPI AttachThreadInput(DWORD attach, DWORD attachTo, BOOL doAttach);
 HWND WINAPI SetFocus(HWND window);
@@ -517,7 +512,6 @@ using LPNMHDR = NMHDR*;
 
 LRESULT WINAPI SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT WINAPI SendMessageTimeoutW(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT flags, UINT timeout, DWORD_PTR* result);
-BOOL WINAPI SendNotifyMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 BOOL WINAPI PostMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 void WINAPI PostQuitMessage(int exitCode);
 BOOL WINAPI GetMessageW(LPMSG message, HWND window, UINT first, UINT last);
@@ -919,14 +913,11 @@ struct ICONINFO {
 
 int WINAPI FillRect(HDC dc, const RECT* rectangle, HBRUSH brush);
 int WINAPI FrameRect(HDC dc, const RECT* rectangle, HBRUSH brush);
-BOOL WINAPI InvertRect(HDC dc, const RECT* rectangle);
 BOOL WINAPI DrawFocusRect(HDC dc, const RECT* rectangle);
 BOOL WINAPI DrawEdge(HDC dc, LPRECT rectangle, UINT edge, UINT flags);
 int WINAPI DrawTextW(HDC dc, LPCWSTR text, int length, LPRECT rectangle, UINT format);
 BOOL WINAPI DrawStateW(HDC dc, HBRUSH brush, DRAWSTATEPROC callback, LPARAM data, WPARAM dataLength, int x, int y, int width, int height,
                        UINT flags);
-BOOL WINAPI DrawIconEx(HDC dc, int x, int y, HICON icon, int width, int height, UINT step, HBRUSH flickerFree, UINT flags);
-HICON WINAPI CreateIconIndirect(ICONINFO* info);
 BOOL WINAPI GetIconInfo(HICON icon, ICONINFO* info);
 
 // Rectangles.
@@ -1148,4 +1139,3 @@ struct MSGBOXPARAMSW {
 using LPMSGBOXPARAMSW = MSGBOXPARAMSW*;
 
 int WINAPI MessageBoxIndirectW(const MSGBOXPARAMSW* parameters);
-int WINAPI MessageBoxW(HWND owner, LPCWSTR text, LPCWSTR caption, UINT type);

@@ -89,7 +89,7 @@ public:
     };
     [[nodiscard]] std::vector<Family>& Families() { return families_; }
 
-    /// Text that was drawn by TextOutW, DrawTextW, DrawStateW and DrawThemeText since `ForgetTexts`, in order.
+    /// Text that was drawn by DrawTextW, DrawStateW and DrawThemeText since `ForgetTexts`, in order.
     struct DrawnText {
         std::u16string text;
         RECT cell;  // in the pixels of the image

@@ -12,8 +12,6 @@ class Region {
 public:
     Region() = default;
     explicit Region(const RECT& rectangle);
-    /// The pixels whose centres lie inside the polygon.
-    static Region Polygon(std::span<const POINT> points, bool winding = false);
     /// The ellipse inside a rectangle (right and bottom excluded).
     static Region Ellipse(const RECT& rectangle);
     /// A rectangle with corners of an ellipse of the given width and height.
@@ -22,7 +20,6 @@ public:
     [[nodiscard]] Region Union(const Region& other) const;
     [[nodiscard]] Region Intersect(const Region& other) const;
     [[nodiscard]] Region Subtract(const Region& other) const;
-    [[nodiscard]] Region Xor(const Region& other) const { return Subtract(other).Union(other.Subtract(*this)); }
     [[nodiscard]] Region Offset(int dx, int dy) const;
 
     [[nodiscard]] bool Contains(POINT point) const;

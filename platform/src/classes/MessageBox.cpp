@@ -61,12 +61,3 @@ int WINAPI MessageBoxIndirectW(const MSGBOXPARAMSW* parameters)
                                         parameters->dwStyle, parameters->hwndOwner, userIcon ? NameOf(parameters->lpszIcon) : u"",
                                         userIcon ? parameters->hInstance : nullptr, parameters->dwLanguageId});
 }
-
-int WINAPI MessageBoxW(HWND owner, LPCWSTR text, LPCWSTR caption, UINT type)
-{
-    SIM_CALL(0, ERROR_NOT_ENOUGH_MEMORY, owner, text, caption, type);
-    SimPc& pc = SimPc::Current();
-    if (owner && !WindowOf(owner))
-        return pc.Fail(ERROR_INVALID_WINDOW_HANDLE, 0);
-    return pc.Get<MessageBoxes>().Show({caption ? TextOf(caption) : u"Error", TextOf(text), type, owner, {}, nullptr, 0});
-}

@@ -26,16 +26,6 @@ DWORD MakeOneFolder(Volumes& volumes, std::u16string_view path)
     return NO_ERROR;
 }
 
-DWORD MakeFoldersAlong(Volumes& volumes, std::u16string_view path)
-{
-    const DWORD error = MakeOneFolder(volumes, path);
-    const std::size_t slash = path.rfind(u'\\');
-    if (error != ERROR_PATH_NOT_FOUND || slash == std::u16string_view::npos || slash < 3)
-        return error;
-    const DWORD above = MakeFoldersAlong(volumes, path.substr(0, slash));
-    return above == NO_ERROR || above == ERROR_ALREADY_EXISTS ? MakeOneFolder(volumes, path) : above;
-}
-
 bool IsOpen(const FileNode& node)
 {
     return std::any_of(node.opens.begin(), node.opens.end(), [](const auto& open) { return !open.expired(); });
@@ -99,21 +89,4 @@ BOOL WINAPI DeleteFileW(LPCWSTR name)
     SIM_CALL(FALSE, ERROR_ACCESS_DENIED, name);
     SimPc& pc = SimPc::Current();
     return Report(pc, Delete(pc.Get<Volumes>(), OrEmpty(name), false));
-}
-
-INT WINAPI SHCreateDirectoryExW(HWND, LPCWSTR path, const SECURITY_ATTRIBUTES*)
-{
-    SIM_CALL(static_cast<INT>(SimPc::Current().LastError()), ERROR_ACCESS_DENIED, path);
-    SimPc& pc = SimPc::Current();
-    std::u16string_view whole = OrEmpty(path);
-    const bool absolute = whole.starts_with(u"\\\\") || (whole.size() > 2 && whole[1] == u':' && whole[2] == u'\\');
-    if (!absolute)
-        return ERROR_BAD_PATHNAME;
-    while (whole.size() > 3 && whole.ends_with(u'\\'))
-        whole.remove_suffix(1);
-    DWORD error = MakeFoldersAlong(pc.Get<Volumes>(), whole);
-    if (error == ERROR_ALREADY_EXISTS && pc.Get<Volumes>().IsFile(whole))
-        error = ERROR_FILE_EXISTS;
-    pc.LastError(error);
-    return static_cast<INT>(error);
 }

@@ -73,13 +73,6 @@ bool UsesSource(DWORD rop)
 
 }  // namespace
 
-BOOL WINAPI PatBlt(HDC dc, int x, int y, int width, int height, DWORD rop)
-{
-    SIM_NOTE(dc, x, y, width, height, rop);
-    const auto context = FindDc(dc);
-    return context && !UsesSource(rop) && FillByRop(*context, Block(x, y, width, height), rop);
-}
-
 BOOL WINAPI BitBlt(HDC dc, int x, int y, int width, int height, HDC source, int xSource, int ySource, DWORD rop)
 {
     SIM_CALL(FALSE, ERROR_INVALID_HANDLE, dc, x, y, width, height, source, xSource, ySource, rop);
@@ -93,19 +86,6 @@ BOOL WINAPI BitBlt(HDC dc, int x, int y, int width, int height, HDC source, int 
         return FALSE;
     StretchPixels(*context, context->ToImage(Block(x, y, width, height)), from->Target(),
                   from->ToImage(Block(xSource, ySource, width, height)), rop, from->state.backColor);
-    return TRUE;
-}
-
-BOOL WINAPI StretchBlt(HDC dc, int x, int y, int width, int height, HDC source, int xSource, int ySource, int widthSource, int heightSource,
-                       DWORD rop)
-{
-    SIM_CALL(FALSE, ERROR_INVALID_HANDLE, dc, x, y, width, height, source, xSource, ySource, widthSource, heightSource, rop);
-    const auto context = FindDc(dc);
-    const auto from = FindDc(source);
-    if (!context || !from)
-        return FALSE;
-    StretchPixels(*context, context->ToImage(Block(x, y, width, height)), from->Target(),
-                  from->ToImage(Block(xSource, ySource, widthSource, heightSource)), rop, from->state.backColor);
     return TRUE;
 }
 
@@ -142,10 +122,4 @@ COLORREF WINAPI GetPixel(HDC dc, int x, int y)
         return CLR_INVALID;
     const POINT at = context->ToImage(POINT{x, y});
     return context->Clip().Contains(at) ? SwapRedBlue(context->Target().At(at.x, at.y)) : CLR_INVALID;
-}
-
-BOOL WINAPI GdiFlush()
-{
-    SIM_NOTE();
-    return TRUE;
 }

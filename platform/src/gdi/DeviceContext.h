@@ -13,7 +13,7 @@ namespace platform {
 
 class DeviceContext : public Object {
 public:
-    /// What SaveDC keeps.
+    /// What the program selects and sets.
     struct State {
         Selected<Pen> pen;
         Selected<Brush> brush;
@@ -23,7 +23,6 @@ public:
         COLORREF backColor = RGB(255, 255, 255);
         int backMode = OPAQUE;
         int rop2 = R2_COPYPEN;
-        UINT textAlign = TA_LEFT | TA_TOP;
         POINT position{};
         POINT viewport{};
         std::optional<Region> clip;  // of the program, in device coordinates
@@ -35,7 +34,6 @@ public:
     DeviceContext(Graphics& graphics, std::shared_ptr<Image> pixels, POINT origin, Region visible, HWND window);
 
     State state;
-    std::vector<State> saved;
 
     [[nodiscard]] bool IsMemory() const { return memory_; }
     [[nodiscard]] HWND Window() const { return window_; }

@@ -22,33 +22,6 @@ BOOL WINAPI DeleteDC(HDC dc)
     return context && context->IsMemory() && SimPc::Current().Get<Graphics>().CloseDc(dc);
 }
 
-int WINAPI SaveDC(HDC dc)
-{
-    SIM_CALL(0, ERROR_NOT_ENOUGH_MEMORY, dc);
-    const auto context = FindDc(dc);
-    if (!context)
-        return 0;
-    context->saved.push_back(context->state);
-    return static_cast<int>(context->saved.size());
-}
-
-BOOL WINAPI RestoreDC(HDC dc, int saved)
-{
-    SIM_NOTE(dc, saved);
-    const auto context = FindDc(dc);
-    if (!context)
-        return FALSE;
-    const int level = saved < 0 ? static_cast<int>(context->saved.size()) + 1 + saved : saved;
-    if (level < 1 || level > static_cast<int>(context->saved.size()))
-        return SimPc::Current().Fail(ERROR_INVALID_PARAMETER, FALSE);
-    context->state = context->saved[static_cast<std::size_t>(level) - 1];
-    context->saved.resize(static_cast<std::size_t>(level) - 1);
-    if (context->IsMemory())
-        context->SelectBitmap(static_cast<HBITMAP>(context->state.bitmap.Handle()), context->state.bitmap.Get());
-    context->ClipChanged();
-    return TRUE;
-}
-
 int WINAPI GetDeviceCaps(HDC dc, int index)
 {
     SIM_NOTE(dc, index);
@@ -151,34 +124,8 @@ int WINAPI GetBkMode(HDC dc)
     return Read(dc, &DeviceContext::State::backMode, 0);
 }
 
-int WINAPI SetROP2(HDC dc, int rop2)
-{
-    SIM_NOTE(dc, rop2);
-    return rop2 < R2_BLACK || rop2 > R2_WHITE ? 0 : Exchange(dc, &DeviceContext::State::rop2, rop2, 0);
-}
-
-UINT WINAPI SetTextAlign(HDC dc, UINT align)
-{
-    SIM_NOTE(dc, align);
-    return Exchange(dc, &DeviceContext::State::textAlign, align, GDI_ERROR);
-}
-
 BOOL WINAPI SetViewportOrgEx(HDC dc, int x, int y, LPPOINT before)
 {
     SIM_NOTE(dc, x, y);
     return SetPoint(dc, &DeviceContext::State::viewport, {x, y}, before);
-}
-
-BOOL WINAPI OffsetViewportOrgEx(HDC dc, int x, int y, LPPOINT before)
-{
-    SIM_NOTE(dc, x, y);
-    const POINT old = Read(dc, &DeviceContext::State::viewport, POINT{});
-    return SetPoint(dc, &DeviceContext::State::viewport, {old.x + x, old.y + y}, before);
-}
-
-COLORREF WINAPI GetNearestColor(HDC dc, COLORREF color)
-{
-    SIM_NOTE(dc, color);
-    const auto context = FindDc(dc);
-    return context ? SwapRedBlue(context->PixelOf(color)) : CLR_INVALID;
 }

@@ -33,18 +33,6 @@ std::uint32_t ReadPixel(const BITMAPINFO& info, const BYTE* row, int x)
     return PixelOf(PaletteOf(info)[index]);
 }
 
-void WritePixel(int bitCount, BYTE* row, int x, std::uint32_t pixel)
-{
-    if (bitCount == 1) {
-        const BYTE mask = static_cast<BYTE>(0x80 >> x % 8);
-        row[x / 8] = static_cast<BYTE>(pixel & 0xFFFFFF ? row[x / 8] | mask : row[x / 8] & ~mask);
-        return;
-    }
-    BYTE* const at = row + x * (bitCount / 8);
-    for (int byte = 0; byte < bitCount / 8; ++byte)
-        at[byte] = static_cast<BYTE>(pixel >> 8 * byte);
-}
-
 }  // namespace
 
 std::optional<Image> DecodeDib(const BITMAPINFO& info, const void* bits)
@@ -62,25 +50,6 @@ std::optional<Image> DecodeDib(const BITMAPINFO& info, const void* bits)
             image.At(x, y) = ReadPixel(info, start, x);
     }
     return image;
-}
-
-int EncodeDib(const Image& image, const BITMAPINFO& info, unsigned start, unsigned lines, void* bits)
-{
-    const BITMAPINFOHEADER& header = info.bmiHeader;
-    const int bitCount = header.biBitCount;
-    if (header.biCompression != BI_RGB || (bitCount != 1 && bitCount != 24 && bitCount != 32))
-        return 0;
-    const int height = std::abs(header.biHeight);
-    const int count = std::min(static_cast<int>(lines), height - static_cast<int>(start));
-    for (int line = 0; line < count; ++line) {
-        const int row = static_cast<int>(start) + line;
-        const int y = header.biHeight > 0 ? height - 1 - row : row;
-        BYTE* const target = static_cast<BYTE*>(bits) + static_cast<std::size_t>(line) * DibRowBytes(header.biWidth, bitCount);
-        for (int x = 0; x < header.biWidth; ++x)
-            if (image.Holds(x, y))
-                WritePixel(bitCount, target, x, image.At(x, y));
-    }
-    return std::max(count, 0);
 }
 
 }  // namespace platform

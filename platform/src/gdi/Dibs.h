@@ -12,9 +12,6 @@ namespace platform {
 /// The picture that `bits` hold, its top row first; empty for a form that the PC does not know (packed or palette-indexed colours, 16
 /// bits).
 [[nodiscard]] std::optional<Image> DecodeDib(const BITMAPINFO& info, const void* bits);
-/// Writes the rows of `image` (counted as the header orders them, from `start` on) in the header's form: 1, 24 or 32 bits a pixel.
-/// Returns the number of rows, 0 for a form that the PC does not know.
-[[nodiscard]] int EncodeDib(const Image& image, const BITMAPINFO& info, unsigned start, unsigned lines, void* bits);
 
 /// Bytes of one row; rows begin at multiples of four.
 [[nodiscard]] constexpr std::size_t DibRowBytes(int width, int bitsPerPixel)

@@ -52,26 +52,3 @@ int WINAPI FrameRect(HDC dc, const RECT* rectangle, HBRUSH brush)
     PaintFrame(*context, *rectangle, *found);
     return 1;
 }
-
-BOOL WINAPI InvertRect(HDC dc, const RECT* rectangle)
-{
-    SIM_NOTE(dc, rectangle);
-    const auto context = FindDc(dc);
-    if (!context || !rectangle)
-        return FALSE;
-    context->ForEach(Ordered(context->ToImage(*rectangle)), [](int, int, std::uint32_t& pixel) { pixel ^= 0xFFFFFF; });
-    return TRUE;
-}
-
-BOOL WINAPI FillRgn(HDC dc, HRGN region, HBRUSH brush)
-{
-    SIM_NOTE(dc, region, brush);
-    const auto context = FindDc(dc);
-    const auto area = SimPc::Current().Handles().Find<RegionObject>(region);
-    const auto found = FindBrush(brush);
-    if (!context || !area || !found)
-        return FALSE;
-    const POINT origin = context->ToImage(POINT{0, 0});
-    context->Fill(area->region.Offset(origin.x, origin.y), *found, R2_COPYPEN);
-    return TRUE;
-}

@@ -91,7 +91,6 @@ bool Graphics::CloseDc(HDC dc)
         return false;
     // Somebody who still draws may keep the device context alive; what it holds is free from now on.
     found->state = {};
-    found->saved.clear();
     std::erase_if(windowDcs_, [dc](const auto& entry) { return entry.second == dc; });
     return pc_.Handles().Close<DeviceContext>(dc);
 }

@@ -27,24 +27,6 @@ void PaintIcon(DeviceContext& dc, const Icon& icon, const RECT& rectangle)
 
 }  // namespace platform
 
-HICON WINAPI CreateIconIndirect(ICONINFO* info)
-{
-    SIM_CALL(nullptr, ERROR_NOT_ENOUGH_MEMORY, info);
-    SimPc& pc = SimPc::Current();
-    const auto mask = info ? pc.Handles().Find<Bitmap>(info->hbmMask) : nullptr;
-    const auto color = info ? pc.Handles().Find<Bitmap>(info->hbmColor) : nullptr;
-    if (!mask || !color || mask->image->width != color->image->width || mask->image->height < color->image->height)
-        return pc.Fail(ERROR_INVALID_PARAMETER, HICON{});
-    auto icon = std::make_shared<Icon>();
-    icon->color = color->image->Part(color->image->Bounds());
-    icon->isIcon = info->fIcon != FALSE;
-    icon->hotSpot = {static_cast<LONG>(info->xHotspot), static_cast<LONG>(info->yHotspot)};
-    for (int y = 0; y < icon->color.height; ++y)
-        for (int x = 0; x < icon->color.width; ++x)
-            icon->opaque.push_back((mask->image->At(x, y) & 0xFFFFFF) == 0);
-    return OpenObject<HICON>(std::move(icon));
-}
-
 BOOL WINAPI GetIconInfo(HICON icon, ICONINFO* info)
 {
     SIM_CALL(FALSE, ERROR_NOT_ENOUGH_MEMORY, icon);
@@ -64,26 +46,5 @@ BOOL WINAPI GetIconInfo(HICON icon, ICONINFO* info)
     info->yHotspot = static_cast<DWORD>(found->hotSpot.y);
     info->hbmMask = OpenObject<HBITMAP>(std::move(mask));
     info->hbmColor = OpenObject<HBITMAP>(std::move(color));
-    return TRUE;
-}
-
-BOOL WINAPI DrawIconEx(HDC dc, int x, int y, HICON icon, int width, int height, UINT step, HBRUSH flickerFree, UINT flags)
-{
-    SIM_NOTE(dc, x, y, icon, width, height, step, flickerFree, flags);
-    SimPc& pc = SimPc::Current();
-    const auto context = FindDc(dc);
-    const auto found = pc.Handles().Find<Icon>(icon);
-    if (!context || !found)
-        return pc.Fail(ERROR_INVALID_HANDLE, FALSE);
-    if ((flags & DI_NORMAL) != DI_NORMAL || flickerFree) {
-        pc.Unsupported("DrawIconEx: flags " + std::to_string(flags));
-        return FALSE;
-    }
-    const int standard = flags & DI_DEFAULTSIZE ? 32 : 0;
-    if (width == 0)
-        width = standard ? standard : found->color.width;
-    if (height == 0)
-        height = standard ? standard : found->color.height;
-    PaintIcon(*context, *found, {x, y, x + width, y + height});
     return TRUE;
 }

@@ -81,12 +81,6 @@ void StrokeLine(DeviceContext& dc, const Pen& pen, POINT from, POINT to)
     dc.Fill(trace, brush, rop2);
 }
 
-void StrokePolyline(DeviceContext& dc, const Pen& pen, std::span<const POINT> points)
-{
-    for (std::size_t index = 0; index + 1 < points.size(); ++index)
-        StrokeLine(dc, pen, points[index], points[index + 1]);
-}
-
 void StrokeOutline(DeviceContext& dc, const Pen& pen, const Region& region)
 {
     if (pen.style == PS_NULL)
@@ -124,18 +118,5 @@ BOOL WINAPI LineTo(HDC dc, int x, int y)
         return FALSE;
     StrokeLine(*context, *context->state.pen.Get(), context->ToImage(context->state.position), context->ToImage(POINT{x, y}));
     context->state.position = {x, y};
-    return TRUE;
-}
-
-BOOL WINAPI Polyline(HDC dc, const POINT* points, int count)
-{
-    SIM_NOTE(dc, points, count);
-    const auto context = FindDc(dc);
-    if (!context || count < 2)
-        return FALSE;
-    std::vector<POINT> path;
-    for (int index = 0; index < count; ++index)
-        path.push_back(context->ToImage(points[index]));
-    StrokePolyline(*context, *context->state.pen.Get(), path);
     return TRUE;
 }

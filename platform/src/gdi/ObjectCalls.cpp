@@ -128,26 +128,6 @@ BOOL WINAPI DeleteObject(HGDIOBJ object)
     return found->selections == 0 && pc.Handles().Close<GdiObject>(object);
 }
 
-DWORD WINAPI GetObjectType(HGDIOBJ object)
-{
-    SIM_NOTE(object);
-    SimPc& pc = SimPc::Current();
-    const auto found = pc.Handles().FindAny(reinterpret_cast<std::uintptr_t>(object));
-    if (dynamic_cast<Pen*>(found.get()))
-        return OBJ_PEN;
-    if (dynamic_cast<Brush*>(found.get()))
-        return OBJ_BRUSH;
-    if (dynamic_cast<Font*>(found.get()))
-        return OBJ_FONT;
-    if (dynamic_cast<Bitmap*>(found.get()))
-        return OBJ_BITMAP;
-    if (dynamic_cast<RegionObject*>(found.get()))
-        return OBJ_REGION;
-    if (const auto* const dc = dynamic_cast<DeviceContext*>(found.get()))
-        return dc->IsMemory() ? OBJ_MEMDC : OBJ_DC;
-    return pc.Fail(ERROR_INVALID_HANDLE, 0u);
-}
-
 HGDIOBJ WINAPI GetCurrentObject(HDC dc, UINT type)
 {
     SIM_NOTE(dc, type);

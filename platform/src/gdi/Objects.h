@@ -12,7 +12,7 @@
 namespace platform {
 
 struct GdiObject : Object {
-    /// How many device contexts (and their saved states) it is selected into.
+    /// How many device contexts it is selected into.
     int selections = 0;
     bool stock = false;
 };

@@ -1,4 +1,4 @@
-// Region: polygons, ellipses and rounded rectangles as rows of pixels.
+// Region: ellipses and rounded rectangles as rows of pixels.
 #include "platform/sim/Region.h"
 
 #include <algorithm>
@@ -20,48 +20,6 @@ LONG EllipseInset(int width, int height, int row)
 }
 
 }  // namespace
-
-Region Region::Polygon(std::span<const POINT> points, bool winding)
-{
-    if (points.size() < 2)
-        return {};
-    const auto [low, high] = std::minmax_element(points.begin(), points.end(), [](const POINT& a, const POINT& b) { return a.y < b.y; });
-    Region result;
-    for (LONG y = low->y; y < high->y; ++y) {
-        struct Crossing {
-            LONG x;
-            int direction;
-        };
-        std::vector<Crossing> crossings;
-        for (std::size_t index = 0; index < points.size(); ++index) {
-            POINT from = points[index];
-            POINT to = points[(index + 1) % points.size()];
-            const int direction = from.y < to.y ? 1 : -1;
-            if (direction < 0)
-                std::swap(from, to);
-            if (y < from.y || y >= to.y)
-                continue;
-            const double x = from.x + static_cast<double>(y - from.y) * (to.x - from.x) / (to.y - from.y);
-            crossings.push_back({static_cast<LONG>(std::ceil(x)), direction});
-        }
-        std::sort(crossings.begin(), crossings.end(), [](const Crossing& a, const Crossing& b) { return a.x < b.x; });
-        std::vector<LONG> edges;
-        int turns = 0;
-        for (const Crossing& crossing : crossings) {
-            const bool before = turns != 0;
-            turns = winding ? turns + crossing.direction : 1 - turns;
-            if (const bool now = turns != 0; now == before)
-                continue;
-            // Spans that touch or are empty melt together.
-            if (!edges.empty() && edges.back() == crossing.x)
-                edges.pop_back();
-            else
-                edges.push_back(crossing.x);
-        }
-        result.AppendBand(y, y + 1, edges);
-    }
-    return result;
-}
 
 Region Region::WithCorners(const RECT& rectangle, int cornerWidth, int cornerHeight)
 {

@@ -54,18 +54,3 @@ BOOL WINAPI RoundRect(HDC dc, int left, int top, int right, int bottom, int widt
     Draw(*context, Region::RoundRect(PixelsOfShape(*context, {left, top, right, bottom}), width, height));
     return TRUE;
 }
-
-BOOL WINAPI Polygon(HDC dc, const POINT* points, int count)
-{
-    SIM_NOTE(dc, points, count);
-    const auto context = FindDc(dc);
-    if (!context || count < 2)
-        return FALSE;
-    std::vector<POINT> path;
-    for (int index = 0; index < count; ++index)
-        path.push_back(context->ToImage(points[index]));
-    context->Fill(Region::Polygon(path), *context->state.brush.Get(), context->state.rop2);
-    path.push_back(path.front());
-    StrokePolyline(*context, *context->state.pen.Get(), path);
-    return TRUE;
-}

@@ -51,45 +51,7 @@ void PaintLine(DeviceContext& dc, const Typeface& face, POINT at, std::u16string
         dc.Fill(clipped({cell.left, at.y + face.Ascent() * 2 / 3, cell.right, at.y + face.Ascent() * 2 / 3 + 1}), color);
 }
 
-namespace {
-
-/// Draws at the reference point as the text alignment says, and moves the current position when it is to be updated.
-void PlaceLine(DeviceContext& dc, POINT at, std::u16string_view text)
-{
-    const Typeface face = TypefaceOf(dc);
-    const UINT align = dc.state.textAlign;
-    if (align & TA_UPDATECP)
-        at = dc.state.position;
-    const int width = face.Width(text);
-    POINT place = dc.ToImage(at);
-    if ((align & TA_CENTER) == TA_CENTER)
-        place.x -= width / 2;
-    else if (align & TA_RIGHT)
-        place.x -= width;
-    if ((align & TA_BASELINE) == TA_BASELINE)
-        place.y -= face.Ascent();
-    else if (align & TA_BOTTOM)
-        place.y -= face.Height();
-    if (align & TA_UPDATECP)
-        dc.state.position.x += align & TA_RIGHT && (align & TA_CENTER) != TA_CENTER ? -width : width;
-    SimPc::Current().Get<Graphics>().AddText(
-        {std::u16string(text), {place.x, place.y, place.x + width, place.y + face.Height()}, dc.state.textColor, dc.Window()});
-    PaintLine(dc, face, place, text, dc.state.textColor);
-}
-
-}  // namespace
-
 }  // namespace platform
-
-BOOL WINAPI TextOutW(HDC dc, int x, int y, LPCWSTR text, int length)
-{
-    SIM_NOTE(dc, x, y, Counted(text, length).c_str(), length);
-    const auto context = FindDc(dc);
-    if (!context || (!text && length > 0) || length < 0)
-        return FALSE;
-    PlaceLine(*context, {x, y}, {text, static_cast<std::size_t>(length)});
-    return TRUE;
-}
 
 BOOL WINAPI GetTextExtentPoint32W(HDC dc, LPCWSTR text, int length, LPSIZE size)
 {

@@ -244,12 +244,6 @@ HWND WINAPI GetFocus()
     return inner::GetFocus();
 }
 
-HWND WINAPI SetActiveWindow(HWND window)
-{
-    SIM_CALL(nullptr, ERROR_INVALID_WINDOW_HANDLE, window);
-    return inner::SetActiveWindow(window);
-}
-
 HWND WINAPI GetActiveWindow()
 {
     SIM_NOTE();

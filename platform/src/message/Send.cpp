@@ -98,18 +98,6 @@ LRESULT WINAPI SendMessageTimeoutW(HWND window, UINT message, WPARAM wParam, LPA
     return 1;
 }
 
-BOOL WINAPI SendNotifyMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    SIM_CALL(FALSE, ERROR_INVALID_WINDOW_HANDLE, window, message, wParam, lParam);
-    const WindowPtr found = RequireWindow(window);
-    if (!found)
-        return FALSE;
-    if (found->actor != SimPc::Current().CurrentActor())
-        return inner::PostMessage(window, message, wParam, lParam);
-    inner::SendMessage(window, message, wParam, lParam);
-    return TRUE;
-}
-
 BOOL WINAPI PostMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     SIM_CALL(FALSE, ERROR_INVALID_WINDOW_HANDLE, window, message, wParam, lParam);

@@ -75,17 +75,3 @@ HANDLE WINAPI CreateMutexW(LPSECURITY_ATTRIBUTES, BOOL initialOwner, LPCWSTR nam
     pc.LastError(existed ? ERROR_ALREADY_EXISTS : NO_ERROR);
     return OpenHandle(pc, handle);
 }
-
-BOOL WINAPI ReleaseMutex(HANDLE mutex)
-{
-    SIM_NOTE(mutex);
-    SimPc& pc = SimPc::Current();
-    const auto handle = pc.Handles().Find<MutexHandle>(mutex);
-    if (!handle)
-        return pc.Fail(ERROR_INVALID_HANDLE, FALSE);
-    if (handle->mutex->owner != pc.CurrentActor().thread)
-        return pc.Fail(ERROR_NOT_OWNER, FALSE);
-    if (--handle->mutex->depth == 0)
-        handle->mutex->owner = 0;
-    return TRUE;
-}

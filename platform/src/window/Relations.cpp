@@ -124,34 +124,6 @@ HWND WINAPI GetParent(HWND window)
     return inner::GetParent(window);
 }
 
-HWND WINAPI SetParent(HWND window, HWND parent)
-{
-    SIM_CALL(nullptr, ERROR_INVALID_WINDOW_HANDLE, window, parent);
-    SimPc& pc = SimPc::Current();
-    const WindowPtr found = RequireWindow(window);
-    const WindowPtr above = parent ? RequireWindow(parent) : Tree().Desktop().shared_from_this();
-    if (!found || !above)
-        return nullptr;
-    if (above == found || above->IsBelow(found.get()))
-        return pc.Fail<HWND>(ERROR_INVALID_PARAMETER, nullptr);
-    const bool wasShown = inner::ShowWindow(window, SW_HIDE) != FALSE;
-    if (!WindowOf(window))
-        return nullptr;
-    const POINT oldOrigin = OriginOf(*found);
-    const POINT place{found->frame.left - oldOrigin.x, found->frame.top - oldOrigin.y};
-    Window* before = found->parent;
-    const HWND result = HandleOf(before);
-    Tree().Move(*found, *above);
-    found->pixels = nullptr;
-    if (found->IsTopLevel())
-        FitPixels(*found);
-    // It keeps its place relative to the window above it.
-    inner::SetWindowPos(window, HWND_TOP, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
-    if (wasShown && WindowOf(window))
-        inner::ShowWindow(window, SW_SHOWNA);
-    return result;
-}
-
 HWND WINAPI GetAncestor(HWND window, UINT which)
 {
     SIM_NOTE(window, which);

@@ -57,7 +57,6 @@ struct Window final : Object, std::enable_shared_from_this<Window> {
     std::u16string text;
     HICON bigIcon = nullptr;
     HICON smallIcon = nullptr;
-    std::map<std::u16string, HANDLE, std::less<>> properties;
     UINT uiState = 0;  // UISF_HIDE... bits
 
     Region invalid;  // what has to be painted, from the window's corner

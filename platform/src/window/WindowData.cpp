@@ -1,4 +1,4 @@
-// What is kept with a window: style, procedure, identifier, extra bytes, properties, text.
+// What is kept with a window: style, procedure, identifier, extra bytes, text.
 #include "platform/src/core/Gate.h"
 #include "platform/src/message/MessageQueues.h"
 #include "platform/src/window/Inner.h"
@@ -169,34 +169,6 @@ LONG_PTR WINAPI SetWindowLongPtrW(HWND window, int index, LONG_PTR value)
 {
     SIM_CALL(0, ERROR_INVALID_WINDOW_HANDLE, window, index, value);
     return Write(window, index, value, sizeof(LONG_PTR));
-}
-
-BOOL WINAPI SetPropW(HWND window, LPCWSTR name, HANDLE data)
-{
-    SIM_CALL(FALSE, ERROR_NOT_ENOUGH_MEMORY, window, name, data);
-    const WindowPtr found = RequireWindow(window);
-    if (!found)
-        return FALSE;
-    found->properties[name] = data;
-    return TRUE;
-}
-
-HANDLE WINAPI GetPropW(HWND window, LPCWSTR name)
-{
-    SIM_NOTE(window, name);
-    const WindowPtr found = RequireWindow(window);
-    const auto property = found ? found->properties.find(std::u16string_view(name)) : decltype(found->properties.end()){};
-    return found && property != found->properties.end() ? property->second : nullptr;
-}
-
-HANDLE WINAPI RemovePropW(HWND window, LPCWSTR name)
-{
-    SIM_NOTE(window, name);
-    const WindowPtr found = RequireWindow(window);
-    if (!found)
-        return nullptr;
-    const auto node = found->properties.extract(name);
-    return node ? node.mapped() : nullptr;
 }
 
 // A window of the own process is asked by message; what another process shows is read from where the system keeps it.
