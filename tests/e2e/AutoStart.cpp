@@ -13,13 +13,13 @@ TEST_F(EndToEnd, AutoStart_EachChoiceOfSwitchesGivesItsExactText)
         const bool sound = choice & 2;
         Utility utility(exe_);
         ASSERT_TRUE(utility.Opened());
-        utility.Click(Place::CheckAutoStart);
-        ASSERT_TRUE(Eventually([&] { return utility.Enabled(Place::CheckHideTrayIcon) && utility.Enabled(Place::CheckSoundStart); }));
+        utility.Click("CheckAutoStart");
+        ASSERT_TRUE(Eventually([&] { return utility.Enabled("CheckHideTrayIcon") && utility.Enabled("CheckSoundStart"); }));
         if (hide)
-            utility.Click(Place::CheckHideTrayIcon);
+            utility.Click("CheckHideTrayIcon");
         if (sound)
-            utility.Click(Place::CheckSoundStart);
-        utility.Click(Place::CommandOk);
+            utility.Click("CheckSoundStart");
+        utility.Click("CommandOk");
         ASSERT_TRUE(utility.Ended());
         EXPECT_EQ(AutoStartValue(), quoted + (hide ? TEXT(" /Hidden") : TEXT("")) + (sound ? TEXT(" /SoundStart") : TEXT("")));
     }
@@ -31,43 +31,22 @@ TEST_F(EndToEnd, AutoStart_PresentValueIsShownAndLocksTheServicePanel)
     ASSERT_TRUE(InstallService(agent_, SERVICE_DEMAND_START));
     Utility utility(exe_);
     ASSERT_TRUE(utility.Opened());
-    for (const Place place : {Place::CheckAutoStart, Place::CheckHideTrayIcon, Place::CheckSoundStart}) {
-        EXPECT_TRUE(utility.Checked(place)) << FORM_MAP[static_cast<int>(place)].name;
-        EXPECT_TRUE(utility.Enabled(place)) << FORM_MAP[static_cast<int>(place)].name;
-    }
-    const auto locked = [&] {
-        for (const Place place :
-             {Place::FrameService, Place::cmdInstall, Place::cmdStart, Place::ComboStartup, Place::chkSystem, Place::txtAccount}) {
-            if (utility.Enabled(place))
-                return false;
-        }
-        return true;
+    const auto unlocked = [&] {
+        for (const char* name : {"FrameService", "cmdInstall", "cmdStart", "ComboStartup", "chkSystem", "txtAccount"})
+            if (utility.Enabled(name))
+                return true;
+        return !utility.Checked("CheckAutoStart");
     };
-    EXPECT_TRUE(locked());
     // The panel's timer stands still: it would put "Auto start" off, for there is a service.
-    EXPECT_TRUE(Throughout(SERVICE_TICK, [&] { return locked() && utility.Checked(Place::CheckAutoStart); }));
-}
+    EXPECT_FALSE(Eventually(unlocked, SERVICE_TICK));
+    for (const char* name : {"CheckAutoStart", "CheckHideTrayIcon", "CheckSoundStart"})
+        EXPECT_TRUE(utility.Checked(name) && utility.Enabled(name)) << name;
 
-TEST_F(EndToEnd, AutoStart_UntickingRemovesTheValueEvenWithSwitchesTicked)
-{
-    SetAutoStartValue(TEXT("\"") + agent_ + TEXT("\" /Hidden"));
-    Utility utility(exe_);
-    ASSERT_TRUE(utility.Opened());
-    utility.Click(Place::CheckAutoStart);
-    ASSERT_TRUE(Eventually([&] { return !utility.Enabled(Place::CheckHideTrayIcon); }));
-    EXPECT_TRUE(utility.Checked(Place::CheckHideTrayIcon));
-    utility.Click(Place::CommandOk);
-    ASSERT_TRUE(utility.Ended());
-    EXPECT_EQ(AutoStartValue(), std::nullopt);
-}
-
-TEST_F(EndToEnd, AutoStart_ClosingWithoutOkChangesNothing)
-{
-    Utility utility(exe_);
-    ASSERT_TRUE(utility.Opened());
-    utility.Click(Place::CheckAutoStart);
-    ASSERT_TRUE(Eventually([&] { return utility.Checked(Place::CheckAutoStart); }));
-    utility.Press({VK_ESCAPE});
+    // Unticking removes the value, whatever the boxes below say.
+    utility.Click("CheckAutoStart");
+    ASSERT_TRUE(Eventually([&] { return !utility.Enabled("CheckHideTrayIcon"); }));
+    EXPECT_TRUE(utility.Checked("CheckHideTrayIcon"));
+    utility.Click("CommandOk");
     ASSERT_TRUE(utility.Ended());
     EXPECT_EQ(AutoStartValue(), std::nullopt);
 }

@@ -3,6 +3,8 @@
 
 #include "tests/e2e/Machine.h"
 #include "tests/e2e/Utility.h"
+#include "tests/support/ControlParent.h"
+#include "tests/support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -13,10 +15,20 @@ protected:
     void SetUp() override;
     void TearDown() override;
 
-    Folder folder_;
-    base::String exe_ = folder_.PutUtility();
-    base::String agent_ = folder_.PutAgent();
-    base::String settings_ = folder_ / TEXT("Velmora.ini");
+    /// Puts a copy of the utility or of the agent into the folder under this name; its full path.
+    base::String PutUtility(base::StringView name) { return Put(TEXT("VELMORA_UTILITY"), name); }
+    base::String PutAgent(base::StringView name) { return Put(TEXT("VELMORA_AGENT"), name); }
+
+    tests::ScratchFolder folder_;
+    base::String exe_ = PutUtility(TEXT("Velmora Setup Utility.exe"));
+    base::String agent_ = PutAgent(TEXT("Velmora.exe"));
+    base::String settings_ = folder_.Expect(TEXT("Velmora.ini"));
+    base::String log_ = folder_.Expect(TEXT("Velmora.log"));
+
+private:
+    base::String Put(const WCHAR* variable, base::StringView name);
+
+    std::vector<base::String> copies_;
 };
 
 }  // namespace e2e

@@ -1,52 +1,11 @@
 #include "tests/e2e/Utility.h"
 
-#include <vector>
+#include "tests/e2e/Machine.h"
+#include "tests/support/UserInput.h"
 
 namespace e2e {
 
-namespace {
-
-/// The visible top-level window of a process that has this class.
-HWND FindTopLevel(DWORD processId, const WCHAR* className)
-{
-    HWND window = nullptr;
-    while ((window = FindWindowExW(nullptr, window, className, TEXT("Velmora Setup Utility"))) != nullptr) {
-        DWORD owner = 0;
-        GetWindowThreadProcessId(window, &owner);
-        if (owner == processId && IsWindowVisible(window))
-            return window;
-    }
-    return nullptr;
-}
-
-std::vector<HWND> Descendants(HWND window)
-{
-    std::vector<HWND> all;
-    EnumChildWindows(
-        window,
-        [](HWND child, LPARAM parameter) -> BOOL {
-            reinterpret_cast<std::vector<HWND>*>(parameter)->push_back(child);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&all));
-    return all;
-}
-
-}  // namespace
-
-Utility::Utility(const base::String& exe)
-{
-    STARTUPINFOW startup = {};
-    startup.cb = sizeof(startup);
-    PROCESS_INFORMATION process = {};
-    base::String commandLine = TEXT("\"") + exe + TEXT("\"");
-    const base::String folder = exe.substr(0, exe.rfind(TEXT('\\')));
-    if (!CreateProcessW(exe.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(), &startup, &process))
-        return;
-    CloseHandle(process.hThread);
-    process_.Reset(process.hProcess);
-    processId_ = process.dwProcessId;
-}
+Utility::Utility(const base::String& exe) : process_(Launch(exe)) {}
 
 Utility::~Utility()
 {
@@ -58,8 +17,7 @@ Utility::~Utility()
 
 bool Utility::Opened()
 {
-    if (!Eventually([this] { return (window_ = FindTopLevel(processId_, TEXT("VelmoraForm"))) != nullptr || Ended(Milliseconds(0)); }) ||
-        !window_)
+    if (!Eventually([this] { return (window_ = FindTopLevel(TEXT("VelmoraForm"))) != nullptr || Ended(Milliseconds(0)); }) || !window_)
         return false;
     return Eventually([this] { return BringToFront(), GetForegroundWindow() == window_; }) && Responds();
 }
@@ -69,150 +27,104 @@ bool Utility::Ended(Milliseconds patience) const
     return !process_ || WaitForSingleObject(process_.Get(), static_cast<DWORD>(patience.count())) == WAIT_OBJECT_0;
 }
 
-HWND Utility::MessageBox() const
+HWND Utility::FindTopLevel(const WCHAR* className) const
 {
-    return FindTopLevel(processId_, TEXT("#32770"));
-}
-
-bool Utility::Responds() const
-{
-    return SendMessageTimeoutW(window_, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, 1000, nullptr) != 0;
-}
-
-HWND Utility::Find(Place place, const WCHAR* className) const
-{
-    const RECT wanted = DesignedRect(place);
-    HWND found = nullptr;
-    for (const HWND window : Descendants(window_)) {
-        WCHAR name[64] = {};
-        GetClassNameW(window, name, ARRAYSIZE(name));
-        if (base::StringView(name) != className || !IsWindowVisible(window))
-            continue;
-        RECT actual = {};
-        GetWindowRect(window, &actual);
-        MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&actual), 2);
-        if (actual.left != wanted.left || actual.top != wanted.top)
-            continue;
-        if (found)
-            return nullptr;
-        found = window;
+    HWND window = nullptr;
+    while ((window = FindWindowExW(nullptr, window, className, TEXT("Velmora Setup Utility"))) != nullptr) {
+        DWORD owner = 0;
+        GetWindowThreadProcessId(window, &owner);
+        if (owner == GetProcessId(process_.Get()) && IsWindowVisible(window))
+            break;
     }
-    return found;
+    return window;
 }
 
-HWND Utility::Own(Place place) const
+HWND Utility::Find(const char* name, base::StringView className) const
 {
-    switch (FORM_MAP[static_cast<int>(place)].kind) {
-        case Kind::comboBox:
-            return Find(place, TEXT("ComboBox"));
-        case Kind::label:
-            return Find(place, TEXT("Static"));
-        default:
-            return Find(place, TEXT("VelmoraUserControl"));
-    }
+    const RECT designed = tests::DesignedRect(tests::DesignOf(name));
+    struct Search {
+        base::StringView className;
+        POINT place;
+        HWND found;
+        int count;
+    } search = {className, {designed.left, designed.top}, nullptr, 0};
+    ClientToScreen(window_, &search.place);
+    const auto visit = [](HWND child, LPARAM parameter) -> BOOL {
+        auto& wanted = *reinterpret_cast<Search*>(parameter);
+        WCHAR actual[64] = {};
+        GetClassNameW(child, actual, ARRAYSIZE(actual));
+        RECT rect = {};
+        GetWindowRect(child, &rect);
+        if (wanted.className == actual && IsWindowVisible(child) && rect.left == wanted.place.x && rect.top == wanted.place.y) {
+            wanted.found = child;
+            ++wanted.count;
+        }
+        return TRUE;
+    };
+    EnumChildWindows(window_, visit, reinterpret_cast<LPARAM>(&search));
+    return search.count == 1 ? search.found : nullptr;
 }
 
-HWND Utility::Shown(Place place) const
+HWND Utility::Own(const char* name) const
 {
-    switch (FORM_MAP[static_cast<int>(place)].kind) {
-        case Kind::checkBox:
-            return Find(place, TEXT("Button"));
-        case Kind::textBox:
-            return Find(place, TEXT("Edit"));
-        default:
-            return Own(place);
-    }
+    const std::string_view kind = tests::DesignOf(name).kind;
+    return Find(name, kind == "ComboBox" ? TEXT("ComboBox") : kind == "Label" ? TEXT("Static") : TEXT("VelmoraUserControl"));
 }
 
-bool Utility::Enabled(Place place) const
+HWND Utility::Shown(const char* name) const
 {
-    HWND window = Shown(place);
+    const std::string_view kind = tests::DesignOf(name).kind;
+    return kind == "CheckBox" ? Find(name, TEXT("Button")) : kind == "TextBox" ? Find(name, TEXT("Edit")) : Own(name);
+}
+
+bool Utility::Enabled(const char* name) const
+{
+    HWND window = Shown(name);
     while (window && window != window_ && IsWindowEnabled(window))
         window = GetAncestor(window, GA_PARENT);
     return window && IsWindowEnabled(window);
 }
 
-bool Utility::Checked(Place place) const
-{
-    return SendMessageW(Shown(place), BM_GETCHECK, 0, 0) == BST_CHECKED;
-}
-
-base::String Utility::Text(Place place) const
-{
-    WCHAR text[256] = {};
-    SendMessageW(Shown(place), WM_GETTEXT, ARRAYSIZE(text), reinterpret_cast<LPARAM>(text));
-    return text;
-}
-
-int Utility::Selected(Place comboBox) const
-{
-    return static_cast<int>(SendMessageW(Own(comboBox), CB_GETCURSEL, 0, 0));
-}
-
-void Utility::Click(Place place) const
+void Utility::Click(const char* name) const
 {
     BringToFront();
-    RECT rect = DesignedRect(place);
-    MapWindowPoints(window_, nullptr, reinterpret_cast<POINT*>(&rect), 2);
+    // Clicks that lie this far apart are never taken for a double click.
+    static LONG side = 0;
+    side = side ? 0 : GetSystemMetrics(SM_CXDOUBLECLK) + 1;
+    const RECT rect = tests::DesignedRect(tests::DesignOf(name));
     // Near the left end, where a check box has its mark.
-    e2e::Click({rect.left + 8, (rect.top + rect.bottom) / 2});
-}
-
-void Utility::ClickCloseBox() const
-{
-    BringToFront();
-    RECT rect = {};
-    GetWindowRect(window_, &rect);
-    POINT point = {rect.right, rect.top + GetSystemMetrics(SM_CYSIZEFRAME) + GetSystemMetrics(SM_CYCAPTION) / 2};
-    const auto hit = [&] { return SendMessageW(window_, WM_NCHITTEST, 0, MAKELPARAM(point.x, point.y)); };
-    while (point.x > rect.left && hit() != HTCLOSE)
-        --point.x;
-    // Clicks alternate by a few pixels, so this one may land further right.
-    point.x -= GetSystemMetrics(SM_CXDOUBLECLK) + 3;
-    e2e::Click(point);
+    tests::MoveMouse(window_, rect.left + 8 + side, (rect.top + rect.bottom) / 2);
+    tests::ClickMouse();
 }
 
 void Utility::Press(std::initializer_list<WORD> virtualKeys) const
 {
     BringToFront();
-    e2e::Press(virtualKeys);
+    for (const WORD key : virtualKeys)
+        tests::SendKey(key);
+    for (auto key = std::rbegin(virtualKeys); key != std::rend(virtualKeys); ++key)
+        tests::SendKey(*key, KEYEVENTF_KEYUP);
 }
 
-bool Utility::TabTo(Place place) const
+void Utility::Enter(const char* name, base::StringView text) const
 {
-    for (int tabs = 0; tabs < 2 * static_cast<int>(Place::window); ++tabs) {
-        const HWND before = Focus();
-        if (before == Shown(place))
-            return true;
-        Press({VK_TAB});
-        if (!Eventually([&] { return Focus() != before; }, Milliseconds(1000)))
-            return false;
-    }
-    return false;
-}
-
-HWND Utility::Focus() const
-{
-    GUITHREADINFO state = {};
-    state.cbSize = sizeof(state);
-    GetGUIThreadInfo(GetWindowThreadProcessId(window_, nullptr), &state);
-    return state.hwndFocus;
-}
-
-void Utility::Enter(Place textBox, base::StringView text) const
-{
-    Click(textBox);
+    Click(name);
     Press({VK_END});
     Press({VK_SHIFT, VK_HOME});
     Press({VK_DELETE});
-    Type(text);
+    for (const WCHAR character : text) {
+        if (character >= TEXT('a') && character <= TEXT('z'))
+            tests::PressKey(static_cast<WORD>(character - TEXT('a') + TEXT('A')));
+        else
+            tests::SendCharacter(character);
+    }
 }
 
-void Utility::Choose(Place comboBox, WCHAR firstLetter) const
+void Utility::Choose(const char* name, WCHAR firstLetter) const
 {
-    Click(comboBox);
-    e2e::Press({static_cast<WORD>(firstLetter)});
-    e2e::Press({VK_RETURN});
+    Click(name);
+    tests::PressKey(static_cast<WORD>(firstLetter));
+    tests::PressKey(VK_RETURN);
 }
 
 void Utility::BringToFront() const

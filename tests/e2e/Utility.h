@@ -3,8 +3,10 @@
 
 #include "base/Handles.h"
 #include "base/String.h"
-#include "tests/e2e/Desktop.h"
-#include "tests/e2e/FormMap.h"
+#include "tests/e2e/Eventually.h"
+#include "tests/support/FormMap.h"
+
+#include <initializer_list>
 
 namespace e2e {
 
@@ -16,46 +18,44 @@ public:
     Utility(const Utility&) = delete;
     Utility& operator=(const Utility&) = delete;
 
-    [[nodiscard]] DWORD ProcessId() const { return processId_; }
     /// Waits for the window to be open and in front.
     [[nodiscard]] bool Opened();
     [[nodiscard]] bool Ended(Milliseconds patience = SOON) const;
     [[nodiscard]] HWND Window() const { return window_; }
     /// The message box that the process shows, NULL when there is none.
-    [[nodiscard]] HWND MessageBox() const;
+    [[nodiscard]] HWND MessageBox() const { return FindTopLevel(TEXT("#32770")); }
     /// False when its message loop is held up.
-    [[nodiscard]] bool Responds() const;
+    [[nodiscard]] bool Responds() const { return SendMessageTimeoutW(window_, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, 1000, nullptr) != 0; }
 
-    /// The control's own window, found by place and class; NULL when no visible window or more than one is there.
-    [[nodiscard]] HWND Own(Place place) const;
+    // The controls go by their names on the form and are found by their designed place.
+
+    /// The control's own window; NULL when no visible window or more than one of its class is at its place.
+    [[nodiscard]] HWND Own(const char* name) const;
     /// The window that a person sees and that has the control's text or check mark: the system's "Button" or "Edit" where the control
     /// hosts one, which lies over the control's own window, and else the own window.
-    [[nodiscard]] HWND Shown(Place place) const;
+    [[nodiscard]] HWND Shown(const char* name) const;
     /// Whether input reaches it: neither the control nor anything around it is disabled.
-    [[nodiscard]] bool Enabled(Place place) const;
-    [[nodiscard]] bool Checked(Place place) const;
-    [[nodiscard]] base::String Text(Place place) const;
-    [[nodiscard]] int Selected(Place comboBox) const;
+    [[nodiscard]] bool Enabled(const char* name) const;
+    [[nodiscard]] bool Checked(const char* name) const { return SendMessageW(Shown(name), BM_GETCHECK, 0, 0) == BST_CHECKED; }
+    /// The index of the combo box's entry.
+    [[nodiscard]] int Selected(const char* name) const { return static_cast<int>(SendMessageW(Own(name), CB_GETCURSEL, 0, 0)); }
 
     // What a person does. Every one of them brings the window to the front first.
 
-    void Click(Place place) const;
-    void ClickCloseBox() const;
+    void Click(const char* name) const;
+    /// Presses the keys in order, the last one with all others held, and lets them go in reverse.
     void Press(std::initializer_list<WORD> virtualKeys) const;
-    /// Presses Tab until the control has the keyboard focus; false when it never gets it.
-    [[nodiscard]] bool TabTo(Place place) const;
     /// Clicks into the box, selects all that is there and types over it.
-    void Enter(Place textBox, base::StringView text) const;
+    void Enter(const char* name, base::StringView text) const;
     /// Opens the list and picks the entry whose first letter this is.
-    void Choose(Place comboBox, WCHAR firstLetter) const;
+    void Choose(const char* name, WCHAR firstLetter) const;
 
 private:
-    [[nodiscard]] HWND Find(Place place, const WCHAR* className) const;
+    [[nodiscard]] HWND FindTopLevel(const WCHAR* className) const;
+    [[nodiscard]] HWND Find(const char* name, base::StringView className) const;
     void BringToFront() const;
-    [[nodiscard]] HWND Focus() const;
 
     base::KernelHandle process_;
-    DWORD processId_ = 0;
     HWND window_ = nullptr;
 };
 

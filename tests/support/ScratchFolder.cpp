@@ -14,7 +14,7 @@ ScratchFolder::ScratchFolder()
     WCHAR temporary[MAX_PATH] = {};
     GetTempPathW(MAX_PATH, temporary);
     static int count = 0;
-    path_ = String(temporary) + TEXT("VelmoraTests") + base::ToDecimal(static_cast<long long>(GetCurrentProcessId())) + TEXT("-") +
+    path_ = String(temporary) + TEXT("Velmora tests ") + base::ToDecimal(static_cast<long long>(GetCurrentProcessId())) + TEXT("-") +
             base::ToDecimal(++count);
     EXPECT_TRUE(CreateDirectoryW(path_.c_str(), nullptr));
     path_ += TEXT('\\');
@@ -44,8 +44,8 @@ String ScratchFolder::Expect(StringView name)
 
 std::string BytesOf(const String& path)
 {
-    const base::FileHandle file(
-        CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    const base::FileHandle file(CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                            FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!file)
         return {};
     std::string bytes(100000, '\0');

@@ -1,10 +1,9 @@
-// Desktop: the hands of a person (mouse and keyboard) and patience.
+// Eventually: patience with what other processes do.
 #pragma once
 
-#include "base/String.h"
+#include <windows.h>
 
 #include <chrono>
-#include <initializer_list>
 
 namespace e2e {
 
@@ -28,21 +27,5 @@ template <class Condition>
     }
     return true;
 }
-
-/// True when `condition` stays true for the whole time.
-template <class Condition>
-[[nodiscard]] bool Throughout(Milliseconds time, Condition condition)
-{
-    return !Eventually([&] { return !condition(); }, time);
-}
-
-/// A left click at a place of the screen, never the second half of a double click.
-void Click(POINT screen);
-
-/// Presses the keys in order, the last one with all others held, and lets them go in reverse.
-void Press(std::initializer_list<WORD> virtualKeys);
-
-/// Types the text; characters that have no key of their own come as Unicode input.
-void Type(base::StringView text);
 
 }  // namespace e2e
