@@ -43,17 +43,6 @@ TEST_F(Form1Agent, StartedAndClosed_TurnsTheButtonsAround)
     EXPECT_TRUE(The<Processes>().Running(exe).empty());
 }
 
-TEST_F(Form1Agent, RunningAtTheStart_IsSeenAtOnce)
-{
-    const DWORD process = The<Processes>().Launch(exe);
-    pc.Advance(1000);
-    ASSERT_TRUE(Open());
-    ExpectButtons(false, true);
-    The<Processes>().End(process);
-    pc.Advance(2000);
-    ExpectButtons(true, false);
-}
-
 TEST_F(Form1Agent, StartWhileItRuns_OnlyDisablesTheButton)
 {
     ASSERT_TRUE(Open());
@@ -126,21 +115,6 @@ TEST_F(Form1Agent, EditedPassword_IsSavedOnceBeforeTheLaunch)
     Click(TEXT("CommandStartVelmora"));
     EXPECT_EQ(Settings(), "[Settings]\r\nPwd=other\r\n");
     EXPECT_EQ(Launches(), 3u);
-}
-
-TEST_F(Form1Agent, OtherFileName_StartsItsOwnAgent)
-{
-    The<Processes>().OwnImage(u"C:\\Tools\\Foo Bar.exe");
-    AgentProgram::Install(pc, u"C:\\Tools\\Foo.exe");
-    WriteSettings("[Settings]\r\nPwd=AYWJj\r\n", u"C:\\Tools\\Foo.ini");
-    ASSERT_TRUE(Open());
-    EXPECT_EQ(Password(), TEXT("abc"));
-    Click(TEXT("CommandStartVelmora"));
-    ASSERT_EQ(Launches(), 1u);
-    EXPECT_EQ(The<Processes>().Requests()[0].commandLine, u"C:\\Tools\\Foo.exe");
-    Check(TEXT("CheckAutoStart")).Value(1);
-    Click(TEXT("CommandOk"));
-    EXPECT_EQ(AutoStart(), u"\"C:\\Tools\\Foo.exe\"");
 }
 
 }  // namespace

@@ -25,10 +25,12 @@ protected:
     void SettingsIn(const WCHAR* folder) { volumes.WriteFile(std::u16string(folder) + u"Velmora Setup Utility.ini", ""); }
 };
 
-TEST_F(IniFolder, WritableApplicationFolder_IsTaken)
+TEST_F(IniFolder, WritableApplicationFolder_IsTakenAndKept)
 {
     EXPECT_EQ(GetIniFolder(), application);
     EXPECT_FALSE(volumes.IsFolder(userData));
+    volumes.MakeReadOnly(u"C:\\Tools");
+    EXPECT_EQ(GetIniFolder(), application);
 }
 
 TEST_F(IniFolder, SettingsInTheUsersFolder_WinOverAnEmptyApplicationFolder)
@@ -75,13 +77,6 @@ TEST_F(IniFolder, NothingUsable_GivesNothingAndIsAskedAgain)
     volumes.MakeReadOnly(u"C:\\Users\\Anna");
     EXPECT_EQ(GetIniFolder(), TEXT(""));
     volumes.SetRights(u"C:\\Tools", {});
-    EXPECT_EQ(GetIniFolder(), application);
-}
-
-TEST_F(IniFolder, Choice_IsKept)
-{
-    EXPECT_EQ(GetIniFolder(), application);
-    volumes.MakeReadOnly(u"C:\\Tools");
     EXPECT_EQ(GetIniFolder(), application);
 }
 

@@ -1,7 +1,6 @@
 #include "app/helpers/RunProcess.h"
 
 #include "platform/sim/Processes.h"
-#include "platform/sim/Volumes.h"
 #include "tests/support/FreshCaches.h"
 
 using namespace platform;
@@ -57,13 +56,6 @@ TEST_F(RunningProcess, MissingFile_IsNotTried)
     for (const WCHAR* path : {TEXT(""), TEXT("  "), TEXT("C:\\missing.exe"), TEXT("C:\\Windows")})
         EXPECT_EQ(RunProcess(path, {}, false, true, 0), 0u);
     EXPECT_TRUE(processes.Requests().empty());
-}
-
-TEST_F(RunningProcess, NoProgram_GivesNoProcess)
-{
-    pc.Get<Volumes>().WriteFile(u"C:\\a.exe", "text");
-    pc.GetFaults().FailAlways("CreateProcessW", ERROR_ACCESS_DENIED);
-    EXPECT_EQ(RunProcess(TEXT("C:\\a.exe"), {}, false, true, 0), 0u);
 }
 
 TEST_F(RunningProcess, Waiting_HandlesMessagesUntilTheEnd)

@@ -61,17 +61,6 @@ TEST_F(StartUpChecks, Administrator_IsKnownByAdvpack)
     EXPECT_FALSE(helpers::IsUserAdmin());
 }
 
-TEST_F(StartUpChecks, ShellLibrary_IsKeptOnceUntilReleased)
-{
-    const auto loads = [&] { return pc.Get<Modules>().LoadsOf(u"shell32.dll"); };
-    helpers::InitCommonControlsAndShell();
-    helpers::InitCommonControlsAndShell();
-    EXPECT_EQ(loads(), 1u);
-    helpers::ReleaseShellLibrary();
-    helpers::ReleaseShellLibrary();
-    EXPECT_EQ(loads(), 0u);
-}
-
 TEST_F(StartUpChecks, SpecialFolders_EndAsAsked)
 {
     EXPECT_EQ(helpers::GetSpecialFolder(CSIDL_APPDATA, true, true), TEXT("C:\\Users\\Anna\\AppData\\Roaming\\"));
