@@ -7,27 +7,6 @@
 
 namespace tests {
 
-TEST(Event, Handler_ChangesArgumentsAndMayRaiseAgain)
-{
-    host::Event<6, std::int16_t&, int> event;
-    std::int16_t code = 3;
-    event.Raise(code, 1);
-    EXPECT_EQ(code, 3);
-
-    std::string order;
-    event.Connect([&](std::int16_t& number, int depth) {
-        order += "(";
-        if (depth > 0)
-            event.Raise(number, depth - 1);
-        ++number;
-        order += ")";
-    });
-    event.Raise(code, 2);
-    EXPECT_EQ(code, 6);
-    EXPECT_EQ(order, "((()))");
-    EXPECT_EQ(event.index, 6);
-}
-
 TEST(Event, Handler_OutlivesTheEventThatItDestroys)
 {
     auto event = std::make_unique<host::Event<1>>();

@@ -59,22 +59,12 @@ TEST_F(Extender, FormInPixels_PlacesItsOwnControlsInPixelsAndInnerOnesInTwips)
 TEST_F(Extender, ZOrder_RaisesAndLowersTheWindow)
 {
     Open("Form F { ClientWidth = 4500 ClientHeight = 3000 Probe A { TabIndex = 0 } Probe B { TabIndex = 1 } Probe C { TabIndex = 2 } }");
-    const auto topmost = [&] { return form->ControlOf(GetWindow(form->hWnd(), GW_CHILD))->GetExtender().Name(); };
-    ExtenderOf(TEXT("B")).ZOrder(0);
-    EXPECT_EQ(topmost(), TEXT("B"));
-    ExtenderOf(TEXT("C")).ZOrder();
-    EXPECT_EQ(topmost(), TEXT("C"));
-    ExtenderOf(TEXT("C")).ZOrder(1);
-    EXPECT_EQ(topmost(), TEXT("B"));
-}
-
-TEST(Units, TwipsAndPixels_ConvertThroughTheScreensResolution)
-{
-    const host::ScreenResolution screen = host::ScreenResolution::Get();
-    EXPECT_EQ(host::TwipsToPixelsX(1440), screen.x);
-    EXPECT_EQ(host::TwipsToPixelsY(-1440), -screen.y);
-    EXPECT_FLOAT_EQ(host::PixelsToTwipsX(screen.x), 1440);
-    EXPECT_EQ(host::ToPixelsX(12.6F, host::ScaleMode::pixels), 13);
+    const std::tuple<const WCHAR*, int, const WCHAR*> moves[] = {
+        {TEXT("B"), 0, TEXT("B")}, {TEXT("C"), 0, TEXT("C")}, {TEXT("C"), 1, TEXT("B")}};
+    for (const auto& [moved, place, topmost] : moves) {
+        ExtenderOf(moved).ZOrder(place);
+        EXPECT_EQ(form->ControlOf(GetWindow(form->hWnd(), GW_CHILD))->GetExtender().Name(), topmost);
+    }
 }
 
 }  // namespace tests

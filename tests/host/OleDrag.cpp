@@ -112,15 +112,14 @@ TEST_F(OleDrag, Data_PassesThroughCom)
     EXPECT_FALSE(received.SetData(String(TEXT("other")))) << "received data can only be read";
 
     // An old program asks for the text in the system's code page, and for what there is.
-    FORMATETC narrow = host::InMemory(CF_TEXT), picture = host::InMemory(CF_TEXT);
+    FORMATETC narrow = host::InMemory(CF_TEXT);
     STGMEDIUM medium{};
     ASSERT_EQ(dragged->GetData(&narrow, &medium), S_OK);
-    EXPECT_EQ(host::DecodeNarrowText(host::CopyFromGlobal(medium.hGlobal)), TEXT("caf\u00E9"));
     EXPECT_STREQ(static_cast<const char*>(GlobalLock(medium.hGlobal)), "caf\xE9");
     GlobalUnlock(medium.hGlobal);
     ReleaseStgMedium(&medium);
-    picture.tymed = TYMED_GDI;
-    EXPECT_EQ(dragged->QueryGetData(&picture), DV_E_TYMED);
+    narrow.tymed = TYMED_GDI;
+    EXPECT_EQ(dragged->QueryGetData(&narrow), DV_E_TYMED);
     IEnumFORMATETC* list = nullptr;
     ASSERT_EQ(dragged->EnumFormatEtc(DATADIR_GET, &list), S_OK);
     std::vector<int> formats;
@@ -197,7 +196,7 @@ TEST_F(OleDrag, Target_TellsItsControlWhereAndWhat)
                                      "drop text 2 40 5,-6"}));
 }
 
-TEST_F(OleDrag, TargetsEffect_IsOneOfTheSources)
+TEST_F(OleDrag, TargetsEffect_IsOneOfTheSourcesOrNoneAfterAFailure)
 {
     const auto target = host::MakeCom<host::OleDragTarget>(link, nullptr);
     const auto data = Dragged();
@@ -215,35 +214,11 @@ TEST_F(OleDrag, TargetsEffect_IsOneOfTheSources)
         EXPECT_EQ(over, expected) << allowed;
         EXPECT_EQ(dropped, expected) << allowed;
     }
-}
-
-TEST_F(OleDrag, HandlersThatFailOrCloseTheDoor_HarmNobody)
-{
-    const auto target = host::MakeCom<host::OleDragTarget>(link, nullptr);
-    const auto data = Dragged();
-    DWORD effect = 0;
-    const auto enter = [&] {
-        effect = DROPEFFECT_COPY;
-        return target->DragEnter(data.Get(), 0, {}, &effect);
-    };
     listener.then = [] { throw std::runtime_error("handler"); };
-    EXPECT_EQ(enter(), E_UNEXPECTED);
+    DWORD effect = DROPEFFECT_COPY;
+    EXPECT_EQ(target->DragEnter(data.Get(), 0, {}, &effect), E_UNEXPECTED);
     EXPECT_EQ(effect, DROPEFFECT_NONE);
     EXPECT_EQ(target->DragLeave(), E_UNEXPECTED);
-
-    // While a handler keeps messages going, the drag leaves; and the control goes.
-    listener.then = [&] {
-        listener.then = nullptr;
-        target->DragLeave();
-        link->control = nullptr;
-    };
-    EXPECT_EQ(enter(), S_OK);
-    effect = DROPEFFECT_COPY;
-    EXPECT_EQ(target->Drop(data.Get(), 0, {}, &effect), S_OK);
-    EXPECT_EQ(effect, DROPEFFECT_NONE);
-    EXPECT_EQ(listener.lines.size(), 4U);
-    const auto source = host::MakeCom<host::OleDragSource>(link);
-    EXPECT_EQ(source->QueryContinueDrag(FALSE, MK_LBUTTON), DRAGDROP_S_CANCEL);
 }
 
 }  // namespace tests

@@ -44,8 +44,6 @@ void Probe::UserControl_WriteProperties(host::PropertyBag& bag)
     bag.Write(TEXT("Focus"), canGetFocus_, true);
     bag.Write(TEXT("Button"), isButton_, false);
     bag.Write(TEXT("Key"), GetSurface().AccessKey(), {});
-    // Many a control keeps this for itself too.
-    bag.Write(TEXT("Visible"), GetExtender().Visible(), true);
 }
 
 void Probe::UserControl_Resize()

@@ -36,7 +36,6 @@ public:
     [[nodiscard]] base::StringView Kind() const override { return TEXT("Probe"); }
     [[nodiscard]] bool CanGetFocus() const override { return canGetFocus_; }
     [[nodiscard]] bool IsButton() const override { return isButton_; }
-    void NotifyChange(base::StringView name) { PropertyChanged(name); }
 
     int paints = 0;
     std::function<void()> whenPainting;

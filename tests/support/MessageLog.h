@@ -10,13 +10,6 @@
 
 namespace tests {
 
-/// One message as text: the window's name, the message's name and, where the order of things depends on it, its wParam.
-struct LoggedMessage {
-    std::string window;
-    std::string message;
-    bool operator==(const LoggedMessage&) const = default;
-};
-
 /// Records what its windows are sent. They are made by `Create`, of a class with a plain procedure that ends in DefWindowProcW.
 ///
 /// Left out is what Windows versions send differently or at their own pleasure: painting, texts that captions ask for, input methods,
@@ -37,12 +30,7 @@ public:
     void On(UINT message, void (*action)(HWND window)) { actions_.push_back({message, action}); }
     void Also(UINT message) { also_.push_back(message); }
 
-    void Clear()
-    {
-        messages_.clear();
-        numbers_.clear();
-    }
-    [[nodiscard]] const std::vector<LoggedMessage>& Messages() const { return messages_; }
+    void Clear() { messages_.clear(); }
 
     /// Holds the record against `expected`, one "window MESSAGE" each, in order; forgets the record. Both columns are printed on a
     /// mismatch.
@@ -54,7 +42,6 @@ private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     [[nodiscard]] bool Wanted(UINT message) const;
     [[nodiscard]] std::string NameOf(HWND window) const;
-    testing::AssertionResult Compare(const std::vector<LoggedMessage>& actual, std::initializer_list<const char*> expected) const;
 
     struct Window {
         HWND handle;
@@ -62,8 +49,8 @@ private:
     };
     std::vector<Window> windows_;
     std::string creating_;
-    std::vector<LoggedMessage> messages_;
-    std::vector<UINT> numbers_;
+    /// Each as "window MESSAGE" and, where the order of things depends on it, its wParam.
+    std::vector<std::pair<UINT, std::string>> messages_;
     std::vector<std::pair<UINT, LRESULT>> answers_;
     std::vector<std::pair<UINT, void (*)(HWND)>> actions_;
     std::vector<UINT> also_;
