@@ -9,16 +9,14 @@ namespace {
 
 TEST(Base64, KnownTexts_EncodeAndDecode)
 {
-    const struct {
-        const WCHAR* text;
-        const WCHAR* encoded;
-    } cases[] = {
-        {TEXT(""), TEXT("")},        {TEXT("f"), TEXT("Zg==")},          {TEXT("fo"), TEXT("Zm8=")},
-        {TEXT("foo"), TEXT("Zm9v")}, {TEXT("foobar"), TEXT("Zm9vYmFy")},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(Base64Encode(c.text, Base64Narrow), c.encoded);
-        EXPECT_EQ(Base64Decode(c.encoded, Base64Narrow), c.text);
+    const std::pair<const WCHAR*, const WCHAR*> cases[] = {{TEXT(""), TEXT("")},
+                                                           {TEXT("f"), TEXT("Zg==")},
+                                                           {TEXT("fo"), TEXT("Zm8=")},
+                                                           {TEXT("foo"), TEXT("Zm9v")},
+                                                           {TEXT("foobar"), TEXT("Zm9vYmFy")}};
+    for (const auto& [text, encoded] : cases) {
+        EXPECT_EQ(Base64Encode(text, Base64Narrow), encoded);
+        EXPECT_EQ(Base64Decode(encoded, Base64Narrow), text);
     }
 }
 

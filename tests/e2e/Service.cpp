@@ -5,25 +5,11 @@ namespace e2e {
 
 namespace {
 
-bool PanelShowsStopped(const Utility& utility)
+/// What the panel's buttons say of the service. A running one can be stopped but not uninstalled.
+std::string_view PanelOf(const Utility& utility)
 {
-    return utility.Enabled("cmdInstall") && utility.Enabled("cmdStart");
-}
-
-/// "Stop Service" is offered, and uninstalling is not.
-bool PanelShowsRunning(const Utility& utility)
-{
-    return !utility.Enabled("cmdInstall") && utility.Enabled("cmdStart");
-}
-
-bool PanelShowsPending(const Utility& utility)
-{
-    return !utility.Enabled("cmdInstall") && !utility.Enabled("cmdStart");
-}
-
-bool PanelShowsNotInstalled(const Utility& utility)
-{
-    return utility.Enabled("cmdInstall") && !utility.Enabled("cmdStart");
+    const bool install = utility.Enabled("cmdInstall"), start = utility.Enabled("cmdStart");
+    return install ? (start ? "stopped" : "not installed") : start ? "running" : "pending";
 }
 
 }  // namespace
@@ -34,17 +20,15 @@ TEST_F(EndToEnd, Service_InstalledWithEachStartupTypeAndUninstalled)
     ASSERT_TRUE(utility.Opened());
     utility.Click("CheckAutoStart");
     ASSERT_TRUE(Eventually([&] { return utility.Checked("CheckAutoStart") && utility.Enabled("CheckHideTrayIcon"); }));
-    const struct {
-        WCHAR letter;
-        DWORD startType;
-    } cases[] = {{TEXT('A'), SERVICE_AUTO_START}, {TEXT('M'), SERVICE_DEMAND_START}, {TEXT('D'), SERVICE_DISABLED}};
+    const std::pair<WCHAR, DWORD> cases[] = {
+        {TEXT('A'), SERVICE_AUTO_START}, {TEXT('M'), SERVICE_DEMAND_START}, {TEXT('D'), SERVICE_DISABLED}};
     for (const auto& [letter, startType] : cases) {
         SCOPED_TRACE(startType);
         utility.Choose("ComboStartup", letter);
         ASSERT_TRUE(Eventually([&] { return utility.Selected("ComboStartup") == static_cast<int>(startType) - SERVICE_AUTO_START; }));
         utility.Click("cmdInstall");
         ASSERT_TRUE(Eventually([] { return InstalledService().has_value(); }));
-        EXPECT_TRUE(Eventually([&] { return PanelShowsStopped(utility); }));
+        EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "stopped"; }));
         const ServiceFacts facts = InstalledService().value();
         EXPECT_EQ(facts.startType, startType);
         EXPECT_EQ(facts.binaryPath, TEXT("\"") + agent_ + TEXT("\""));
@@ -56,11 +40,9 @@ TEST_F(EndToEnd, Service_InstalledWithEachStartupTypeAndUninstalled)
         EXPECT_FALSE(utility.Checked("CheckAutoStart"));
 
         utility.Click("cmdInstall");
-        EXPECT_TRUE(Eventually([&] { return PanelShowsNotInstalled(utility); }));
+        EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "not installed"; }));
         EXPECT_TRUE(Eventually([] { return !InstalledService(); }));
-        EXPECT_TRUE(utility.Enabled("CheckAutoStart"));
-        EXPECT_TRUE(utility.Enabled("ComboStartup"));
-        EXPECT_FALSE(utility.Enabled("txtAccount"));
+        EXPECT_TRUE(utility.Enabled("CheckAutoStart") && utility.Enabled("ComboStartup") && !utility.Enabled("txtAccount"));
     }
 }
 
@@ -78,32 +60,28 @@ TEST_F(EndToEnd, Service_InstalledWithANamedAccount)
     EXPECT_EQ(InstalledService().value().account, TEXT("office\\jdoe"));
 }
 
-TEST_F(EndToEnd, Service_StartedStoppedAndUninstalledByItsButtons)
+TEST_F(EndToEnd, Service_StartedAndStoppedByItsButton)
 {
     ASSERT_TRUE(InstallService(agent_, SERVICE_DEMAND_START));
     Utility utility(exe_);
     ASSERT_TRUE(utility.Opened());
-    EXPECT_TRUE(Eventually([&] { return PanelShowsStopped(utility); }));
+    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "stopped"; }));
     EXPECT_EQ(utility.Selected("ComboStartup"), 1);
     EXPECT_EQ(tests::TextOf(utility.Shown("txtAccount")), TEXT("LocalSystem"));
     EXPECT_FALSE(utility.Checked("chkSystem"));
 
     utility.Enter("TextPassword", TEXT("abc"));
     utility.Click("cmdStart");
-    EXPECT_TRUE(Eventually([&] { return PanelShowsPending(utility) && ServiceState() == SERVICE_START_PENDING; }));
+    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "pending" && ServiceState() == SERVICE_START_PENDING; }));
     EXPECT_EQ(tests::BytesOf(settings_), "[Settings]\r\nPwd=AYWJj\r\n") << "the password is saved before the service starts";
     ASSERT_TRUE(Eventually([&] { return ServiceState() == SERVICE_RUNNING; }));
-    EXPECT_TRUE(Eventually([&] { return PanelShowsRunning(utility); }, SERVICE_TICK));
+    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "running"; }, SERVICE_TICK));
     EXPECT_EQ(tests::BytesOf(log_), "service running\r\n");
 
     utility.Click("cmdStart");
-    EXPECT_TRUE(Eventually([&] { return PanelShowsPending(utility) && ServiceState() == SERVICE_STOP_PENDING; }));
+    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "pending" && ServiceState() == SERVICE_STOP_PENDING; }));
     ASSERT_TRUE(Eventually([&] { return ServiceState() == SERVICE_STOPPED; }));
-    EXPECT_TRUE(Eventually([&] { return PanelShowsStopped(utility); }, SERVICE_TICK));
-
-    utility.Click("cmdInstall");
-    EXPECT_TRUE(Eventually([&] { return PanelShowsNotInstalled(utility); }));
-    EXPECT_TRUE(Eventually([] { return !InstalledService(); }));
+    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "stopped"; }, SERVICE_TICK));
 }
 
 TEST_F(EndToEnd, Service_ChangedBySomebodyElse_IsFollowedWithinATick)
@@ -111,7 +89,7 @@ TEST_F(EndToEnd, Service_ChangedBySomebodyElse_IsFollowedWithinATick)
     Utility utility(exe_);
     ASSERT_TRUE(utility.Opened());
     ASSERT_TRUE(InstallService(agent_, SERVICE_DEMAND_START));
-    EXPECT_TRUE(Eventually([&] { return PanelShowsStopped(utility); }, SERVICE_TICK));
+    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "stopped"; }, SERVICE_TICK));
     EXPECT_EQ(utility.Selected("ComboStartup"), 1);
 
     ASSERT_TRUE(ChangeServiceStartType(SERVICE_DISABLED));
@@ -120,12 +98,12 @@ TEST_F(EndToEnd, Service_ChangedBySomebodyElse_IsFollowedWithinATick)
     EXPECT_TRUE(Eventually([&] { return utility.Selected("ComboStartup") == 0; }, SERVICE_TICK));
 
     ASSERT_TRUE(StartInstalledService());
-    EXPECT_TRUE(Eventually([&] { return PanelShowsPending(utility); }, SERVICE_TICK));
+    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "pending"; }, SERVICE_TICK));
     ASSERT_TRUE(Eventually([&] { return ServiceState() == SERVICE_RUNNING; }));
-    EXPECT_TRUE(Eventually([&] { return PanelShowsRunning(utility); }, SERVICE_TICK));
+    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "running"; }, SERVICE_TICK));
 
     ASSERT_TRUE(RemoveService());
-    EXPECT_TRUE(Eventually([&] { return PanelShowsNotInstalled(utility); }, SERVICE_TICK));
+    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "not installed"; }, SERVICE_TICK));
     EXPECT_TRUE(utility.Enabled("CheckAutoStart"));
 }
 

@@ -3,6 +3,7 @@
 #include "platform/sim/Desktop.h"
 #include "platform/sim/SimPc.h"
 #include "tests/host/Probe.h"
+#include "tests/support/ControlParent.h"
 
 namespace tests {
 
@@ -25,10 +26,8 @@ protected:
         Probe& probe = ProbeNamed(TEXT("A"));
         probe.GetSurface().Clear();
         probe.Refresh();
-        if (probe.OwnHandle() != nullptr) {
-            SendMessageW(probe.OwnHandle(), WM_LBUTTONDOWN, MK_LBUTTON, 0);
-            SendMessageW(probe.OwnHandle(), WM_LBUTTONUP, 0, 0);
-        }
+        if (probe.OwnHandle() != nullptr)
+            ClickAt(probe.OwnHandle(), 0, 0);
         Press('X', 4);
         Press(VK_RETURN);
         ExtenderOf(TEXT("A")).Width(1200);

@@ -1,6 +1,7 @@
 #include "host/ComboBox.h"
 #include "host/MessageLoop.h"
 #include "tests/host/Probe.h"
+#include "tests/support/ControlParent.h"
 
 namespace tests {
 
@@ -21,8 +22,7 @@ TEST_F(Focus, Move_TellsTheOneThatIsLeftBeforeTheOneThatIsEntered)
     EXPECT_EQ(ActiveName(), "First");
     EXPECT_EQ(GetFocus(), WindowOf(TEXT("First")));
     log.on["First.LostFocus"] = [&] { EXPECT_EQ(GetFocus(), WindowOf(TEXT("First"))); };
-    SendMessageW(WindowOf(TEXT("Second")), WM_LBUTTONDOWN, MK_LBUTTON, 0);
-    SendMessageW(WindowOf(TEXT("Second")), WM_LBUTTONUP, 0, 0);
+    ClickAt(WindowOf(TEXT("Second")), 0, 0);
     const Lines expected = {"First.LostFocus",          "First.ExitFocus",        "Second.EnterFocus", "Second.GotFocus",
                             "Second.MouseDown 1 0 0,0", "Second.MouseUp 1 0 0,0", "Second.Click"};
     EXPECT_EQ(log.Take(), expected);

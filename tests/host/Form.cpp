@@ -71,9 +71,7 @@ TEST_F(Form, UnloadFromInsideAnyEvent_IsSafe)
             EXPECT_EQ(ProbeNamed(TEXT("A")).GetSurface().Dc(), nullptr);
         };
         ProbeNamed(TEXT("A")).GetSurface().AccessKey(TEXT("x"));
-        const HWND window = WindowOf(TEXT("A"));
-        SendMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(1, 1));
-        SendMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(1, 1));
+        ClickAt(WindowOf(TEXT("A")), 1, 1);
         Press('A');
         Press('X', 4);
         if (form->IsLoaded())
@@ -90,9 +88,7 @@ TEST_F(Form, ExceptionsInHandlers_EndAtTheWindow)
     Open(small);
     for (const char* event : {"A.MouseDown 1 0 0,0", "A.MouseUp 1 0 0,0", "A.KeyDown 65", "A.GotFocus", "Form.Unload"})
         log.on[event] = [] { throw std::bad_alloc(); };
-    const HWND window = WindowOf(TEXT("A"));
-    SendMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, 0);
-    SendMessageW(window, WM_LBUTTONUP, 0, 0);
+    ClickAt(WindowOf(TEXT("A")), 0, 0);
     Press('A');
     SendMessageW(form->hWnd(), WM_CLOSE, 0, 0);
     EXPECT_FALSE(form->IsLoaded());
@@ -101,15 +97,11 @@ TEST_F(Form, ExceptionsInHandlers_EndAtTheWindow)
 
 TEST_F(Form, BadTexts_FailWithAReason)
 {
-    const struct {
-        const char* text;
-        const char* reason;
-    } cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"Form F {\n    A = \n}", "line 3: a value"},
         {"Frame F {\n}", "the text does not begin with a form"},
         {"Form F {\n    Gadget G {\n    }\n}", "unknown kind of control: Gadget"},
-        {"Form F {\n    Probe P {\n    }\n    Label L {\n        Label M {\n        }\n    }\n}", "L can't contain controls"},
-    };
+        {"Form F {\n    Probe P {\n    }\n    Label L {\n        Label M {\n        }\n    }\n}", "L can't contain controls"}};
     for (const auto& [text, reason] : cases) {
         form = std::make_unique<ProbeForm>(log);
         EXPECT_FALSE(form->Load(text, factory));

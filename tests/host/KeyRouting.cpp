@@ -54,21 +54,6 @@ TEST_F(KeyRouting, Preview_SeesKeysFirstAndMayChangeOrSwallowThem)
     EXPECT_EQ(log.Take(), (Lines{"Plain.KeyDown 65", "Plain.KeyPress 97", "Plain.KeyUp 65"}));
 }
 
-TEST_F(KeyRouting, Preview_IsToldWhichShiftKeysAreHeld)
-{
-    Open(keyboard);
-    form->changeKey = [](std::int16_t& code) { code = 0; };
-    const std::tuple<int, int, const char*> cases[] = {{VK_F5, 4, "Form.KeyDown 116 4"},
-                                                       {VK_ESCAPE, 0, "Form.KeyDown 27"},
-                                                       {VK_ESCAPE, 1, "Form.KeyDown 27 1"},
-                                                       {VK_F2, 3, "Form.KeyDown 113 3"}};
-    for (const auto& [key, shift, line] : cases) {
-        Press(key, shift);
-        const Lines seen = log.Take();
-        EXPECT_NE(std::ranges::find(seen, line), seen.end()) << line << " among\n" << testing::PrintToString(seen);
-    }
-}
-
 TEST_F(KeyRouting, EnterAndEsc_PressTheButtonsThatTheFormNames)
 {
     form->KeyPreview(false);

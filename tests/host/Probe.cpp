@@ -39,13 +39,6 @@ void Probe::UserControl_ReadProperties(const host::PropertyBag& bag)
     Note(OwnHandle() != nullptr ? "ReadProperties" : "ReadProperties without a window");
 }
 
-void Probe::UserControl_WriteProperties(host::PropertyBag& bag)
-{
-    bag.Write(TEXT("Focus"), canGetFocus_, true);
-    bag.Write(TEXT("Button"), isButton_, false);
-    bag.Write(TEXT("Key"), GetSurface().AccessKey(), {});
-}
-
 void Probe::UserControl_Resize()
 {
     Note("Resize " + std::to_string(GetSurface().ScaleWidth()) + "x" + std::to_string(GetSurface().ScaleHeight()));

@@ -27,7 +27,7 @@ struct Log {
     std::vector<std::string> Take() { return std::exchange(lines, {}); }
 };
 
-/// A user control that logs every call as "name.Call". Stored properties: Focus (can take the focus, True), Button (False), Key (its
+/// A user control that logs every call as "name.Call". Properties that it reads: Focus (can take the focus, True), Button (False), Key (its
 /// access key). Its paints and mouse moves are left out: Windows decides how many there are.
 class Probe final : public host::UserControl {
 public:
@@ -50,7 +50,6 @@ private:
     void UserControl_Initialize() override { Note("Initialize"); }
     void UserControl_InitProperties() override { Note("InitProperties"); }
     void UserControl_ReadProperties(const host::PropertyBag& bag) override;
-    void UserControl_WriteProperties(host::PropertyBag& bag) override;
     void UserControl_Terminate() override { Note("Terminate"); }
     void UserControl_Show() override { Note("Show"); }
     void UserControl_Hide() override { Note("Hide"); }

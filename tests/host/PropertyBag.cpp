@@ -32,23 +32,4 @@ TEST(PropertyBag, MissingKeyOrOtherType_GivesTheDefault)
     EXPECT_EQ(bag.Read<std::shared_ptr<Font>>(TEXT("Text"), nullptr), nullptr);
 }
 
-TEST(PropertyBag, Write_LeavesOutDefaultsAndKeepsTheOrder)
-{
-    PropertyBag bag;
-    bag.Write(TEXT("Always"), std::uint8_t{0});
-    bag.Write(TEXT("Same"), std::int32_t{5}, 5);
-    bag.Write(TEXT("Color"), std::uint32_t{0x800000}, 0);
-    bag.Write(TEXT("Twice"), std::int32_t{1}, 0);
-    bag.Write(TEXT("Twice"), std::int16_t{0}, 1);
-    const auto plain = std::make_shared<Font>();
-    bag.Write(TEXT("EqualFont"), plain, plain->Copy());
-    const auto changed = plain->Copy();
-    changed->Name(TEXT("Arial"));
-    bag.Write(TEXT("Font"), changed, plain);
-    EXPECT_EQ(WriteForm({TEXT("A"), TEXT("B"), bag.Properties(), {}}),
-              "A B {\n    Always = 0\n    Color = 0x00800000\n    Twice = 1\n    Twice = 0\n    Font = Font(\"Arial\", 8.25)\n}\n");
-    EXPECT_EQ(bag.Read<std::int16_t>(TEXT("Twice"), 9, 1), 0);
-    EXPECT_EQ(bag.Read<std::int16_t>(TEXT("Twice"), 9, 2), 9);
-}
-
 }  // namespace tests

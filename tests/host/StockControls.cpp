@@ -4,6 +4,7 @@
 #include "host/Timer.h"
 #include "tests/host/Probe.h"
 #include "tests/support/ControlParent.h"
+#include "tests/support/MessageLog.h"
 
 namespace tests {
 
@@ -92,22 +93,14 @@ TEST_F(StockControls, Timer_TicksOnlyWhileItRuns)
         if (++ticks == 2)
             timer.Enabled(false);
     });
-    // Waits in the message loop, whose own timer ends the wait.
-    const auto wait = [&](UINT milliseconds) {
-        const UINT_PTR bell = form->AddTimer([] { PostQuitMessage(0); });
-        SetTimer(form->hWnd(), bell, milliseconds, nullptr);
-        host::MessageLoop::Run();
-        KillTimer(form->hWnd(), bell);
-        form->RemoveTimer(bell);
-    };
-    wait(100);
+    PumpMessages(100);
     EXPECT_EQ(ticks, 0);
     timer.Enabled(true);
-    wait(300);
+    PumpMessages(300);
     EXPECT_EQ(ticks, 2);
     timer.Interval(0);
     timer.Enabled(true);
-    wait(100);
+    PumpMessages(100);
     EXPECT_EQ(ticks, 2);
 }
 

@@ -46,22 +46,6 @@ TEST_F(UserControl, NewOne_GetsInitPropertiesAndShowsAtOnce)
     EXPECT_EQ(log.Take(), made);
     EXPECT_EQ(GetParent(WindowOf(TEXT("Late"))), outer.OwnHandle());
     EXPECT_EQ(outer.ContainedControls().size(), 2U);
-    EXPECT_EQ(form->Controls().size(), 4U);
-}
-
-TEST_F(UserControl, FormText_TellsWhatHasChanged)
-{
-    Open(nested);
-    const std::string first = form->Write();
-    ExtenderOf(TEXT("Inner")).Left(315);
-    ExtenderOf(TEXT("Inner")).ToolTipText(TEXT("tip"));
-    ExtenderOf(TEXT("Unseen")).Visible(true);
-    std::string expected = first;
-    expected.replace(expected.find("Left = 300"), 10, "Left = 315");
-    const std::string tabIndex = "TabIndex = 1\n", visible = "        Visible = False\n";
-    expected.insert(expected.find(tabIndex) + tabIndex.size(), "            ToolTipText = \"tip\"\n");
-    expected.erase(expected.find(visible), visible.size());
-    EXPECT_EQ(form->Write(), expected);
 }
 
 TEST_F(UserControl, Ambient_AnswersForTheFormAndTheContainer)

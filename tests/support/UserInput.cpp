@@ -23,6 +23,16 @@ INPUT Mouse(DWORD flags)
     return input;
 }
 
+INPUT Key(WORD virtualKey, WCHAR character, DWORD flags)
+{
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = virtualKey;
+    input.ki.wScan = character;
+    input.ki.dwFlags = flags;
+    return input;
+}
+
 }  // namespace
 
 void MoveMouse(int x, int y)
@@ -53,11 +63,7 @@ void ClickMouse()
 
 void SendKey(WORD virtualKey, DWORD flags)
 {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = virtualKey;
-    input.ki.dwFlags = flags;
-    Send(input);
+    Send(Key(virtualKey, 0, flags));
 }
 
 void PressKey(WORD virtualKey)
@@ -68,13 +74,8 @@ void PressKey(WORD virtualKey)
 
 void SendCharacter(WCHAR character)
 {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wScan = character;
-    input.ki.dwFlags = KEYEVENTF_UNICODE;
-    Send(input);
-    input.ki.dwFlags |= KEYEVENTF_KEYUP;
-    Send(input);
+    Send(Key(0, character, KEYEVENTF_UNICODE));
+    Send(Key(0, character, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP));
 }
 
 }  // namespace tests

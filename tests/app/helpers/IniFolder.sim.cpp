@@ -33,15 +33,11 @@ TEST_F(IniFolder, WritableApplicationFolder_IsTakenAndKept)
     EXPECT_EQ(GetIniFolder(), application);
 }
 
-TEST_F(IniFolder, SettingsInTheUsersFolder_WinOverAnEmptyApplicationFolder)
+TEST_F(IniFolder, SettingsInTheUsersFolder_WinOverAnEmptyApplicationFolderOnly)
 {
     SettingsIn(userData);
     EXPECT_EQ(GetIniFolder(), userData);
-}
-
-TEST_F(IniFolder, SettingsInBoth_GoWithTheApplicationFolder)
-{
-    SettingsIn(userData);
+    helpers::ForgetCaches();
     SettingsIn(application);
     EXPECT_EQ(GetIniFolder(), application);
 }
@@ -59,11 +55,8 @@ TEST_F(IniFolder, VolumeWithoutAccessControl_NeverQualifies)
     volumes.PersistentAcls(u"C:\\", false);
     EXPECT_EQ(helpers::CheckFolderAccess(application, helpers::ReadAndWriteAccess), -1);
     EXPECT_EQ(GetIniFolder(), TEXT(""));
-}
-
-TEST_F(IniFolder, UsersFolderOnAnotherVolume_IsTakenWhenTheApplicationsHasNoAccessControl)
-{
-    volumes.PersistentAcls(u"C:\\", false);
+    // The user's folder may lie on a better one.
+    helpers::ForgetCaches();
     volumes.AddVolume(u"D:\\");
     volumes.MakeFolder(u"D:\\Data\\Roaming");
     pc.Get<Folders>().Path(CSIDL_APPDATA, u"D:\\Data\\Roaming");
@@ -98,16 +91,14 @@ TEST_F(IniFolder, AccessCodes_AskForTheirRights)
         int code;
         bool folder;
         int result;
-    } cases[] = {
-        {TEXT("C:\\Tools\\a.txt"), helpers::ReadAccess, false, 1},
-        {TEXT("C:\\Tools\\a.txt"), helpers::WriteAccess, false, 0},
-        {TEXT("C:\\Tools\\a.txt"), helpers::ReadAndWriteAccess, false, 0},
-        {TEXT("C:\\Tools\\a.txt"), FILE_EXECUTE, false, 1},
-        {TEXT("C:\\Tools"), helpers::ReadAccess, true, 1},
-        {TEXT("C:\\Tools\\"), helpers::WriteAccess, true, 1},
-        {TEXT("C:\\Missing"), helpers::ReadAccess, true, -2},
-        {TEXT("Tools"), helpers::ReadAccess, true, -2},
-    };
+    } cases[] = {{TEXT("C:\\Tools\\a.txt"), helpers::ReadAccess, false, 1},
+                 {TEXT("C:\\Tools\\a.txt"), helpers::WriteAccess, false, 0},
+                 {TEXT("C:\\Tools\\a.txt"), helpers::ReadAndWriteAccess, false, 0},
+                 {TEXT("C:\\Tools\\a.txt"), FILE_EXECUTE, false, 1},
+                 {TEXT("C:\\Tools"), helpers::ReadAccess, true, 1},
+                 {TEXT("C:\\Tools\\"), helpers::WriteAccess, true, 1},
+                 {TEXT("C:\\Missing"), helpers::ReadAccess, true, -2},
+                 {TEXT("Tools"), helpers::ReadAccess, true, -2}};
     for (const auto& c : cases)
         EXPECT_EQ(helpers::CheckPathAccess(c.path, c.code, c.folder), c.result) << &c - cases;
     EXPECT_EQ(helpers::CheckFolderAccess(TEXT("C:\\Missing"), helpers::ReadAccess), -3);
@@ -119,14 +110,11 @@ TEST_F(IniFolder, AccessCodes_AskForTheirRights)
 
 TEST_F(IniFolder, FailingSecurityCalls_CountAsNotUsable)
 {
-    const struct {
-        const char* function;
-        int result;
-    } cases[] = {
+    const std::pair<const char*, int> cases[] = {
         {"GetVolumeInformationW", -1}, {"GetFileSecurityW", -2}, {"OpenThreadToken", -2}, {"ImpersonateSelf", -2}, {"AccessCheck", 0}};
-    for (const auto& c : cases) {
-        pc.GetFaults().FailAlways(c.function, ERROR_ACCESS_DENIED);
-        EXPECT_EQ(helpers::CheckFolderAccess(application, helpers::ReadAccess), c.result) << c.function;
+    for (const auto& [function, result] : cases) {
+        pc.GetFaults().FailAlways(function, ERROR_ACCESS_DENIED);
+        EXPECT_EQ(helpers::CheckFolderAccess(application, helpers::ReadAccess), result) << function;
         pc.GetFaults().Clear();
         EXPECT_EQ(pc.Get<Users>().Impersonation(), std::nullopt);
     }

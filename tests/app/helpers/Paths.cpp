@@ -1,6 +1,5 @@
 #include "app/helpers/Paths.h"
 
-#include "tests/support/FreshCaches.h"
 #include "tests/support/ScratchFolder.h"
 
 using base::String;
@@ -9,30 +8,23 @@ using helpers::IsValidPath;
 
 namespace {
 
-class Paths : public tests::FreshCaches {};
-
 std::string Shown(const String& text)
 {
     return {text.begin(), text.end()};
 }
 
-TEST(PathsText, GetFolderFromPath_EndsBehindLastBackslash)
+TEST(Paths, GetFolderFromPath_EndsBehindLastBackslash)
 {
-    const struct {
-        const WCHAR* path;
-        const WCHAR* folder;
-    } cases[] = {
-        {TEXT("C:\\A\\b.ini"), TEXT("C:\\A\\")},
-        {TEXT("  C:\\A\\b.ini "), TEXT("C:\\A\\")},
-        {TEXT("\\\\server\\share\\b"), TEXT("\\\\server\\share\\")},
-        {TEXT("b.ini"), TEXT("b.ini")},
-        {TEXT(""), TEXT("")},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(helpers::GetFolderFromPath(c.path), c.folder);
+    const std::pair<const WCHAR*, const WCHAR*> cases[] = {{TEXT("C:\\A\\b.ini"), TEXT("C:\\A\\")},
+                                                           {TEXT("  C:\\A\\b.ini "), TEXT("C:\\A\\")},
+                                                           {TEXT("\\\\server\\share\\b"), TEXT("\\\\server\\share\\")},
+                                                           {TEXT("b.ini"), TEXT("b.ini")},
+                                                           {TEXT(""), TEXT("")}};
+    for (const auto& [path, folder] : cases)
+        EXPECT_EQ(helpers::GetFolderFromPath(path), folder);
 }
 
-TEST(PathsText, IsValidFileName_RejectsDotsAtTheEndsAndForbiddenCharacters)
+TEST(Paths, IsValidFileName_RejectsDotsAtTheEndsAndForbiddenCharacters)
 {
     for (const WCHAR* name : {TEXT("a"), TEXT("Velmora"), TEXT("a.b"), TEXT("a b"), TEXT(" a ")})
         EXPECT_TRUE(IsValidFileName(name)) << Shown(name);
@@ -41,7 +33,7 @@ TEST(PathsText, IsValidFileName_RejectsDotsAtTheEndsAndForbiddenCharacters)
         EXPECT_FALSE(IsValidFileName(name)) << "length " << Shown(name);
 }
 
-TEST(PathsText, IsValidPath_WantsARootAndAFileName)
+TEST(Paths, IsValidPath_WantsARootAndAFileName)
 {
     for (const WCHAR* path :
          {TEXT("C:\\a.ini"), TEXT("  C:\\A b\\a.ini  "), TEXT("\\a.ini"), TEXT("\\\\server\\share\\a.ini"), TEXT("\\\\?\\C:\\A\\a.ini")})
@@ -52,7 +44,7 @@ TEST(PathsText, IsValidPath_WantsARootAndAFileName)
         EXPECT_FALSE(IsValidPath(path)) << Shown(path);
 }
 
-TEST_F(Paths, FileAndFolder_AreToldApart)
+TEST(Paths, FileAndFolder_AreToldApart)
 {
     tests::ScratchFolder scratch;
     const String file = scratch.Write(TEXT("a.txt"), "x");
@@ -63,13 +55,6 @@ TEST_F(Paths, FileAndFolder_AreToldApart)
     EXPECT_FALSE(helpers::FileExists(scratch.Path() + TEXT("b.txt")));
     EXPECT_FALSE(helpers::FileExists(TEXT("")));
     EXPECT_FALSE(helpers::FolderExists(TEXT(" ")));
-}
-
-TEST_F(Paths, AppPathAndExeName_MakeTheRunningModule)
-{
-    EXPECT_TRUE(helpers::FileExists(helpers::GetAppPath() + helpers::GetAppExeName() + TEXT(".exe")));
-    EXPECT_EQ(helpers::GetAppPath().back(), TEXT('\\'));
-    EXPECT_EQ(helpers::GetAppExeName().find(TEXT('.')), String::npos);
 }
 
 }  // namespace

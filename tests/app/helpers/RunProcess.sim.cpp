@@ -26,22 +26,16 @@ TEST_F(RunningProcess, CommandLine_QuotesOnlyPathsWithBlanks)
 {
     AddProgram(u"C:\\A\\a.exe", 10);
     AddProgram(u"C:\\A b\\a.exe", 10);
-    const struct {
-        const WCHAR* path;
-        const WCHAR* arguments;
-        const char16_t* commandLine;
-        const char16_t* folder;
-    } cases[] = {
+    const std::tuple<const WCHAR*, const WCHAR*, const char16_t*, const char16_t*> cases[] = {
         {TEXT("C:\\A\\a.exe"), TEXT(""), u"C:\\A\\a.exe", u"C:\\A\\"},
         {TEXT(" C:\\A\\a.exe "), TEXT("  /x y "), u"C:\\A\\a.exe /x y", u"C:\\A\\"},
         {TEXT("C:\\A b\\a.exe"), TEXT("/x"), u"\"C:\\A b\\a.exe\" /x", u"C:\\A b\\"},
-        {TEXT("\"C:\\A b\\a.exe\""), TEXT(""), u"\"C:\\A b\\a.exe\"", u"C:\\A b\\"},
-    };
-    for (const auto& c : cases) {
-        EXPECT_NE(RunProcess(c.path, c.arguments, false, true, NORMAL_PRIORITY_CLASS), 0u);
+        {TEXT("\"C:\\A b\\a.exe\""), TEXT(""), u"\"C:\\A b\\a.exe\"", u"C:\\A b\\"}};
+    for (const auto& [path, arguments, commandLine, folder] : cases) {
+        EXPECT_NE(RunProcess(path, arguments, false, true, NORMAL_PRIORITY_CLASS), 0u);
         const auto& request = processes.Requests().back();
-        EXPECT_EQ(request.commandLine, c.commandLine);
-        EXPECT_EQ(request.folder, c.folder);
+        EXPECT_EQ(request.commandLine, commandLine);
+        EXPECT_EQ(request.folder, folder);
         EXPECT_EQ(request.flags, 32u);
         EXPECT_EQ(request.startupFlags, 1u);
         EXPECT_EQ(request.showWindow, SW_SHOWNORMAL);

