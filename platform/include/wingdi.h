@@ -258,8 +258,6 @@ HPEN WINAPI CreatePen(int style, int width, COLORREF color);
 HBRUSH WINAPI CreateSolidBrush(COLORREF color);
 HBRUSH WINAPI CreatePatternBrush(HBITMAP bitmap);
 HFONT WINAPI CreateFontIndirectW(const LOGFONTW* font);
-HFONT WINAPI CreateFontW(int height, int width, int escapement, int orientation, int weight, DWORD italic, DWORD underline, DWORD strikeOut,
-                         DWORD charSet, DWORD outPrecision, DWORD clipPrecision, DWORD quality, DWORD pitchAndFamily, LPCWSTR faceName);
 
 // ---- Bitmaps ----
 

@@ -48,31 +48,6 @@ HFONT WINAPI CreateFontIndirectW(const LOGFONTW* font)
     return OpenObject<HFONT>(std::move(object));
 }
 
-HFONT WINAPI CreateFontW(int height, int width, int escapement, int orientation, int weight, DWORD italic, DWORD underline, DWORD strikeOut,
-                         DWORD charSet, DWORD outPrecision, DWORD clipPrecision, DWORD quality, DWORD pitchAndFamily, LPCWSTR faceName)
-{
-    SIM_CALL(nullptr, ERROR_NOT_ENOUGH_MEMORY, height, width, weight, faceName);
-    auto object = std::make_shared<Font>();
-    const auto byte = [](DWORD value) { return static_cast<BYTE>(value); };
-    object->description = {height,
-                           width,
-                           escapement,
-                           orientation,
-                           weight,
-                           byte(italic != 0),
-                           byte(underline != 0),
-                           byte(strikeOut != 0),
-                           byte(charSet),
-                           byte(outPrecision),
-                           byte(clipPrecision),
-                           byte(quality),
-                           byte(pitchAndFamily),
-                           {}};
-    for (int index = 0; faceName && faceName[index] && index < LF_FACESIZE - 1; ++index)
-        object->description.lfFaceName[index] = faceName[index];
-    return OpenObject<HFONT>(std::move(object));
-}
-
 HGDIOBJ WINAPI GetStockObject(int index)
 {
     SIM_NOTE(index);
