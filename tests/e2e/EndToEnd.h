@@ -11,6 +11,8 @@
 namespace e2e {
 
 class EndToEnd : public testing::Test {
+    std::vector<base::String> copies_;  // comes before the members that are made by putting copies
+
 protected:
     void SetUp() override;
     void TearDown() override;
@@ -27,8 +29,6 @@ protected:
 
 private:
     base::String Put(const WCHAR* variable, base::StringView name);
-
-    std::vector<base::String> copies_;
 };
 
 }  // namespace e2e

@@ -55,7 +55,7 @@ TEST_F(EndToEnd, EscAltF5AndTheCloseBox_DropWhatWasTyped)
         else if (way == 1)
             utility.Press({VK_MENU, VK_F5});
         else
-            PostMessageW(utility.Window(), WM_SYSCOMMAND, SC_CLOSE, 0);
+            utility.ClickCloseBox();
         EXPECT_TRUE(utility.Ended());
         EXPECT_EQ(GetFileAttributesW(settings_.c_str()), INVALID_FILE_ATTRIBUTES);
     }

@@ -56,11 +56,11 @@ TEST_F(EndToEnd, NameWithBlank_NamesTheAgentAndItsSettings)
     utility.Click("cmdInstall");
     EXPECT_TRUE(Eventually([] { return InstalledService().has_value(); }));
     EXPECT_EQ(InstalledService().value_or(ServiceFacts{}).binaryPath, TEXT("\"") + fooAgent + TEXT("\""));
-    ASSERT_TRUE(Eventually([&] { return utility.Enabled("cmdInstall") && utility.Enabled("cmdStart"); }));
-    utility.Click("cmdInstall");
-    ASSERT_TRUE(Eventually([&] { return utility.Enabled("CheckAutoStart"); }));
+    ASSERT_TRUE(RemoveService());
+    ASSERT_TRUE(Eventually([&] { return utility.Enabled("CheckAutoStart"); }, SERVICE_TICK));
 
     utility.Click("CheckAutoStart");
+    ASSERT_TRUE(Eventually([&] { return utility.Checked("CheckAutoStart"); }));
     utility.Enter("TextPassword", TEXT("abc"));
     utility.Click("CommandOk");
     ASSERT_TRUE(utility.Ended());
