@@ -12,9 +12,4 @@ double GetGoldenSection(std::int32_t segmentLength, bool getMaxSegment)
     return getMaxSegment ? segmentLength * std::numbers::phi : segmentLength / std::numbers::phi;
 }
 
-void ApplyGoldenSection(host::Extender& extender)
-{
-    extender.Width(static_cast<float>(GetGoldenSection(static_cast<std::int32_t>(extender.Height()), true)));
-}
-
 }  // namespace controls

@@ -72,6 +72,7 @@ void HostedWindow::Destroy()
     window_ = nullptr;
     shown_ = false;
     windowFocused_ = false;
+    keptFocusLook_ = false;
 }
 
 LRESULT HostedWindow::Send(UINT message, WPARAM wParam, LPARAM lParam) const

@@ -82,12 +82,16 @@ public:
     // Focus.
 
     [[nodiscard]] bool ControlFocused() const { return controlFocused_; }
-    [[nodiscard]] bool WindowFocused() const { return windowFocused_; }
+    /// The window has been told that it has the keyboard focus, and still has it.
+    [[nodiscard]] bool WindowFocused() const { return windowFocused_ && window_ && GetFocus() == window_; }
     void WindowFocused(bool focused) { windowFocused_ = focused; }
+    /// The window is losing the focus: true when it must not hear of it because the control stays the form's active one. It hears of it
+    /// when the control is left.
+    bool KeepsFocusLook();
     /// The control has got the focus. Enabled, it hands it to the window; disabled, it passes it on by the key that brought it, `backward`
     /// being where Left and Up go.
     void ControlGotFocus(bool enabled, FocusScope backward);
-    void ControlLostFocus() { controlFocused_ = false; }
+    void ControlLostFocus();
     /// Gives the window the keyboard focus without its own handler hearing of it.
     void TakeFocus();
     /// Moves the focus to the next control in tab order.
@@ -107,6 +111,7 @@ private:
     bool firstPaintDone_ = false;
     bool controlFocused_ = false;
     bool windowFocused_ = false;
+    bool keptFocusLook_ = false;
     float lastLeft_ = 0;
     float lastTop_ = 0;
 };

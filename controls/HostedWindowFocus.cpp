@@ -26,6 +26,25 @@ void HostedWindow::TakeFocus()
     if (GetFocus() != window_)
         SetFocus(window_);
     windowFocused_ = true;
+    keptFocusLook_ = false;
+}
+
+bool HostedWindow::KeepsFocusLook()
+{
+    keptFocusLook_ = controlFocused_;
+    if (!controlFocused_)
+        windowFocused_ = false;
+    return controlFocused_;
+}
+
+/// A window of another control may have taken the focus by itself, before the form knew: then this one still looks as if it had it.
+void HostedWindow::ControlLostFocus()
+{
+    controlFocused_ = false;
+    if (std::exchange(keptFocusLook_, false) && window_ && GetFocus() != window_) {
+        Send(WM_KILLFOCUS);
+        windowFocused_ = false;
+    }
 }
 
 void HostedWindow::ControlGotFocus(bool enabled, FocusScope backward)
@@ -34,7 +53,7 @@ void HostedWindow::ControlGotFocus(bool enabled, FocusScope backward)
     if (creating_ > 0)
         return;
     if (enabled) {
-        if (window_ && !windowFocused_)
+        if (window_ && !WindowFocused())
             TakeFocus();
     } else if (IsDownNow(VK_TAB)) {
         MoveFocus(IsDownNow(VK_SHIFT) ? FocusDirection::Backward : FocusDirection::Forward, FocusScope::AllContainers);

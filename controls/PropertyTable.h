@@ -203,9 +203,9 @@ typename PropertyTable<Control>::Row StoredAs(const WCHAR* key, Reach, PropertyD
         std::move(standard), whenDefault);
 }
 
-/// The same for a member of the control.
-template <class Control, class Stored, class Value>
-typename PropertyTable<Control>::Row StoredAs(const WCHAR* key, Value Control::*member, PropertyDefault<Control, Stored> standard,
+/// The same for a member of the control or of a base of it.
+template <class Control, class Stored, class Owner, class Value>
+typename PropertyTable<Control>::Row StoredAs(const WCHAR* key, Value Owner::*member, PropertyDefault<Control, Stored> standard,
                                               WhenDefault whenDefault = WhenDefault::LeftOut)
 {
     return typename PropertyTable<Control>::Row(

@@ -55,6 +55,8 @@ public:
     virtual void Hidden() {}
     /// The extender's position or size changed.
     virtual void Placed() {}
+    /// The extender names another container now.
+    virtual void ContainerChanged() {}
     virtual void Store(PropertyBag& bag) = 0;
     /// Lets go of windows and handles. May be called twice.
     virtual void Unload() = 0;

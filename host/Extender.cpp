@@ -32,8 +32,18 @@ std::int32_t Whole(float value)
 }  // namespace
 
 Extender::Extender(Control& control, Form& form, host::Container& container, base::String name)
-    : control_(control), form_(form), container_(container), name_(std::move(name))
+    : control_(control), form_(form), container_(&container), name_(std::move(name))
 {
+}
+
+void Extender::Container(host::Container& container)
+{
+    const HWND window = container.ContainerHandle(), own = control_.OwnHandle();
+    if (&container == container_ || (own != nullptr && (window == own || IsChild(own, window))))
+        return;
+    form_.MoveTo(control_, *container_, container);
+    container_ = &container;
+    control_.ContainerChanged();
 }
 
 void Extender::Left(float left)
@@ -67,7 +77,7 @@ void Extender::Move(float left, float top, float width, float height)
 
 RECT Extender::PixelRect() const
 {
-    const ScaleMode mode = container_.ContainerScaleMode();
+    const ScaleMode mode = container_->ContainerScaleMode();
     const int left = ToPixelsX(left_, mode), top = ToPixelsY(top_, mode);
     return {left, top, left + ToPixelsX(width_, mode), top + ToPixelsY(height_, mode)};
 }

@@ -21,7 +21,10 @@ public:
 
     [[nodiscard]] const base::String& Name() const { return name_; }
     [[nodiscard]] Form* Parent() const { return &form_; }
-    [[nodiscard]] host::Container& Container() const { return container_; }
+    [[nodiscard]] host::Container& Container() const { return *container_; }
+    /// Moves the control, with all that stands in it, to another container of the form. Nothing happens when that is the control itself or
+    /// stands in it.
+    void Container(host::Container& container);
 
     [[nodiscard]] float Left() const { return left_; }
     void Left(float left);
@@ -70,7 +73,7 @@ public:
 private:
     Control& control_;
     Form& form_;
-    host::Container& container_;
+    host::Container* container_;
     base::String name_;
     float left_ = 0, top_ = 0, width_ = 0, height_ = 0;
     bool visible_ = true;

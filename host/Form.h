@@ -108,6 +108,8 @@ public:
     /// Lets the form handle a key as its own: WM_KEYDOWN and WM_SYSKEYDOWN, ..KEYUP, WM_CHAR. False when the code became 0; else wParam
     /// holds the code that goes on.
     bool HandleKey(UINT message, WPARAM& wParam);
+    /// Enters a control in the list of another container.
+    static void MoveTo(Control& control, Container& from, Container& to);
     /// A number for a control's SetTimer on the form's window, and who ticks when it is due.
     [[nodiscard]] UINT_PTR AddTimer(std::function<void()> tick);
     void RemoveTimer(UINT_PTR timer);

@@ -90,6 +90,12 @@ Control* Form::Add(base::StringView kind, base::StringView name, float left, flo
     return control;
 }
 
+void Form::MoveTo(Control& control, Container& from, Container& to)
+{
+    std::erase(from.contained_, &control);
+    to.contained_.push_back(&control);
+}
+
 std::vector<Control*> Form::Controls() const
 {
     std::vector<Control*> all;

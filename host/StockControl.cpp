@@ -89,6 +89,13 @@ void StockControl::Placed()
                      SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void StockControl::ContainerChanged()
+{
+    if (hWnd() != nullptr)
+        SetParent(hWnd(), ContainerWindow());
+    Placed();
+}
+
 LRESULT CALLBACK StockControl::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR control) noexcept
 {
     auto* const self = reinterpret_cast<StockControl*>(control);

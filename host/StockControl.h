@@ -43,6 +43,7 @@ private:
     void LoadNew() final;
     void LoadStored(const PropertyBag& bag) final;
     void Placed() final;
+    void ContainerChanged() final;
     void Store(PropertyBag& bag) final;
     void Unload() final { window_.Reset(); }
     void MakeWindow();

@@ -75,6 +75,15 @@ void UserControl::Placed()
                      SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void UserControl::ContainerChanged()
+{
+    if (OwnHandle() == nullptr)
+        return;
+    SetParent(OwnHandle(), ContainerWindow());
+    Placed();
+    UserControl_ContainerChanged();
+}
+
 /// Gives the surface the window's client size. Windows reports a size also when it has not changed.
 void UserControl::Sized()
 {

@@ -12,9 +12,9 @@ namespace host {
 /// The window exists (hidden or shown as the extender says) before InitProperties and ReadProperties; at the end come Hide and
 /// Terminate, then the window goes. A control whose window can't be made lives on without: OwnHandle is NULL and the surface draws nothing.
 ///
-/// Mouse: the left button going down on a control that can take the focus gives it the focus; Click follows MouseUp when the left button
-/// is released over the control that it went down on; a double click is MouseDown, MouseUp, Click, DblClick, MouseUp.
-/// Button: 1 left, 2 right, 4 middle (in MouseMove the sum of those held); Shift: 1 Shift, 2 Ctrl, 4 Alt; x and y in pixels.
+/// Mouse: the left button going down on an enabled control that can take the focus gives it the focus; Click follows MouseUp when the left
+/// button is released over the control that it went down on; a double click is MouseDown, MouseUp, Click, DblClick, MouseUp. Button: 1
+/// left, 2 right, 4 middle (in MouseMove the sum of those held); Shift: 1 Shift, 2 Ctrl, 4 Alt; x and y in pixels.
 ///
 /// Focus: EnterFocus, GotFocus when the control becomes the form's active control; LostFocus, ExitFocus when another one does. When
 /// the own window gets the keyboard focus while the control is active already, only GotFocus comes. Another window of this or another
@@ -31,7 +31,7 @@ public:
     void SetFocus() override;
     [[nodiscard]] base::String AccessKey() const final { return surface_.AccessKey(); }
     /// All keys but Esc, and but Enter unless it is a button.
-    [[nodiscard]] bool WantsKey(std::int16_t keyCode) const final;
+    [[nodiscard]] bool WantsKey(std::int16_t keyCode) const override;
     /// Marks the whole window for a repaint.
     virtual void Refresh();
 
@@ -72,6 +72,8 @@ protected:
     virtual void UserControl_KeyPress(std::int16_t& /*keyAscii*/) {}
     virtual void UserControl_AccessKeyPress(std::int16_t /*key*/) {}
     virtual void UserControl_AmbientChanged(base::StringView /*name*/) {}
+    /// The control stands on another container; its own window is there already.
+    virtual void UserControl_ContainerChanged() {}
 
 private:
     // What the form asks of every control.
@@ -80,6 +82,7 @@ private:
     void Shown() final;
     void Hidden() final;
     void Placed() final;
+    void ContainerChanged() final;
     void Store(PropertyBag& bag) final { UserControl_WriteProperties(bag); }
     void Unload() final;
     void EnterFocus() final { UserControl_EnterFocus(); }

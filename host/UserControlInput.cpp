@@ -94,7 +94,8 @@ void UserControl::OnMouse(UINT message, WPARAM keys, POINT at)
             break;
         }
         case WM_LBUTTONDOWN:
-            if (CanGetFocus())
+            // A disabled control's own window is enabled where it stands behind a system window that is not.
+            if (CanGetFocus() && Enabled())
                 SetFocus();
             ButtonDown(leftButton, shift, at);
             break;

@@ -1,7 +1,6 @@
 // CheckBox: persistence, life and the system's button.
 #include "controls/CheckBox/CheckBox.h"
 
-#include "controls/FontRule.h"
 #include "controls/PropertyTable.h"
 
 #include <uxtheme.h>
@@ -44,8 +43,7 @@ const PropertyTable<CheckBox>& CheckBox::Properties()
         StoredThrough<C, uint8_t>(
             TEXT("Value"), [](C& box) { return box.Value(); }, [](C& box, uint8_t value) { box.value_ = value; }, Unchecked),
         StoredThrough<C, std::shared_ptr<host::Font>>(
-            TEXT("Font"), [](C& box) { return box.Font(); },
-            [](C& box, const std::shared_ptr<host::Font>& font) { box.GetSurface().Font(font); },
+            TEXT("Font"), [](C& box) { return box.Font(); }, [](C& box, const std::shared_ptr<host::Font>& font) { box.TakeFont(*font); },
             [](C& box) { return box.Ambient().Font(); }),
         StoredAs<C, uint8_t>(TEXT("UseClassicTheme"), &C::useClassicTheme_, 0),
         StoredThrough<C, bool>(
@@ -56,54 +54,22 @@ const PropertyTable<CheckBox>& CheckBox::Properties()
     return table;
 }
 
-CheckBox::CheckBox() : ToolTip(static_cast<host::UserControl&>(*this))
-{
-    hosted_.SubclassControl.WndProc.Connect([this](HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT&, bool& handled) {
-        SubclassControl_WndProc(window, message, wParam, lParam, handled);
-    });
-    hosted_.SubclassParent.WndProc.Connect([this](auto&&... arguments) { SubclassParent_WndProc(arguments...); });
-    hosted_.SubclassOwner.WndProc.Connect([this](HWND, UINT message, WPARAM wParam, LPARAM, LRESULT&, bool& handled) {
-        hosted_.FormMessage(message, wParam, enabled_, handled);
-    });
-}
-
-CheckBox::~CheckBox()
-{
-    ReleaseButton();
-}
-
 void CheckBox::UserControl_InitProperties()
 {
-    GetSurface().Font(Ambient().Font());
+    TakeFont(*Ambient().Font());
     caption_ = Ambient().DisplayName();
-    hosted_.Attach();
-    CreateButton();
+    Begin();
 }
 
 void CheckBox::UserControl_ReadProperties(const PropertyBag& bag)
 {
     Properties().Read(*this, bag);
-    if (forceTrueType_)
-        ApplyForceTrueType(*Font(), ForceTrueTypeChoice::MessageFontFirst);
-    hosted_.Attach();
-    CreateButton();
+    Begin();
 }
 
 void CheckBox::UserControl_WriteProperties(PropertyBag& bag)
 {
     Properties().Write(*this, bag);
-}
-
-void CheckBox::UserControl_Terminate()
-{
-    ReleaseButton();
-}
-
-void CheckBox::UserControl_Show()
-{
-    if (IsRunTime())
-        AdoptExtenderToolTip();
-    hosted_.ControlShown();
 }
 
 void CheckBox::UserControl_Resize()
@@ -126,7 +92,7 @@ void CheckBox::ReleaseButton()
     shownFont_.reset();
 }
 
-void CheckBox::CreateButton()
+void CheckBox::CreateWindowAnew()
 {
     const HostedWindow::Creation creation(hosted_);
     ReleaseButton();

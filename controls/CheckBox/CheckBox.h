@@ -3,11 +3,9 @@
 
 #include "base/Handles.h"
 #include "controls/CheckBox/CheckBoxLayout.h"
-#include "controls/HostedWindow.h"
-#include "controls/ToolTip.h"
+#include "controls/HostedControl.h"
 #include "controls/WindowDc.h"
 #include "host/Event.h"
-#include "host/UserControl.h"
 
 #include <cstdint>
 #include <memory>
@@ -18,15 +16,11 @@ template <class Control>
 class PropertyTable;
 
 /// The system draws the box; it never toggles by itself. A click or Space makes it checked or unchecked; only code makes it grayed.
-class CheckBox final : public host::UserControl, public ToolTip {
+class CheckBox final : public HostedControl {
 public:
-    CheckBox();
-    ~CheckBox() override;
+    ~CheckBox() override { ReleaseButton(); }
 
     [[nodiscard]] base::StringView Kind() const override { return TEXT("CheckBox"); }
-    /// The system's check box.
-    [[nodiscard]] HWND hWnd() const override { return hosted_.Window(); }
-    [[nodiscard]] bool IsRunTime() const { return Ambient().UserMode(); }
 
     /// 0 unchecked, 1 checked, 2 grayed. Set: -1 counts as 1, anything else as 0. A change raises `Click`.
     [[nodiscard]] std::uint8_t Value();
@@ -35,8 +29,6 @@ public:
     void Default(std::int32_t value) { Value(value); }
     [[nodiscard]] base::String Caption();
     void Caption(const base::String& caption);
-    [[nodiscard]] bool Enabled() const override { return enabled_; }
-    void Enabled(bool enabled) override;
 
     /// 0 left, 1 right, 2 centre.
     [[nodiscard]] std::int32_t Alignment() const { return alignment_; }
@@ -62,21 +54,12 @@ public:
     void ForeColor(OleColor color);
     [[nodiscard]] OleColor BackColor() const { return backColor_; }
     void BackColor(OleColor color);
-    [[nodiscard]] const std::shared_ptr<host::Font>& Font() const { return GetSurface().Font(); }
-    void Font(const std::shared_ptr<host::Font>& font);
     /// The control is as wide as its caption needs. Excludes `FontAutoSize`.
     [[nodiscard]] bool AutoSize() const { return autoSize_; }
     void AutoSize(bool autoSize);
     /// The characters are as narrow as the control needs. Excludes `AutoSize`.
     [[nodiscard]] bool FontAutoSize() const { return fontAutoSize_; }
     void FontAutoSize(bool fontAutoSize);
-    [[nodiscard]] bool ForceTrueType() const { return forceTrueType_; }
-    void ForceTrueType(bool force);
-    [[nodiscard]] bool UseClassicTheme() const { return useClassicTheme_; }
-    void UseClassicTheme(bool classic);
-
-    void Refresh() override { hosted_.Redraw(); }
-    void ZedOrder(HWND insertAfter);
 
     host::Event<1> Click;
     host::Event<2, std::int16_t&, std::int16_t&> KeyDown;
@@ -90,31 +73,27 @@ private:
     void UserControl_InitProperties() override;
     void UserControl_ReadProperties(const host::PropertyBag& bag) override;
     void UserControl_WriteProperties(host::PropertyBag& bag) override;
-    void UserControl_Terminate() override;
-    void UserControl_Show() override;
-    void UserControl_Hide() override { hosted_.ControlHidden(); }
-    void UserControl_Paint() override { hosted_.ControlPainted(); }
+    void UserControl_Terminate() override { ReleaseButton(); }
     void UserControl_Resize() override;
     void UserControl_GotFocus() override { hosted_.ControlGotFocus(enabled_, FocusScope::OwnContainer); }
-    void UserControl_LostFocus() override { hosted_.ControlLostFocus(); }
 
-    void CreateButton();
+    void CreateWindowAnew() override;
     void ReleaseButton();
     void Toggle();
     void ResizeToCaption();
+    void FontChanged() override;
     void ShowFont();
     void FitFont();
     void MakeBackgroundBrush();
     void MakeTransparencyBrush();
 
-    void SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, bool& handled);
-    void SubclassParent_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled);
+    void SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled) override;
+    void SubclassParent_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled) override;
     void OnKeyDown(UINT message, WPARAM wParam, LPARAM lParam, bool& handled);
     void ActOnKey(std::int16_t keyCode);
 
     base::String caption_;
     std::uint8_t value_ = Unchecked;
-    bool enabled_ = true;
     std::int32_t alignment_ = TextLeft;
     std::int32_t style_ = 0;
     std::int32_t backStyle_ = 0;
@@ -126,10 +105,7 @@ private:
     OleColor backColor_ = host::SystemColor(COLOR_BTNFACE);
     bool autoSize_ = false;
     bool fontAutoSize_ = false;
-    bool forceTrueType_ = false;
-    bool useClassicTheme_ = false;
 
-    HostedWindow hosted_{*this};
     WindowDc buttonDc_;
     base::BrushHandle backgroundBrush_;
     base::BrushHandle transparencyBrush_;

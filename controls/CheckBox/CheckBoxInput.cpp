@@ -5,7 +5,7 @@
 
 namespace controls {
 
-void CheckBox::SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, bool& handled)
+void CheckBox::SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT&, bool& handled)
 {
     switch (message) {
         case WM_MOUSEMOVE:
@@ -15,7 +15,8 @@ void CheckBox::SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam,
             MouseLeft();
             break;
         case WM_LBUTTONUP:
-            if (IsMouseInside())
+            // The button has the mouse captured and so may hear of a release that is far away.
+            if (IsMouseInside() && IsOver(window, lParam))
                 Toggle();
             break;
         case WM_SETFOCUS:
@@ -23,14 +24,11 @@ void CheckBox::SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam,
             SetFocus();
             break;
         case WM_KILLFOCUS:
-            if (hosted_.ControlFocused())
-                handled = true;
-            else
-                hosted_.WindowFocused(false);
+            handled = hosted_.KeepsFocusLook();
             break;
         case WM_THEMECHANGED:
         case WM_SYSCOLORCHANGE:
-            CreateButton();
+            CreateWindowAnew();
             break;
         case WM_KEYDOWN:
         case WM_SYSKEYDOWN:

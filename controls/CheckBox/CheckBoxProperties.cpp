@@ -1,11 +1,6 @@
 // CheckBoxProperties: what setting a check box's properties does.
 #include "controls/CheckBox/CheckBox.h"
 #include "controls/FontNarrowing.h"
-#include "controls/FontRule.h"
-#include "controls/ZedOrder.h"
-#include "host/Form.h"
-
-#include <uxtheme.h>
 
 #include <cmath>
 
@@ -56,17 +51,6 @@ void CheckBox::Caption(const String& caption)
         ResizeToCaption();
 }
 
-void CheckBox::Enabled(bool enabled)
-{
-    if (!hosted_.Window())
-        return;
-    enabled_ = enabled;
-    if (!enabled)
-        ParentForm().PassFocusOn(*this);
-    EnableWindow(hosted_.Window(), enabled);
-    PropertyChanged(TEXT("Enabled"));
-}
-
 void CheckBox::Alignment(std::int32_t alignment)
 {
     alignment_ = alignment;
@@ -89,28 +73,28 @@ void CheckBox::Style(std::int32_t style)
         return;
     style_ = style;
     PropertyChanged(TEXT("Style"));
-    CreateButton();
+    CreateWindowAnew();
 }
 
 void CheckBox::BackStyle(std::int32_t style)
 {
     backStyle_ = style;
     PropertyChanged(TEXT("BackStyle"));
-    CreateButton();
+    CreateWindowAnew();
 }
 
 void CheckBox::BorderStyle(std::uint8_t style)
 {
     borderStyle_ = style;
     PropertyChanged(TEXT("BorderStyle"));
-    CreateButton();
+    CreateWindowAnew();
 }
 
 void CheckBox::AlignRight(bool right)
 {
     alignRight_ = right;
     PropertyChanged(TEXT("AlignRight"));
-    CreateButton();
+    CreateWindowAnew();
 }
 
 void CheckBox::Transparent(bool transparent)
@@ -141,13 +125,11 @@ void CheckBox::BackColor(OleColor color)
     Refresh();
 }
 
-void CheckBox::Font(const std::shared_ptr<host::Font>& font)
+void CheckBox::FontChanged()
 {
-    if (!font)
-        return;
-    GetSurface().Font(font);
     ShowFont();
-    PropertyChanged(TEXT("Font"));
+    if (autoSize_)
+        ResizeToCaption();
 }
 
 /// The window keeps using the font that it was given, so that one lives on until the window has another.
@@ -203,33 +185,6 @@ void CheckBox::FontAutoSize(bool fontAutoSize)
         AutoSize(false);
     fontAutoSize_ = fontAutoSize;
     PropertyChanged(TEXT("FontAutoSize"));
-}
-
-void CheckBox::ForceTrueType(bool force)
-{
-    forceTrueType_ = force;
-    PropertyChanged(TEXT("ForceTrueType"));
-    if (!force)
-        return;
-    ApplyForceTrueType(*Font(), ForceTrueTypeChoice::MessageFontFirst);
-    ShowFont();
-}
-
-/// An empty name takes the window's visual style away, no name gives it back.
-void CheckBox::UseClassicTheme(bool classic)
-{
-    useClassicTheme_ = classic;
-    const WCHAR* const name = classic ? TEXT("") : nullptr;
-    if (hosted_.Window())
-        SetWindowTheme(hosted_.Window(), name, name);
-    PropertyChanged(TEXT("UseClassicTheme"));
-    Refresh();
-}
-
-void CheckBox::ZedOrder(HWND insertAfter)
-{
-    if (MoveInZOrder(hosted_.Window(), hosted_.Container(), insertAfter))
-        Refresh();
 }
 
 }  // namespace controls

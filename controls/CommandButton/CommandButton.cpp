@@ -82,8 +82,7 @@ const PropertyTable<CommandButton>& CommandButton::Properties()
     return table;
 }
 
-CommandButton::CommandButton()
-    : ToolTip(static_cast<host::UserControl&>(*this), {.icon = TEXT("TooltipIcon"), .backColor = TEXT("ToolTipBackColor")})
+CommandButton::CommandButton() : LibraryControl({.icon = TEXT("TooltipIcon"), .backColor = TEXT("ToolTipBackColor")})
 {
     subclassControl_.WndProc.Connect([this](HWND window, UINT message, auto&&...) { SubclassControl_WndProc(window, message); });
 }

@@ -5,10 +5,9 @@
 #include "controls/CommandButton/CommandButtonLayout.h"
 #include "controls/CommandButton/CommandButtonValues.h"
 #include "controls/DSubclass.h"
+#include "controls/LibraryControl.h"
 #include "controls/TabOrder.h"
-#include "controls/ToolTip.h"
 #include "host/Event.h"
-#include "host/UserControl.h"
 
 #include <cstdint>
 #include <memory>
@@ -19,7 +18,7 @@ template <class Control>
 class PropertyTable;
 
 /// A push or toggle button. Numbers that stand for something are listed in CommandButtonValues.h; colours are OLE colours.
-class CommandButton final : public host::UserControl, public ToolTip {
+class CommandButton final : public LibraryControl {
 public:
     CommandButton();
 
@@ -107,9 +106,6 @@ public:
     void ForceTrueType(bool force);
     [[nodiscard]] std::int16_t MousePointer() const { return GetSurface().MousePointer(); }
     void MousePointer(std::int16_t pointer);
-    /// True makes width to height the golden ratio. Reads false.
-    [[nodiscard]] bool GoldenSection() const { return false; }
-    void GoldenSection(bool apply);
 
     /// The visual state, a ButtonState, or 0 for a new button that nothing has happened to.
     [[nodiscard]] std::int32_t State() const { return state_; }
@@ -172,6 +168,7 @@ private:
     void SendWindowText(const base::String& text);
     /// Lays the caption out for the present size, cuts the window to its style's shape and draws.
     void Relayout();
+    void FontChanged() override {}
     void FitFont();
     void ShrinkFont();
     void NarrowFont();

@@ -2,7 +2,6 @@
 #include "controls/AccessKey.h"
 #include "controls/CommandButton/CommandButton.h"
 #include "controls/FontRule.h"
-#include "controls/GoldenSection.h"
 
 #include <algorithm>
 
@@ -280,12 +279,6 @@ void CommandButton::MousePointer(std::int16_t pointer)
 {
     GetSurface().MousePointer(pointer);
     PropertyChanged(TEXT("MousePointer"));
-}
-
-void CommandButton::GoldenSection(bool apply)
-{
-    if (apply)
-        ApplyGoldenSection(GetExtender());
 }
 
 }  // namespace controls

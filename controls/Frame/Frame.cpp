@@ -67,20 +67,20 @@ const PropertyTable<Frame>& Frame::Properties()
         StoredAs<Frame, uint8_t>(TEXT("Appearance"), &Frame::appearance_, 1),
         StoredThrough<Frame, std::shared_ptr<host::Font>>(
             TEXT("Font"), [](Frame& frame) { return frame.Font(); },
-            [](Frame& frame, const std::shared_ptr<host::Font>& font) { frame.GetSurface().Font(font); },
+            [](Frame& frame, const std::shared_ptr<host::Font>& font) { frame.TakeFont(*font); },
             [](Frame& frame) { return frame.Ambient().Font(); }),
     };
     return table;
 }
 
-Frame::Frame() : ToolTip(static_cast<host::UserControl&>(*this))
+Frame::Frame()
 {
     subclassControl_.WndProc.Connect([this](auto&&... arguments) { SubclassControl_WndProc(arguments...); });
 }
 
 void Frame::UserControl_InitProperties()
 {
-    GetSurface().Font(Ambient().Font());
+    TakeFont(*Ambient().Font());
     caption_ = Ambient().DisplayName();
     Start();
 }

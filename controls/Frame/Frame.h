@@ -2,11 +2,9 @@
 #pragma once
 
 #include "controls/DSubclass.h"
-#include "controls/GoldenSection.h"
-#include "controls/ToolTip.h"
+#include "controls/LibraryControl.h"
 #include "controls/WindowDc.h"
 #include "host/Event.h"
-#include "host/UserControl.h"
 
 #include <cstdint>
 #include <vector>
@@ -17,7 +15,7 @@ template <class Control>
 class PropertyTable;
 
 /// A border round its area with a caption set into the top edge. Never takes the keyboard focus.
-class Frame final : public host::UserControl, public ToolTip {
+class Frame final : public LibraryControl {
 public:
     Frame();
 
@@ -59,8 +57,6 @@ public:
     /// Setting `Enabled` also enables or disables the controls in the frame; those that were disabled before stay so.
     [[nodiscard]] bool EnableDisableChilds() const { return enableDisableChilds_; }
     void EnableDisableChilds(bool enable);
-    [[nodiscard]] const std::shared_ptr<host::Font>& Font() const { return GetSurface().Font(); }
-    void Font(const std::shared_ptr<host::Font>& font);
     /// The window accepts files from the shell.
     [[nodiscard]] bool DragDropEnabled() const { return dragDropEnabled_; }
     void DragDropEnabled(bool enable);
@@ -71,9 +67,6 @@ public:
     void UseClassicTheme(bool classic);
     [[nodiscard]] bool ForceTrueType() const { return forceTrueType_; }
     void ForceTrueType(bool force);
-    /// True makes width to height the golden ratio. Reads false.
-    [[nodiscard]] bool GoldenSection() const { return false; }
-    void GoldenSection(bool apply);
 
     void Refresh() override { DrawFrame(); }
     void DrawFrame();
@@ -139,6 +132,7 @@ private:
         OLEStartDrag.Raise(data, allowedEffects);
     }
 
+    void FontChanged() override { DrawFrame(); }
     void Start();
     /// Reports a change and draws.
     void Changed(const WCHAR* name);

@@ -131,12 +131,6 @@ void Frame::EnableDisableChilds(bool enable)
     PropertyChanged(TEXT("EnableDisableChilds"));
 }
 
-void Frame::Font(const std::shared_ptr<host::Font>& font)
-{
-    GetSurface().Font(font);
-    Changed(TEXT("Font"));
-}
-
 void Frame::DragDropEnabled(bool enable)
 {
     dragDropEnabled_ = enable;
@@ -166,16 +160,8 @@ void Frame::ForceTrueType(bool force)
 {
     forceTrueType_ = force;
     PropertyChanged(TEXT("ForceTrueType"));
-    if (force) {
+    if (force)
         ApplyForceTrueType(*Font(), ForceTrueTypeChoice::MessageFontFirst);
-        DrawFrame();
-    }
-}
-
-void Frame::GoldenSection(bool apply)
-{
-    if (apply)
-        ApplyGoldenSection(GetExtender());
 }
 
 }  // namespace controls

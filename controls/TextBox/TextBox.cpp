@@ -1,7 +1,6 @@
 // TextBox: persistence, life and the system's edit.
 #include "controls/TextBox/TextBox.h"
 
-#include "controls/FontRule.h"
 #include "controls/PropertyTable.h"
 
 #include <uxtheme.h>
@@ -41,7 +40,7 @@ const PropertyTable<TextBox>& TextBox::Properties()
             TEXT("Text"), [](T& box) { return box.Text(); }, [](T& box, const String& text) { box.cachedText_ = text; },
             [](T& box) { return box.Ambient().DisplayName(); }),
         StoredThrough<T, std::shared_ptr<host::Font>>(
-            TEXT("Font"), [](T& box) { return box.Font(); }, [](T& box, const std::shared_ptr<host::Font>& font) { box.TakeFont(font); },
+            TEXT("Font"), [](T& box) { return box.Font(); }, [](T& box, const std::shared_ptr<host::Font>& font) { box.TakeFont(*font); },
             [](T& box) { return box.Ambient().Font(); }),
         StoredAs<T, uint8_t>(TEXT("UseClassicTheme"), &T::useClassicTheme_, 0),
         StoredAs<T, uint8_t>(TEXT("AllowOnlyNumbers"), &T::allowOnlyNumbers_, 0),
@@ -64,49 +63,22 @@ const PropertyTable<TextBox>& TextBox::Properties()
     return table;
 }
 
-TextBox::TextBox() : ToolTip(static_cast<host::UserControl&>(*this))
-{
-    hosted_.SubclassControl.WndProc.Connect([this](auto&&... arguments) { SubclassControl_WndProc(arguments...); });
-    hosted_.SubclassParent.WndProc.Connect([this](auto&&... arguments) { SubclassParent_WndProc(arguments...); });
-    hosted_.SubclassOwner.WndProc.Connect([this](HWND, UINT message, WPARAM wParam, LPARAM, LRESULT&, bool& handled) {
-        hosted_.FormMessage(message, wParam, enabled_, handled);
-    });
-}
-
-TextBox::~TextBox()
-{
-    ReleaseEdit();
-    if (Font())
-        Font()->FontChanged.Connect({});
-}
-
 void TextBox::UserControl_InitProperties()
 {
-    TakeFont(Ambient().Font());
+    TakeFont(*Ambient().Font());
     cachedText_ = Ambient().DisplayName();
-    hosted_.Attach();
-    CreateEdit();
+    Begin();
 }
 
 void TextBox::UserControl_ReadProperties(const PropertyBag& bag)
 {
     Properties().Read(*this, bag);
-    if (forceTrueType_)
-        ApplyForceTrueType(*Font(), ForceTrueTypeChoice::MessageFontFirst);
-    hosted_.Attach();
-    CreateEdit();
+    Begin();
 }
 
 void TextBox::UserControl_WriteProperties(PropertyBag& bag)
 {
     Properties().Write(*this, bag);
-}
-
-void TextBox::UserControl_Show()
-{
-    if (IsRunTime())
-        AdoptExtenderToolTip();
-    hosted_.ControlShown();
 }
 
 void TextBox::UserControl_Paint()
@@ -124,7 +96,7 @@ void TextBox::ReleaseEdit()
     shownFont_.reset();
 }
 
-void TextBox::CreateEdit()
+void TextBox::CreateWindowAnew()
 {
     const bool hadEdit = hosted_.Window() != nullptr;
     const String text = hadEdit ? hosted_.Text() : cachedText_;

@@ -2,14 +2,11 @@
 #pragma once
 
 #include "base/Handles.h"
-#include "controls/GoldenSection.h"
-#include "controls/HostedWindow.h"
+#include "controls/HostedControl.h"
 #include "controls/TextBox/TextBoxFilter.h"
 #include "controls/TextBox/TextBoxLayout.h"
-#include "controls/ToolTip.h"
 #include "host/Event.h"
 #include "host/OwnWindow.h"
-#include "host/UserControl.h"
 
 #include <cstdint>
 #include <memory>
@@ -20,16 +17,12 @@ namespace controls {
 template <class Control>
 class PropertyTable;
 
-/// Character and line numbers count from 0.
-class TextBox final : public host::UserControl, public ToolTip {
+/// Its window is the system's edit. Character and line numbers count from 0.
+class TextBox final : public HostedControl {
 public:
-    TextBox();
-    ~TextBox() override;
+    ~TextBox() override { ReleaseEdit(); }
 
     [[nodiscard]] base::StringView Kind() const override { return TEXT("TextBox"); }
-    /// The system's edit.
-    [[nodiscard]] HWND hWnd() const override { return hosted_.Window(); }
-    [[nodiscard]] bool IsRunTime() const { return Ambient().UserMode(); }
 
     // Text and selection.
 
@@ -128,7 +121,7 @@ public:
 
     // Looks.
 
-    [[nodiscard]] bool Enabled() const override { return enabled_; }
+    using HostedControl::Enabled;
     void Enabled(bool enabled) override;
     [[nodiscard]] OleColor ForeColor() const { return foreColor_; }
     void ForeColor(OleColor color);
@@ -139,17 +132,6 @@ public:
     void BackColorSelected(OleColor color);
     [[nodiscard]] OleColor BackColorDisabled() const { return backColorDisabled_; }
     void BackColorDisabled(OleColor color);
-    [[nodiscard]] const std::shared_ptr<host::Font>& Font() const { return GetSurface().Font(); }
-    void Font(const std::shared_ptr<host::Font>& font);
-    [[nodiscard]] bool ForceTrueType() const { return forceTrueType_; }
-    void ForceTrueType(bool force);
-    [[nodiscard]] bool UseClassicTheme() const { return useClassicTheme_; }
-    void UseClassicTheme(bool classic);
-    /// True makes width to height the golden ratio. Reads false.
-    [[nodiscard]] bool GoldenSection() const { return false; }
-    void GoldenSection(bool apply);
-    void Refresh() override { hosted_.Redraw(); }
-    void ZedOrder(HWND insertAfter);
     void SetFocusEx();
 
     host::Event<1> Click;
@@ -173,20 +155,17 @@ private:
     void UserControl_ReadProperties(const host::PropertyBag& bag) override;
     void UserControl_WriteProperties(host::PropertyBag& bag) override;
     void UserControl_Terminate() override { ReleaseEdit(); }
-    void UserControl_Show() override;
-    void UserControl_Hide() override { hosted_.ControlHidden(); }
     void UserControl_Paint() override;
     void UserControl_Resize() override { hosted_.Cover(); }
     void UserControl_GotFocus() override;
-    void UserControl_LostFocus() override { hosted_.ControlLostFocus(); }
     void UserControl_KeyDown(std::int16_t& keyCode, std::int16_t& shift) override;
     void UserControl_KeyUp(std::int16_t& keyCode, std::int16_t& shift) override;
     void UserControl_KeyPress(std::int16_t& keyAscii) override;
 
-    void CreateEdit();
+    void CreateWindowAnew() override;
     void CreateLineWindow();
     void ReleaseEdit();
-    void TakeFont(const std::shared_ptr<host::Font>& font);
+    void FontChanged() override;
     void ShowFont();
     [[nodiscard]] OleColor CurrentBackColor() const;
     void MakeBackgroundBrush();
@@ -196,14 +175,15 @@ private:
     LRESULT AskLines(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     void FixFocus();
 
-    void SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled);
-    void SubclassParent_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled);
-    void OnMouse(HWND window, UINT message, WPARAM wParam);
+    void SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled) override;
+    void SubclassParent_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled) override;
+    void OnMouse(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void OnKeyDown(WPARAM wParam, LPARAM lParam, bool& handled);
     void OnOtherKey(UINT message, WPARAM wParam, LPARAM lParam, bool& handled);
     void OnChar(HWND window, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled);
     void OnKillFocus(bool& handled);
     void OnNotification(WORD code);
+    void PassKeyOn(UINT message, std::int16_t code);
     bool ForwardFocus(std::int16_t keyCode);
 
     base::String cachedText_;
@@ -223,19 +203,15 @@ private:
     bool allowOnlyNumbers_ = false;
     TextBoxRules rules_;
     bool tabKeyTextual_ = false;
-    bool enabled_ = true;
     OleColor foreColor_ = host::SystemColor(COLOR_WINDOWTEXT);
     OleColor backColor_ = host::SystemColor(COLOR_WINDOW);
     OleColor backColorSelected_ = host::SystemColor(COLOR_WINDOW);
     OleColor backColorDisabled_ = host::SystemColor(COLOR_WINDOW);
-    bool forceTrueType_ = false;
-    bool useClassicTheme_ = false;
     host::Control* forwardFocusUp_ = nullptr;
     host::Control* forwardFocusDown_ = nullptr;
     host::Control* forwardFocusLeft_ = nullptr;
     host::Control* forwardFocusRight_ = nullptr;
 
-    HostedWindow hosted_{*this};
     host::WindowHandle lineWindow_;
     bool lineWindowStale_ = false;
     base::BrushHandle backgroundBrush_;

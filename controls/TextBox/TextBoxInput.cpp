@@ -16,7 +16,7 @@ void TextBox::SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam, 
         case WM_LBUTTONUP:
         case WM_LBUTTONDBLCLK:
         case WM_MOUSEWHEEL:
-            OnMouse(window, message, wParam);
+            OnMouse(window, message, wParam, lParam);
             break;
         case WM_SETFOCUS:
             if (!hosted_.WindowFocused()) {
@@ -53,14 +53,14 @@ void TextBox::SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam, 
             break;
         case WM_THEMECHANGED:
         case WM_SYSCOLORCHANGE:
-            CreateEdit();
+            CreateWindowAnew();
             break;
         default:
             break;
     }
 }
 
-void TextBox::OnMouse(HWND window, UINT message, WPARAM wParam)
+void TextBox::OnMouse(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
         case WM_MOUSEMOVE:
@@ -72,7 +72,9 @@ void TextBox::OnMouse(HWND window, UINT message, WPARAM wParam)
             MouseLeave.Raise();
             break;
         case WM_LBUTTONUP:
-            Click.Raise();
+            // The edit has the mouse captured, so the button may be let go anywhere.
+            if (IsOver(window, lParam))
+                Click.Raise();
             FixFocus();
             break;
         case WM_LBUTTONDBLCLK:
@@ -197,24 +199,27 @@ void TextBox::SetFocusEx()
         SetFocus();
 }
 
-// Keys that reach the control's own window belong to the edit.
+// Keys that reach the control's own window belong to the edit, which in a disabled box takes none.
 
 void TextBox::UserControl_KeyDown(std::int16_t& keyCode, std::int16_t&)
 {
-    if (hosted_.Window())
-        SendMessageW(hosted_.Window(), WM_KEYDOWN, static_cast<WORD>(keyCode), 0);
+    PassKeyOn(WM_KEYDOWN, keyCode);
 }
 
 void TextBox::UserControl_KeyUp(std::int16_t& keyCode, std::int16_t&)
 {
-    if (hosted_.Window())
-        SendMessageW(hosted_.Window(), WM_KEYUP, static_cast<WORD>(keyCode), 0);
+    PassKeyOn(WM_KEYUP, keyCode);
 }
 
 void TextBox::UserControl_KeyPress(std::int16_t& keyAscii)
 {
-    if (hosted_.Window())
-        SendMessageW(hosted_.Window(), WM_CHAR, static_cast<WORD>(keyAscii), 0);
+    PassKeyOn(WM_CHAR, keyAscii);
+}
+
+void TextBox::PassKeyOn(UINT message, std::int16_t code)
+{
+    if (enabled_ && hosted_.Window())
+        SendMessageW(hosted_.Window(), message, static_cast<WORD>(code), 0);
 }
 
 void TextBox::SubclassParent_WndProc(HWND, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled)

@@ -1,11 +1,5 @@
 // TextBoxProperties: what setting a text box's properties does.
-#include "controls/FontRule.h"
 #include "controls/TextBox/TextBox.h"
-#include "controls/ZedOrder.h"
-#include "host/Form.h"
-
-#include <uxtheme.h>
-
 namespace controls {
 
 using base::String;
@@ -40,7 +34,7 @@ void TextBox::MultiLine(bool multiLine)
         passwordChar_ = 0;
     }
     PropertyChanged(TEXT("MultiLine"));
-    CreateEdit();
+    CreateWindowAnew();
 }
 
 void TextBox::UseSystemPasswordChar(bool use)
@@ -51,7 +45,7 @@ void TextBox::UseSystemPasswordChar(bool use)
         passwordChar_ = 0;
     }
     PropertyChanged(TEXT("UseSystemPasswordChar"));
-    CreateEdit();
+    CreateWindowAnew();
 }
 
 String TextBox::PasswordChar() const
@@ -79,7 +73,7 @@ void TextBox::ScrollBars(std::int32_t scrollBars)
     }
     scrollBars_ = scrollBars;
     PropertyChanged(TEXT("ScrollBars"));
-    CreateEdit();
+    CreateWindowAnew();
 }
 
 void TextBox::WordWrap(std::int32_t wordWrap)
@@ -90,21 +84,21 @@ void TextBox::WordWrap(std::int32_t wordWrap)
         PropertyChanged(TEXT("ScrollBars"));
     }
     PropertyChanged(TEXT("WordWrap"));
-    CreateEdit();
+    CreateWindowAnew();
 }
 
 void TextBox::HideSelection(bool hide)
 {
     hideSelection_ = hide;
     PropertyChanged(TEXT("HideSelection"));
-    CreateEdit();
+    CreateWindowAnew();
 }
 
 void TextBox::BorderStyle(std::uint8_t style)
 {
     borderStyle_ = style;
     PropertyChanged(TEXT("BorderStyle"));
-    CreateEdit();
+    CreateWindowAnew();
 }
 
 void TextBox::CaseStyle(std::uint8_t style)
@@ -174,14 +168,8 @@ void TextBox::TabKeyTextual(bool textual)
 
 void TextBox::Enabled(bool enabled)
 {
-    if (!hosted_.Window())
-        return;
-    enabled_ = enabled;
-    if (!enabled)
-        ParentForm().PassFocusOn(*this);
-    EnableWindow(hosted_.Window(), enabled);
+    HostedControl::Enabled(enabled);
     MakeBackgroundBrush();
-    PropertyChanged(TEXT("Enabled"));
 }
 
 OleColor TextBox::CurrentBackColor() const
@@ -238,25 +226,10 @@ void TextBox::BackColorDisabled(OleColor color)
     PropertyChanged(TEXT("BackColorDisabled"));
 }
 
-/// A font object that is changed by whoever else holds it changes the box too.
-void TextBox::TakeFont(const std::shared_ptr<host::Font>& font)
+void TextBox::FontChanged()
 {
-    if (Font())
-        Font()->FontChanged.Connect({});
-    GetSurface().Font(font);
-    font->FontChanged.Connect([this] {
-        ShowFont();
-        Refresh();
-    });
-}
-
-void TextBox::Font(const std::shared_ptr<host::Font>& font)
-{
-    if (!font)
-        return;
-    TakeFont(font);
     ShowFont();
-    PropertyChanged(TEXT("Font"));
+    Refresh();
 }
 
 /// The edit keeps using the font that it was given, so that one lives on until the edit has another.
@@ -265,36 +238,6 @@ void TextBox::ShowFont()
     const std::shared_ptr<const base::FontHandle> font = Font()->Share();
     hosted_.Send(WM_SETFONT, reinterpret_cast<WPARAM>(font ? font->Get() : nullptr), TRUE);
     shownFont_ = font;
-}
-
-void TextBox::ForceTrueType(bool force)
-{
-    forceTrueType_ = force;
-    PropertyChanged(TEXT("ForceTrueType"));
-    if (force)
-        ApplyForceTrueType(*Font(), ForceTrueTypeChoice::MessageFontFirst);
-}
-
-void TextBox::UseClassicTheme(bool classic)
-{
-    useClassicTheme_ = classic;
-    const WCHAR* const name = classic ? TEXT("") : nullptr;
-    if (hosted_.Window())
-        SetWindowTheme(hosted_.Window(), name, name);
-    PropertyChanged(TEXT("UseClassicTheme"));
-    Refresh();
-}
-
-void TextBox::GoldenSection(bool apply)
-{
-    if (apply)
-        ApplyGoldenSection(GetExtender());
-}
-
-void TextBox::ZedOrder(HWND insertAfter)
-{
-    if (MoveInZOrder(hosted_.Window(), hosted_.Container(), insertAfter))
-        Refresh();
 }
 
 }  // namespace controls

@@ -163,6 +163,7 @@ BOOL WINAPI DestroyWindow(HWND window);
 BOOL WINAPI IsWindow(HWND window);
 BOOL WINAPI IsChild(HWND parent, HWND window);
 HWND WINAPI GetParent(HWND window);
+HWND WINAPI SetParent(HWND child, HWND newParent);
 HWND WINAPI GetAncestor(HWND window, UINT which);
 HWND WINAPI GetWindow(HWND window, UINT relation);
 LONG WINAPI GetWindowLongW(HWND window, int index);

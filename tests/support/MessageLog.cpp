@@ -151,15 +151,30 @@ testing::AssertionResult MessageLog::Is(std::initializer_list<UINT> only, std::i
     return failure;
 }
 
+namespace {
+
+void DispatchPlainly(MSG& message)
+{
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+}
+
+void (*dispatcher)(MSG&) = DispatchPlainly;
+
+}  // namespace
+
+void PumpWith(void (*dispatch)(MSG&))
+{
+    dispatcher = dispatch ? dispatch : DispatchPlainly;
+}
+
 void PumpMessages(DWORD milliseconds)
 {
     const DWORD start = GetTickCount();
     while (true) {
         MSG message;
-        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-            TranslateMessage(&message);
-            DispatchMessageW(&message);
-        }
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+            dispatcher(message);
         const DWORD passed = GetTickCount() - start;
         if (passed >= milliseconds)
             return;

@@ -58,5 +58,7 @@ private:
 
 /// Handles everything that waits for the thread, then for so many milliseconds what else comes. On the stand-in PC the clock is turned.
 void PumpMessages(DWORD milliseconds = 0);
+/// Who handles each message of the pump: TranslateMessage and DispatchMessageW until another is set.
+void PumpWith(void (*dispatch)(MSG&));
 
 }  // namespace tests

@@ -276,6 +276,30 @@ BOOL WINAPI SetWindowPos(HWND window, HWND insertAfter, int x, int y, int width,
     return inner::SetWindowPos(window, insertAfter, x, y, width, height, flags);
 }
 
+/// The window keeps its place, counted from the new parent's client area; a visible one is hidden and shown for it.
+HWND WINAPI SetParent(HWND child, HWND newParent)
+{
+    SIM_CALL(nullptr, ERROR_INVALID_WINDOW_HANDLE, child, newParent);
+    const WindowPtr window = RequireWindow(child);
+    const WindowPtr above = newParent ? RequireWindow(newParent) : Tree().Desktop().shared_from_this();
+    if (!window || !above)
+        return nullptr;
+    if (!window->parent || above == window || above->IsBelow(window.get())) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return nullptr;
+    }
+    const bool wasVisible = inner::IsWindowVisible(child) != FALSE;
+    if (wasVisible)
+        inner::ShowWindow(child, SW_HIDE);
+    const HWND former = window->parent->handle;
+    const int x = window->frame.left - window->parent->client.left, y = window->frame.top - window->parent->client.top;
+    Tree().Move(*window, *above);
+    inner::SetWindowPos(child, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    if (wasVisible)
+        inner::ShowWindow(child, SW_SHOWNA);
+    return former;
+}
+
 BOOL WINAPI MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint)
 {
     SIM_CALL(FALSE, ERROR_INVALID_WINDOW_HANDLE, window, x, y, width, height, repaint);

@@ -1,0 +1,42 @@
+// LibraryControl: the font and the golden section.
+#include "controls/LibraryControl.h"
+
+#include "controls/GoldenSection.h"
+
+namespace controls {
+
+double LibraryControl::GetGoldenSection(std::int32_t In_SegmentLen, bool In_GetMaxSegment) const
+{
+    return controls::GetGoldenSection(In_SegmentLen, In_GetMaxSegment);
+}
+
+void LibraryControl::GoldenSection(bool apply)
+{
+    if (!apply)
+        return;
+    Width(static_cast<float>(controls::GetGoldenSection(static_cast<std::int32_t>(Height()), true)));
+    PropertyChanged(TEXT("Width"));
+}
+
+/// The former font may outlive the control in somebody else's hands, so it must not lead here any more.
+void LibraryControl::TakeFont(const host::Font& font)
+{
+    if (Font())
+        Font()->FontChanged.Connect({});
+    GetSurface().Font(font.Copy());
+    Font()->FontChanged.Connect([this] {
+        FontChanged();
+        PropertyChanged(TEXT("Font"));
+    });
+}
+
+void LibraryControl::Font(const std::shared_ptr<host::Font>& font)
+{
+    if (!font)
+        return;
+    TakeFont(*font);
+    FontChanged();
+    PropertyChanged(TEXT("Font"));
+}
+
+}  // namespace controls

@@ -1,0 +1,59 @@
+// LibraryControl: what the four controls of the library have in common.
+#pragma once
+
+#include "controls/ToolTip.h"
+#include "host/UserControl.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace controls {
+
+/// A user control with a tip, with the properties that its container keeps for it as members of its own, and with a font of its own.
+class LibraryControl : public host::UserControl, public ToolTip {
+public:
+    [[nodiscard]] bool IsRunTime() const { return Ambient().UserMode(); }
+
+    // Kept by the container, which stores them; see host::Extender. Position and size count in the container's units.
+
+    [[nodiscard]] const base::String& Name() const { return GetExtender().Name(); }
+    [[nodiscard]] const base::String& Tag() const { return GetExtender().Tag(); }
+    void Tag(base::StringView tag) { GetExtender().Tag(tag); }
+    [[nodiscard]] host::Form& Parent() const { return ParentForm(); }
+    [[nodiscard]] host::Container& Container() const { return GetExtender().Container(); }
+    /// Moves the control to another container of its form; the position then counts there.
+    void Container(host::Container& container) { GetExtender().Container(container); }
+    [[nodiscard]] float Left() const { return GetExtender().Left(); }
+    void Left(float left) { GetExtender().Left(left); }
+    [[nodiscard]] float Top() const { return GetExtender().Top(); }
+    void Top(float top) { GetExtender().Top(top); }
+    [[nodiscard]] float Width() const { return GetExtender().Width(); }
+    void Width(float width) { GetExtender().Width(width); }
+    [[nodiscard]] float Height() const { return GetExtender().Height(); }
+    void Height(float height) { GetExtender().Height(height); }
+    [[nodiscard]] bool Visible() const { return GetExtender().Visible(); }
+    void Visible(bool visible) { GetExtender().Visible(visible); }
+    /// 0 puts the control above its siblings, 1 below them.
+    void ZOrder(int position = 0) { GetExtender().ZOrder(position); }
+
+    /// See `controls::GetGoldenSection`.
+    [[nodiscard]] double GetGoldenSection(std::int32_t In_SegmentLen, bool In_GetMaxSegment) const;
+    /// True makes the width the height (cut to an integer) times the golden ratio. Reads false.
+    [[nodiscard]] bool GoldenSection() const { return false; }
+    void GoldenSection(bool apply);
+
+    /// The control's own font: what is changed in it changes the control.
+    [[nodiscard]] const std::shared_ptr<host::Font>& Font() const { return GetSurface().Font(); }
+    /// Takes a copy, so that several controls may be given one font. No font at all is ignored.
+    void Font(const std::shared_ptr<host::Font>& font);
+
+protected:
+    explicit LibraryControl(ToolTipNames names = {}) : ToolTip(static_cast<host::UserControl&>(*this), names) {}
+
+    /// Makes a copy of the font the control's own, without telling anybody.
+    void TakeFont(const host::Font& font);
+    /// The control's font is another one or has changed: show it.
+    virtual void FontChanged() = 0;
+};
+
+}  // namespace controls

@@ -1,0 +1,127 @@
+// Real input on and around the check box and the text box: what is off, what is left, what is let go elsewhere.
+#include "controls/CheckBox/CheckBox.h"
+#include "controls/TextBox/TextBox.h"
+#include "host/MessageLoop.h"
+#include "tests/controls/FormFixture.h"
+#include "tests/support/MessageLog.h"
+#include "tests/support/UserInput.h"
+
+namespace tests {
+
+class HostedControl : public FormFixture {
+protected:
+    void SetUp() override
+    {
+        Open(R"(Frame Box { Width = 6000 Height = 3000 TabIndex = 9
+                TextBox First { Left = 150 Top = 300 Width = 1500 Height = 300 TabIndex = 0 Text = "one" }
+                CheckBox Tick { Left = 150 Top = 900 Width = 1500 Height = 300 TabIndex = 1 Caption = "t" }
+                TextBox Second { Left = 150 Top = 1500 Width = 1500 Height = 300 TabIndex = 2 Text = "two" }
+            }
+            TextBox Outside { Left = 6600 Top = 300 Width = 1500 Height = 300 TabIndex = 3 Text = "" })");
+        PumpWith(host::MessageLoop::Dispatch);
+        Get<controls::CheckBox>("Tick").Click.Connect([this] { Note("Tick"); });
+        Get<controls::TextBox>("First").Click.Connect([this] { Note("First"); });
+    }
+
+    void TearDown() override { PumpWith(nullptr); }
+
+    /// Moves the mouse to a place of the control, counted from its corner.
+    void Point(std::string_view name, int x = 20, int y = 10) { MoveMouse(Any(name).OwnHandle(), x, y); }
+    /// The keyboard focus is on the window that is seen, not on the one behind it.
+    bool HasKeys(std::string_view name) { return GetFocus() == Any(name).hWnd(); }
+};
+
+TEST_F(HostedControl, ClickOnADisabledOne_ChangesNothing)
+{
+    for (const char* const name : {"Tick", "Second"}) {
+        Any("First").SetFocus();
+        Any(name).Enabled(false);
+        Point(name);
+        ClickMouse();
+        EXPECT_TRUE(HasKeys("First")) << name;
+        PressKey('X');
+        PressKey(VK_SPACE);
+        PressKey(VK_TAB);
+        EXPECT_EQ(Focused(), name[0] == 'T' ? "Second" : "Outside") << name;
+    }
+    EXPECT_EQ(Get<controls::TextBox>("Second").Text(), TEXT("two"));
+    EXPECT_EQ(Get<controls::CheckBox>("Tick").Value(), 0);
+    EXPECT_EQ(Take(), Lines{});
+}
+
+TEST_F(HostedControl, FocusOnTheWindowBehindADisabledOne_GoesOnWithTab)
+{
+    Any("Tick").Enabled(false);
+    Any("Second").Enabled(false);
+    for (const char* const name : {"Tick", "Second"}) {
+        SetFocus(Any(name).OwnHandle());
+        PressKey('X');
+        PressKey(VK_TAB);
+        EXPECT_EQ(Focused(), "Outside") << name;
+    }
+    EXPECT_EQ(Get<controls::TextBox>("Second").Text(), TEXT("two"));
+}
+
+TEST_F(HostedControl, FocusThatWasTakenAway_ComesBackWhole)
+{
+    const std::pair<const char*, std::function<void()>> thieves[] = {
+        {"the other's window takes it", [&] { SetFocus(Any("First").hWnd()); }},
+        {"the window behind it takes it", [&] { SetFocus(Any("Tick").OwnHandle()); }},
+        {"it is hidden",
+         [&] {
+             Any("Tick").GetExtender().Visible(false);
+             Any("Tick").GetExtender().Visible(true);
+         }},
+        {"its frame is hidden",
+         [&] {
+             Any("Box").GetExtender().Visible(false);
+             Any("Box").GetExtender().Visible(true);
+         }},
+        {"it is disabled",
+         [&] {
+             Any("Tick").Enabled(false);
+             Any("Tick").Enabled(true);
+         }},
+        {"nobody has it", [] { SetFocus(nullptr); }},
+    };
+    for (const auto& [how, steal] : thieves) {
+        for (const char* const name : {"Tick", "Second"}) {
+            Any("Tick").SetFocus();
+            ASSERT_TRUE(HasKeys("Tick")) << how;
+            steal();
+            Any(name).SetFocus();
+            EXPECT_TRUE(HasKeys(name)) << name << ": " << how;
+        }
+        Any("Tick").SetFocus();
+        PressKey(VK_TAB);
+        EXPECT_TRUE(HasKeys("Second")) << how;
+    }
+}
+
+TEST_F(HostedControl, FocusThatWasTakenAway_LeavesNoLookOfIt)
+{
+    Any("Tick").SetFocus();
+    EXPECT_NE(SendMessageW(Any("Tick").hWnd(), BM_GETSTATE, 0, 0) & BST_FOCUS, 0);
+    SetFocus(Any("First").hWnd());
+    EXPECT_EQ(SendMessageW(Any("Tick").hWnd(), BM_GETSTATE, 0, 0) & BST_FOCUS, 0);
+    EXPECT_EQ(form->ActiveControl(), &Any("First"));
+}
+
+TEST_F(HostedControl, ButtonLetGoElsewhere_IsNoClick)
+{
+    for (const char* const name : {"Tick", "First"}) {
+        Point(name);
+        MouseButton(MOUSEEVENTF_LEFTDOWN);
+        MoveMouse(form->hWnd(), 580, 380);
+        MouseButton(MOUSEEVENTF_LEFTUP);
+        EXPECT_EQ(Take(), Lines{}) << name;
+        Point(name);
+        MouseButton(MOUSEEVENTF_LEFTDOWN);
+        Point(name, 90, 14);
+        MouseButton(MOUSEEVENTF_LEFTUP);
+        EXPECT_EQ(Take(), Lines{name}) << "still on it";
+    }
+    EXPECT_EQ(Get<controls::CheckBox>("Tick").Value(), 1);
+}
+
+}  // namespace tests
