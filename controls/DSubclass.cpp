@@ -19,7 +19,7 @@ public:
 
     bool Enable(HWND window);
     bool Disable();
-    /// The owner goes. Its events end here; deliveries in progress hold the link until the outermost one has its result.
+    /// The owner lets go. Its events end here; deliveries in progress hold the link until the outermost one has its result.
     void Release();
 
     HWND window_ = nullptr;
@@ -61,9 +61,9 @@ void DSubclass::Link::WriteRoute(HWND window)
     Route* const route = new (block_.Get()) Route{++lastIdentifier, this};
     try {
         Routes()[route->identifier] = route;
-    } catch (const std::bad_alloc&) {
+    } catch (...) {
         block_.Free();
-        throw OutOfMemory();
+        throw;
     }
 }
 
@@ -143,16 +143,21 @@ bool DSubclass::Link::Raise(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     return handled;
 }
 
-DSubclass::DSubclass() : link_(std::make_shared<Link>(*this)) {}
-
-DSubclass::~DSubclass()
+void DSubclass::Release()
 {
-    link_->Release();
+    if (const std::shared_ptr<Link> link = std::exchange(link_, nullptr))
+        link->Release();
 }
 
 bool DSubclass::Enable(HWND window)
 {
-    return link_->Enable(window);
+    try {
+        if (!link_)
+            link_ = std::make_shared<Link>(*this);
+        return link_->Enable(window);
+    } catch (const std::bad_alloc&) {
+        throw OutOfMemory();
+    }
 }
 
 bool DSubclass::TryEnable(HWND window) noexcept
@@ -166,12 +171,12 @@ bool DSubclass::TryEnable(HWND window) noexcept
 
 bool DSubclass::Disable()
 {
-    return link_->Disable();
+    return link_ && link_->Disable();
 }
 
 bool DSubclass::PauseSubclass()
 {
-    if (!link_->window_ || link_->isPaused_)
+    if (!IsSubclassed() || link_->isPaused_)
         return false;
     link_->isPaused_ = true;
     return true;
@@ -179,7 +184,7 @@ bool DSubclass::PauseSubclass()
 
 bool DSubclass::ResumeSubclass()
 {
-    if (!link_->window_ || !link_->isPaused_)
+    if (!IsSubclassed() || !link_->isPaused_)
         return false;
     link_->isPaused_ = false;
     return true;
@@ -187,17 +192,17 @@ bool DSubclass::ResumeSubclass()
 
 bool DSubclass::IsSubclassed() const
 {
-    return link_->window_ != nullptr;
+    return hWnd() != nullptr;
 }
 
 bool DSubclass::IsPaused() const
 {
-    return link_->isPaused_;
+    return link_ && link_->isPaused_;
 }
 
 HWND DSubclass::hWnd() const
 {
-    return link_->window_;
+    return link_ ? link_->window_ : nullptr;
 }
 
 LRESULT DSubclass::CallOriginalProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, bool& handled)

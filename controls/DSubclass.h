@@ -17,10 +17,10 @@ namespace controls {
 /// https://learn.microsoft.com/windows/win32/controls/subclassing-overview
 class DSubclass {
 public:
-    DSubclass();
+    DSubclass() = default;
     DSubclass(const DSubclass&) = delete;
     DSubclass& operator=(const DSubclass&) = delete;
-    ~DSubclass();
+    ~DSubclass() { Release(); }
 
     /// Window, message, wParam, lParam, result (starts at 0) and handled (starts false). A handled message goes no further down the chain.
     host::Event<1, HWND, UINT, WPARAM, LPARAM, LRESULT&, bool&> WndProc;
@@ -33,6 +33,10 @@ public:
     /// Takes the object off its window. False when it was not installed, when a live window does not let go (it then stays installed),
     /// and when the window was gone already (it is then not installed any more).
     bool Disable();
+
+    /// Takes the object off its window and gives back what it holds there: its block, and with the last block of a window the heap. It can
+    /// be enabled again.
+    void Release();
 
     /// While paused, messages pass straight through. True when the object was installed and not paused.
     bool PauseSubclass();
@@ -50,7 +54,7 @@ public:
 
 private:
     class Link;
-    std::shared_ptr<Link> link_;
+    std::shared_ptr<Link> link_;  // null until it is enabled for the first time
 };
 
 /// Pauses a subclass for as long as it lives, unless it is paused already.

@@ -63,9 +63,9 @@ void HostedWindow::Subclass()
 
 void HostedWindow::Destroy()
 {
-    SubclassControl.Disable();
-    SubclassParent.Disable();
-    SubclassOwner.Disable();
+    SubclassControl.Release();
+    SubclassParent.Release();
+    SubclassOwner.Release();
     // Its container may have gone before it.
     if (window_ && IsWindow(window_))
         DestroyWindow(window_);

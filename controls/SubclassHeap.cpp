@@ -1,6 +1,7 @@
 // SubclassHeap: making, publishing, finding and destroying the heap of a window.
 #include "controls/SubclassHeap.h"
 
+#include "base/Handle.h"
 #include "controls/OutOfMemory.h"
 
 #include <algorithm>
@@ -12,6 +13,13 @@ using base::String;
 using base::StringView;
 
 namespace {
+
+struct HeapTraits {
+    using Type = HANDLE;
+    static Type None() noexcept { return nullptr; }
+    static void Close(Type heap) noexcept { HeapDestroy(heap); }
+};
+using HeapHandle = base::Handle<HeapTraits>;
 
 struct LiveHeap {
     HANDLE handle = nullptr;
@@ -32,12 +40,13 @@ std::size_t& KnownBlocks(HANDLE heap)
     return std::ranges::find_if(LiveHeaps(), [heap](const auto& entry) { return entry.second.handle == heap; })->second.blocks;
 }
 
-bool Publish(const String& name, DWORD number)
+/// Also when memory has run out.
+bool Publish(const String& name, DWORD number) noexcept
 {
-    String digits(8, TEXT('0'));
-    for (std::size_t place = digits.size(); place-- > 0; number >>= 4)
+    WCHAR digits[9]{};
+    for (std::size_t place = 8; place-- > 0; number >>= 4)
         digits[place] = TEXT("0123456789ABCDEF")[number & 0xF];
-    return SetEnvironmentVariableW(name.c_str(), digits.c_str()) != FALSE;
+    return SetEnvironmentVariableW(name.c_str(), digits) != FALSE;
 }
 
 DWORD NumberFromHex(StringView digits)
@@ -66,21 +75,21 @@ HANDLE PublishedHeap(const String& name)
 /// Makes a heap that only the user-interface thread uses, hence without a lock of its own, and enters it in the table and the environment.
 HANDLE CreatePublishedHeap(const String& name)
 {
-    const HANDLE heap = HeapCreate(HEAP_NO_SERIALIZE, 0, 0);
+    HeapHandle heap(HeapCreate(HEAP_NO_SERIALIZE, 0, 0));
     if (!heap)
         throw OutOfMemory();
-    DWORD number = static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(heap));
+    DWORD number = static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(heap.Get()));
     while (number == 0 || LiveHeaps().contains(number))
         ++number;
+    LiveHeaps().emplace(number, LiveHeap{heap.Get()});
     if (!Publish(name, number)) {
-        HeapDestroy(heap);
+        LiveHeaps().erase(number);
         throw OutOfMemory();
     }
-    LiveHeaps()[number] = {heap};
-    return heap;
+    return heap.Release();
 }
 
-void DestroyPublishedHeap(const String& name, HANDLE heap)
+void DestroyPublishedHeap(const String& name, HANDLE heap) noexcept
 {
     std::erase_if(LiveHeaps(), [heap](const auto& entry) { return entry.second.handle == heap; });
     HeapDestroy(heap);

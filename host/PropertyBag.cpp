@@ -7,14 +7,30 @@ namespace host {
 
 namespace {
 
+/// True in either of its forms: by its name, or as the number whose bits are all set.
+bool IsTruth(const PropertyValue& value)
+{
+    const auto* number = std::get_if<Number>(&value);
+    return value == PropertyValue(true) || (number && number->value == -1);
+}
+
 template <class T>
 std::optional<T> Typed(const PropertyValue& value)
 {
     if constexpr (std::same_as<T, std::shared_ptr<Font>>) {
         const auto* description = std::get_if<FontDescription>(&value);
         return description ? std::optional(std::make_shared<Font>(*description)) : std::nullopt;
-    } else if constexpr (std::integral<T> && !std::same_as<T, bool>) {
+    } else if constexpr (std::same_as<T, bool>) {
+        if (const auto* number = std::get_if<Number>(&value))
+            return number->value != 0;
+        const bool* truth = std::get_if<bool>(&value);
+        return truth ? std::optional(*truth) : std::nullopt;
+    } else if constexpr (std::integral<T>) {
         const auto* number = std::get_if<Number>(&value);
+        if (std::same_as<T, std::uint8_t> && IsTruth(value))
+            return T{1};
+        if (std::same_as<T, std::uint8_t> && value == PropertyValue(false))
+            return T{0};
         const bool fits = number && number->value >= std::numeric_limits<T>::min() && number->value <= std::numeric_limits<T>::max();
         return fits ? std::optional(static_cast<T>(number->value)) : std::nullopt;
     } else {

@@ -16,7 +16,7 @@ concept BagValue =
     std::same_as<T, std::uint32_t> || std::same_as<T, base::String> || std::same_as<T, std::shared_ptr<Font>> || std::same_as<T, TextList>;
 
 /// Ordered properties. Keys are case-sensitive. `std::uint32_t` is a colour and is written as 0x%08X, `bool` as True or False,
-/// the other numbers in decimal.
+/// the other numbers in decimal. A byte may hold a truth value: True and -1 are read as 1, False as 0; and any number is read as a `bool`.
 class PropertyBag {
 public:
     PropertyBag() = default;

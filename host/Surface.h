@@ -49,7 +49,8 @@ public:
     void OleDropMode(std::int16_t mode);
     /// Drags data from here until the user lets go of it: OLEStartDrag, OLEGiveFeedback, OLESetData, OLECompleteDrag.
     void OLEDrag() { oleDrag_.Start(); }
-    /// 0 transparent, 1 opaque. Kept for the control that stores it.
+    /// 0 transparent, 1 opaque. Kept for the control that stores it: a control of this library paints every pixel of its window, so there
+    /// is none through which the container could show.
     [[nodiscard]] std::int16_t BackStyle() const { return backStyle_; }
     void BackStyle(std::int16_t style) { backStyle_ = style; }
 

@@ -66,6 +66,12 @@ wine_clone() {
     )
 }
 
+# The screen's dots per inch, from the next session on. Nothing may run in the prefix.
+# wine_set_resolution <prefix> <dots>
+wine_set_resolution() {
+    printf '\n[Control Panel\\\\Desktop]\n"LogPixels"=dword:%08x\n' "$2" >>"$1/user.reg"
+}
+
 # Starts the session with its streams closed, so that no caller waits for the pipes of a server that outlives the program.
 # It ends by itself <seconds> after the last program.
 # wine_start_session <prefix> <seconds>
@@ -81,7 +87,8 @@ wine_end_session() {
 }
 
 # Runs one program without a display. In the shared prefix runs may overlap, and the session ends by itself; with VELMORA_OWN_PREFIX=1
-# the program gets a clone of its own, which is removed with everything that still runs in it.
+# the program gets a clone of its own, which is removed with everything that still runs in it, and with VELMORA_DPI that clone's screen has
+# so many dots per inch.
 # wine_run <exe> [args...]
 wine_run() {
     wine_available || { echo "Wine is not installed: ./dev setup" >&2; return 1; }
@@ -92,6 +99,7 @@ wine_run() {
         wine_own="$root/build/wine-clones/$BASHPID"
         mkdir -p "$root/build/wine-clones"
         wine_clone "$wine_own"
+        [ -z "${VELMORA_DPI:-}" ] || wine_set_resolution "$wine_own" "$VELMORA_DPI"
         trap 'wine_end_session "$wine_own"; rm -rf "$wine_own"' EXIT
         wine_start_session "$wine_own" 5
         wine_in "$wine_own" wine "$@" || result=$?

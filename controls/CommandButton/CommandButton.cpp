@@ -127,7 +127,7 @@ void CommandButton::UserControl_WriteProperties(PropertyBag& bag)
 void CommandButton::UserControl_Terminate()
 {
     DestroyToolTip();
-    subclassControl_.Disable();
+    subclassControl_.Release();
     narrowedFont_.Reset();
 }
 

@@ -3,6 +3,7 @@
 
 #include "controls/CommandButton/CommandButtonValues.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace controls {
@@ -26,10 +27,11 @@ CaptionPlace PlaceCaption(int width, int height, const RECT& block, std::int32_t
 {
     const auto [l, t, r, b] = block;
     const LONG textHeight = b - t;
+    // The two ends of a centred caption may be rounded towards each other, and a caption with one pixel less than it needs is wrapped.
     const LONG centredLeft = Half(width - l - r);
-    const LONG centredRight = Half(width - l + r);
+    const LONG centredRight = std::max(Half(width - l + r), centredLeft + r - l);
     const LONG middleTop = Half(height - t - b) + 3;
-    const LONG middleBottom = Half(height - t + b);
+    const LONG middleBottom = std::max(Half(height - t + b), middleTop + textHeight);
 
     CaptionPlace place{};
     switch (align) {

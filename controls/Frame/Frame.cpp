@@ -115,7 +115,7 @@ void Frame::UserControl_Terminate()
 {
     DestroyToolTip();
     windowDc_.Release();
-    subclassControl_.Disable();
+    subclassControl_.Release();
 }
 
 void Frame::UserControl_Show()
@@ -150,8 +150,8 @@ void Frame::DrawFrame()
     if (invisible_)
         return;
     if (backStyle_ == 1) {
-        surface.ForeColor(Ambient().ForeColor());
-        surface.BackColor(Ambient().BackColor());
+        TakeForeColor(Ambient().ForeColor());
+        TakeBackColor(Ambient().BackColor());
         surface.Clear();
     }
     FrameLook look;

@@ -136,6 +136,9 @@ private:
     void Start();
     /// Reports a change and draws.
     void Changed(const WCHAR* name);
+    void TakeBackColor(OleColor color);
+    void TakeForeColor(OleColor color);
+    void TellContained(base::StringView ambient);
     void RepaintWindow();
     void EnableChildren(bool enabled);
     void AcceptFiles(bool accept);

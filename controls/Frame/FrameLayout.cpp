@@ -1,4 +1,4 @@
-// FrameLayout: the caption stands 9 pixels from the left, its background begins 2 pixels before.
+// FrameLayout: the caption stands 9 pixels from the left, its background from (7, 0) to (9 + its width, its height), both included.
 #include "controls/Frame/FrameLayout.h"
 
 #include "controls/AccessKey.h"
@@ -28,7 +28,7 @@ FrameCaption AnalyseFrameCaption(StringView caption)
 
 FrameGeometry LayOutFrame(int width, int height, SIZE text)
 {
-    return {{0, text.cy / 2, width, height - 1}, {9, 0, 9 + text.cx, text.cy}, {7, 0, text.cx + 9, text.cy}};
+    return {{0, text.cy / 2, width, height - 1}, {9, 0, 9 + text.cx, text.cy}, {7, 0, text.cx + 10, text.cy + 1}};
 }
 
 }  // namespace controls

@@ -39,14 +39,37 @@ void Frame::RepaintWindow()
 
 void Frame::BackColor(OleColor color)
 {
-    GetSurface().BackColor(color);
+    TakeBackColor(color);
     Changed(TEXT("BackColor"));
 }
 
 void Frame::ForeColor(OleColor color)
 {
-    GetSurface().ForeColor(color);
+    TakeForeColor(color);
     Changed(TEXT("ForeColor"));
+}
+
+void Frame::TakeBackColor(OleColor color)
+{
+    if (GetSurface().BackColor() == color)
+        return;
+    GetSurface().BackColor(color);
+    TellContained(TEXT("BackColor"));
+}
+
+void Frame::TakeForeColor(OleColor color)
+{
+    if (GetSurface().ForeColor() == color)
+        return;
+    GetSurface().ForeColor(color);
+    TellContained(TEXT("ForeColor"));
+}
+
+/// The frame's colours are the ambient ones of what stands in it.
+void Frame::TellContained(base::StringView ambient)
+{
+    for (host::Control* const control : ContainedControls())
+        control->AmbientChanged(ambient);
 }
 
 void Frame::BackStyle(std::int32_t style)

@@ -3,6 +3,7 @@
 #include "controls/OutOfMemory.h"
 #include "controls/SubclassHeap.h"
 #include "platform/sim/SimPc.h"
+#include "tests/support/FailingMemory.h"
 
 #include <gtest/gtest.h>
 
@@ -37,6 +38,31 @@ TEST(DSubclass, WantOfMemory_IsRaisedWithEverythingUndone)
         EXPECT_TRUE(subclass.TryEnable(window)) << call;
         DestroyWindow(window);
     }
+}
+
+TEST(DSubclass, WantOfMemoryAnywhere_IsAFailureThatLeavesNothing)
+{
+    const HWND window = MakeWindow();
+    for (std::int64_t n = 1;; ++n) {
+        {
+            controls::DSubclass subclass;
+            bool enabled = false, struck = false;
+            {
+                const FailingMemory memory(n);
+                enabled = subclass.TryEnable(window);
+                struck = FailingMemory::HasStruck();
+            }
+            EXPECT_EQ(enabled, subclass.IsSubclassed()) << n;
+            EXPECT_NE(enabled, struck) << n;
+            if (!struck) {
+                EXPECT_GT(n, 4) << "the object, its heap's name and entry, and its route";
+                break;
+            }
+            EXPECT_TRUE(subclass.TryEnable(window)) << "there is memory again after " << n;
+        }
+        EXPECT_TRUE(Published(window).empty() || Published(window) == TEXT("00000000")) << n;
+    }
+    DestroyWindow(window);
 }
 
 TEST(DSubclass, WantOfABlock_LeavesTheOthersHeapAlone)

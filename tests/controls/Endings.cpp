@@ -35,12 +35,13 @@ TEST_F(Endings, InEveryOrder_LeaveNoWindowAndNoHeap)
             ending.end(*form, control);
             control.Enabled(true);
             control.GetExtender().Move(0, 0, 900, 900);
-            form.reset();
+            form->Unload();
             for (const HWND window : {own, shown, tip}) {
                 EXPECT_FALSE(IsWindow(window));
                 WCHAR heap[9] = {};
                 GetEnvironmentVariableW(controls::HeapName(window).c_str(), heap, 9);
-                EXPECT_TRUE(base::StringView(heap).find_first_not_of(TEXT('0')) == base::StringView::npos);
+                EXPECT_TRUE(base::StringView(heap).find_first_not_of(TEXT('0')) == base::StringView::npos)
+                    << "while the control's object lives on";
             }
         }
 }

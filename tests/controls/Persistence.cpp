@@ -59,15 +59,32 @@ TEST_F(Persistence, EveryControl_KeepsTheContract)
     }
 }
 
-TEST_F(Persistence, Button_IsWrittenInItsOwnOrder)
+TEST_F(Persistence, Keys_AreWrittenInTheirOrder)
 {
-    EXPECT_EQ(
-        Keys("CommandButton", buttonStored),
-        "CaptionHide CaptionUniChars Caption FontAutoSize ToolTipTextW ForceTrueType GradientDirection CaptionFx RoundedValue ContourColor "
-        "ContourStyle "
-        "PictureDisabledStyle Style NonThemeStyle PictureAlign CaptionAlign Enabled ShowFocus USeCustomColors BackColor BackColorDisabled "
-        "HighlightColor FontColor FontHighlightColor Tooltiptitle ToolTipIcon TooltipBalloon ToolTipCentred ToolTipWidth ToolTipBackColor "
-        "ToolTipForeColor Font ButtonType Value MaskColor MaskColorEnabled MousePointer RoundedBordersByTheme RightToLeft ");
+    const std::tuple<const char*, const char*, const char*> kinds[] = {
+        {"Frame", frameStored,
+         "BackStyle DragDropEnabled Invisible BorderRound BorderColorDark BorderColorLight ToolTipTextW Tooltiptitle ToolTipIcon "
+         "TooltipBalloon ToolTipCentred ToolTipWidth ToolTipBackColor ToolTipForeColor ForceTrueType UseClassicTheme EnableDisableChilds "
+         "BackColor ForeColor BorderStyle OLEDropMode Caption Enabled Appearance Font "},
+        {"CommandButton", buttonStored,
+         "CaptionHide CaptionUniChars Caption FontAutoSize ToolTipTextW ForceTrueType GradientDirection CaptionFx RoundedValue "
+         "ContourColor ContourStyle PictureDisabledStyle Style NonThemeStyle PictureAlign CaptionAlign Enabled ShowFocus USeCustomColors "
+         "BackColor BackColorDisabled HighlightColor FontColor FontHighlightColor Tooltiptitle ToolTipIcon TooltipBalloon ToolTipCentred "
+         "ToolTipWidth ToolTipBackColor ToolTipForeColor Font ButtonType Value MaskColor MaskColorEnabled MousePointer "
+         "RoundedBordersByTheme RightToLeft "},
+        {"CheckBox", checkStored,
+         "AlignRight BorderStyle ToolTipTextW Tooltiptitle ToolTipIcon TooltipBalloon ToolTipCentred ToolTipWidth TooltipBackColor "
+         "ToolTipForeColor ForceTrueType AutoSize ForeColor BackColor MultiLine Transparent Style Alignment Caption Value Font "
+         "UseClassicTheme Enabled "},
+        {"TextBox", textStored,
+         "CaseStyle TrimText MaxLength BorderStyle PasswordChar ToolTipTextW ForceTrueType EnhacedLineComputing ToolTipBalloon "
+         "ToolTipBackColor ToolTipForeColor ToolTipCentred ToolTipWidth BackColor BackColorSelected BackColorDisabled ForeColor "
+         "TabKeyTextual Text Font UseClassicTheme AllowOnlyAlphabetics AllowOnlyChars Locked HideSelection MultiLine ScrollBars WordWrap "
+         "DragDropEnabled Enabled "}};
+    for (const auto& [kind, stored, keys] : kinds) {
+        form = std::make_unique<KeyForm>();
+        EXPECT_EQ(Keys(kind, stored), keys) << kind;
+    }
 }
 
 TEST_F(Persistence, FrameAndItsSurface_ShareAKey)
@@ -86,16 +103,6 @@ TEST_F(Persistence, FrameAndItsSurface_ShareAKey)
         EXPECT_EQ(Get<controls::Frame>("C").BackStyle(), frame) << stored;
         EXPECT_EQ(Get<controls::Frame>("C").GetSurface().BackStyle(), surface) << stored;
     }
-}
-
-TEST_F(Persistence, DefaultCheckBoxAndTextBox_WriteNothing)
-{
-    EXPECT_EQ(Keys("CheckBox", ""), "");
-    form = std::make_unique<KeyForm>();
-    EXPECT_EQ(Keys("TextBox", ""), "");
-    const auto& box = Get<controls::TextBox>("C");
-    EXPECT_EQ(box.BorderStyle(), 3);
-    EXPECT_TRUE(box.HideSelection());
 }
 
 TEST_F(Persistence, Designer_MakesWindowsButWatchesNone)

@@ -15,6 +15,8 @@ constexpr std::uint32_t kGenerationMask = (1u << 13) - 1;
 
 std::uintptr_t HandleTable::Open(std::shared_ptr<Object> object, Watch watch)
 {
+    // What may run out of memory comes before the handle is there.
+    std::string maker = Gate::CurrentCall();
     std::uint32_t index;
     if (free_.size() > 64) {  // A slot rests for a while, so that a stale handle stays recognisably stale.
         index = free_.front();
@@ -26,7 +28,7 @@ std::uintptr_t HandleTable::Open(std::shared_ptr<Object> object, Watch watch)
     Slot& slot = slots_[index];
     slot.object = std::move(object);
     slot.watch = watch;
-    slot.maker = Gate::CurrentCall();
+    slot.maker = std::move(maker);
     ++live_;
     return (static_cast<std::uintptr_t>(slot.generation) << (kSlotBits + 2)) | (static_cast<std::uintptr_t>(index) << 2);
 }

@@ -138,4 +138,20 @@ TEST(CommandButtonLayout, Caption_StandsWhereItsAlignmentSays)
     }
 }
 
+TEST(CommandButtonLayout, Caption_HasAtLeastTheRoomThatItWasMeasuredAt)
+{
+    for (int width = 20; width <= 120; ++width) {
+        for (LONG text = 1; text <= width; ++text) {
+            for (const std::int32_t align : {0, 1, 2, 3, 4}) {
+                const RECT place = controls::PlaceCaption(width, width, {0, 3, text, 3 + text}, align, 3, false).rectangle;
+                ASSERT_GE(place.right - place.left, text) << width << " " << align;
+                ASSERT_GE(place.bottom - place.top, text) << width << " " << align;
+                if (align == 0) {
+                    ASSERT_LE(std::abs(place.left - (width - place.right)), 1) << width << " " << text;
+                }
+            }
+        }
+    }
+}
+
 }  // namespace tests

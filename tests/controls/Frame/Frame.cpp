@@ -78,6 +78,24 @@ TEST_F(Frame, Children_ThatWereDisabledBefore_StayDisabled)
     EXPECT_TRUE(Any("First").Enabled());
 }
 
+TEST_F(Frame, Colors_AreAmbientToWhatStandsInIt)
+{
+    form->Unload();
+    form = std::make_unique<KeyForm>();
+    Open(R"(Frame Outer { Width = 4500 Height = 3000
+            Frame Inner { Width = 3000 Height = 1500 BackStyle = 1
+                Frame Innermost { Width = 1500 Height = 900 BackStyle = 1 }
+                Frame Own { Top = 900 Width = 1500 Height = 900 }
+            }
+        })");
+    Get<controls::Frame>("Outer").BackColor(0x123456);
+    for (const char* const follower : {"Inner", "Innermost"}) {
+        EXPECT_EQ(Get<controls::Frame>(follower).BackColor(), 0x123456U) << follower;
+        EXPECT_EQ(GetPixel(Get<controls::Frame>(follower).GetSurface().Dc(), 20, 40), 0x123456U) << follower;
+    }
+    EXPECT_EQ(Get<controls::Frame>("Own").BackColor(), 0x8000000FU);
+}
+
 TEST_F(Frame, BorderRound_StaysBetween0And20)
 {
     Box().BorderRound(25);
@@ -195,9 +213,9 @@ TEST_F(FrameBorder, Caption_InterruptsIt)
         const COLORREF border = classic ? GetSysColor(COLOR_BTNSHADOW) : At(6, top_);
         EXPECT_NE(border, back);
         EXPECT_EQ(At(6, top_), border);
-        for (int x = 7; x < length + 9; ++x)
+        for (int x = 7; x <= length + 9; ++x)
             EXPECT_EQ(At(x, top_), back) << x;
-        EXPECT_EQ(At(length + 9, top_), border);
+        EXPECT_EQ(At(length + 10, top_), border);
     }
 }
 

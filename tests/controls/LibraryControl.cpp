@@ -1,0 +1,146 @@
+// What the four controls have in common, asked of each.
+#include "controls/CheckBox/CheckBox.h"
+#include "controls/CommandButton/CommandButton.h"
+#include "controls/Frame/Frame.h"
+#include "controls/TextBox/TextBox.h"
+#include "tests/controls/FormFixture.h"
+
+namespace tests {
+
+class LibraryControl : public FormFixture {
+protected:
+    void SetUp() override
+    {
+        Open(R"(Frame Box { Left = 4500 Width = 4500 Height = 3000 TabIndex = 9 }
+            Frame Frame1 { Left = 150 Top = 300 Width = 1500 Height = 450 Tag = "t" TabIndex = 1 }
+            CommandButton CommandButton1 { Left = 150 Top = 900 Width = 1500 Height = 450 Tag = "t" TabIndex = 2 }
+            CheckBox CheckBox1 { Left = 150 Top = 1500 Width = 1500 Height = 450 Tag = "t" TabIndex = 3 }
+            TextBox TextBox1 { Left = 150 Top = 2100 Width = 1500 Height = 450 Tag = "t" TabIndex = 4 })");
+        form->PropertyChanged.Connect(
+            [this](host::Control& control, base::StringView name) { Note(Narrow(control.Kind()) + " " + Narrow(name)); });
+    }
+    template <class Test>
+    void OnEach(Test test)
+    {
+        for (const char* const name : {"Frame1", "CommandButton1", "CheckBox1", "TextBox1"}) {
+            SCOPED_TRACE(name);
+            Take();
+            test(Get<controls::LibraryControl>(name));
+        }
+    }
+};
+
+/// Of the window that is seen, in the client area of another.
+RECT PlaceIn(HWND window, HWND container)
+{
+    RECT place{};
+    GetWindowRect(window, &place);
+    MapWindowPoints(nullptr, container, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+TEST_F(LibraryControl, Members_AreTheContainersProperties)
+{
+    OnEach([&](controls::LibraryControl& control) {
+        EXPECT_EQ(control.Name(), base::String(control.Kind()) + TEXT("1"));
+        EXPECT_EQ(control.Tag(), TEXT("t"));
+        control.Tag(TEXT("other"));
+        EXPECT_EQ(control.GetExtender().Tag(), TEXT("other"));
+        EXPECT_EQ(&control.Parent(), form.get());
+        EXPECT_EQ(&control.Container(), form.get());
+        EXPECT_EQ(control.Left(), 150);
+        control.Left(300);
+        control.Top(600);
+        control.Width(900);
+        control.Height(750);
+        EXPECT_EQ(control.Top(), 600);
+        EXPECT_EQ(control.Width(), 900);
+        EXPECT_EQ(control.Height(), 750);
+        const RECT place = PlaceIn(control.hWnd(), form->hWnd()), expected{20, 40, 80, 90};
+        EXPECT_TRUE(EqualRect(&place, &expected)) << place.left << " " << place.top << " " << place.right << " " << place.bottom;
+        EXPECT_TRUE(control.Visible());
+        control.Visible(false);
+        EXPECT_FALSE(IsWindowVisible(control.hWnd()));
+        control.Visible(true);
+        control.ZOrder();
+        EXPECT_EQ(GetWindow(form->hWnd(), GW_CHILD), control.hWnd());
+        control.ZOrder(1);
+        EXPECT_EQ(GetWindow(control.OwnHandle(), GW_HWNDNEXT), nullptr);
+    });
+}
+
+TEST_F(LibraryControl, GoldenSection_ChangesTheWidthAndTellsIt)
+{
+    OnEach([&](controls::LibraryControl& control) {
+        control.GoldenSection(false);
+        EXPECT_EQ(Take(), Lines{});
+        control.GoldenSection(true);
+        EXPECT_NEAR(control.Width(), 728.115, 0.001) << "450 by the golden ratio";
+        EXPECT_EQ(Take(), Lines{Narrow(control.Kind()) + " Width"});
+        EXPECT_FALSE(control.GoldenSection());
+        EXPECT_NEAR(control.GetGoldenSection(100, true), 161.803, 0.001);
+    });
+}
+
+TEST_F(LibraryControl, Font_IsCopiedAndToldAndNeverNone)
+{
+    const auto given = std::make_shared<host::Font>(host::FontDescription{.name = TEXT("Tahoma"), .size = 12});
+    OnEach([&](controls::LibraryControl& control) {
+        control.Font(nullptr);
+        EXPECT_EQ(Take(), Lines{});
+        ASSERT_NE(control.Font(), nullptr);
+        control.Font(given);
+        EXPECT_EQ(Take(), Lines{Narrow(control.Kind()) + " Font"});
+        EXPECT_NE(control.Font(), given) << "a copy";
+        EXPECT_EQ(control.Font()->Description(), given->Description());
+    });
+    given->Bold(true);
+    OnEach([&](controls::LibraryControl& control) {
+        EXPECT_FALSE(control.Font()->Bold());
+        control.Font()->Italic(true);
+        EXPECT_EQ(Take(), Lines{Narrow(control.Kind()) + " Font"}) << "what is changed in the control's own font is told";
+    });
+    for (const char* const name : {"CheckBox1", "TextBox1"}) {
+        LOGFONTW shown{};
+        GetObjectW(reinterpret_cast<HFONT>(SendMessageW(Any(name).hWnd(), WM_GETFONT, 0, 0)), sizeof shown, &shown);
+        EXPECT_NE(shown.lfItalic, 0) << name << " hears of it although both were given one font";
+    }
+}
+
+TEST_F(LibraryControl, NoFontThenForceTrueType_IsSafe)
+{
+    Get<controls::Frame>("Frame1").Font(nullptr);
+    Get<controls::Frame>("Frame1").ForceTrueType(true);
+    Get<controls::CheckBox>("CheckBox1").Font(nullptr);
+    Get<controls::CheckBox>("CheckBox1").ForceTrueType(true);
+    Get<controls::TextBox>("TextBox1").Font(nullptr);
+    Get<controls::TextBox>("TextBox1").ForceTrueType(true);
+    Get<controls::CommandButton>("CommandButton1").Font(nullptr);
+    Get<controls::CommandButton>("CommandButton1").ForceTrueType(true);
+    OnEach([](controls::LibraryControl& control) { EXPECT_NE(control.Font(), nullptr); });
+}
+
+TEST_F(LibraryControl, Container_CanBeChanged)
+{
+    auto& box = Get<controls::Frame>("Box");
+    OnEach([&](controls::LibraryControl& control) {
+        control.Container(box);
+        EXPECT_EQ(&control.Container(), &box);
+        EXPECT_EQ(GetParent(control.hWnd()), box.hWnd());
+        EXPECT_EQ(GetParent(control.OwnHandle()), box.hWnd());
+        EXPECT_EQ(PlaceIn(control.hWnd(), box.hWnd()).left, 10);
+        EXPECT_TRUE(IsWindowVisible(control.hWnd()));
+    });
+    EXPECT_EQ(box.ContainedControls().size(), 4U);
+    EXPECT_EQ(form->ContainedControls().size(), 1U);
+    Get<controls::CheckBox>("CheckBox1").Click.Connect([this] { Note("click"); });
+    Any("CheckBox1").SetFocus();
+    Take();
+    Press(VK_SPACE);
+    EXPECT_EQ(Take(), (Lines{"CheckBox Value", "click"})) << "it listens to its new window";
+    Get<controls::Frame>("Frame1").Container(box);
+    box.Container(Get<controls::Frame>("Frame1"));
+    EXPECT_EQ(&box.Container(), form.get()) << "nothing stands in itself";
+}
+
+}  // namespace tests
