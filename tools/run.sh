@@ -11,10 +11,13 @@ run_main() {
     fi
     wine_make_prefix
     step "build windows" build_preset windows utility agent
+    # Every run begins as on a PC that has never seen the utility: no service, no auto-start value, no settings.
+    rm -rf "$run_folder"
     mkdir -p "$run_folder"
     cp "build/windows/app/resources/$exe_name" build/windows/tools/agent/Velmora.exe "$run_folder/"
     run_prefix="$root/build/wine-run"
-    [ -e "$run_prefix" ] || wine_clone "$run_prefix"
+    wine_end_session "$run_prefix"
+    wine_clone "$run_prefix"
     run_started=()
     trap run_end EXIT
     if [ -n "${DISPLAY:-}" ]; then
@@ -45,7 +48,7 @@ use_display() {
 }
 
 run_for_person() {
-    echo "the real exe under Wine, on display $DISPLAY; files are kept in build/run"
+    echo "the real exe under Wine, on display $DISPLAY; its files are in build/run until the next run"
     use_display Y
     cd "$run_folder"
     wine_in "$run_prefix" wine "$exe_name" </dev/null
@@ -70,19 +73,16 @@ run_for_picture() {
 
     # Something to see: a password, and the agent running as a service.
     cd "$run_folder"
-    rm -f window.png
     printf '[Settings]\r\nPwd=AYWJj\r\n' >Velmora.ini
     local agent
     agent="\"$(wine_in "$run_prefix" winepath -w "$run_folder/Velmora.exe" </dev/null 2>/dev/null | tr -d '\r')\""
-    wine_in "$run_prefix" wine sc create Velmora 'binPath=' "$agent" </dev/null >/dev/null 2>&1 || true
-    wine_in "$run_prefix" wine sc start Velmora </dev/null >/dev/null 2>&1 || true
+    wine_in "$run_prefix" wine sc create Velmora 'binPath=' "$agent" </dev/null >/dev/null 2>&1
+    wine_in "$run_prefix" wine sc start Velmora </dev/null >/dev/null 2>&1
     wine_in "$run_prefix" wine "$exe_name" </dev/null >/dev/null 2>&1 &
     run_started+=($!)
     # Four seconds are three looks at the service, which takes half of that to start.
     sleep 4
     import -window "$window_title" window.png
-    wine_in "$run_prefix" wine sc stop Velmora </dev/null >/dev/null 2>&1 || true
-    wine_in "$run_prefix" wine sc delete Velmora </dev/null >/dev/null 2>&1 || true
     echo "the window: build/run/window.png"
 }
 
