@@ -79,6 +79,7 @@ void Form1::RefreshServicePanel()
 void Form1::ShowServiceMissing()
 {
     ServiceInstalled = false;
+    LastStartType = 0;
     SetEnabled(*CheckAutoStart, true);
     Label(*cmdInstall, TEXT("Install Service"), TEXT("Install Velmora Service"));
     EnableAccount(chkSystem->Value() == 0);

@@ -20,6 +20,13 @@ bool Set(HKEY key, StringView name, DWORD type, const void* data, std::size_t si
     return RegSetValueExW(key, String(name).c_str(), 0, type, static_cast<const BYTE*>(data), static_cast<DWORD>(size)) == ERROR_SUCCESS;
 }
 
+HKEY Open(HKEY hive, StringView subkey, REGSAM access, bool use64BitView)
+{
+    HKEY key = nullptr;
+    const REGSAM view = use64BitView ? KEY_WOW64_64KEY : 0;
+    return RegOpenKeyExW(hive, String(subkey).c_str(), 0, access | view, &key) == ERROR_SUCCESS ? key : nullptr;
+}
+
 /// A decimal number that fits into 32 bits, signed or unsigned.
 std::optional<DWORD> ParseDword(StringView text)
 {
@@ -44,9 +51,7 @@ std::optional<DWORD> ParseDword(StringView text)
 
 HKEY OpenRegKey(HKEY hive, StringView subkey, bool use64BitView)
 {
-    HKEY key = nullptr;
-    const REGSAM access = readAndWrite | (use64BitView ? KEY_WOW64_64KEY : 0);
-    return RegOpenKeyExW(hive, String(subkey).c_str(), 0, access, &key) == ERROR_SUCCESS ? key : nullptr;
+    return Open(hive, subkey, readAndWrite, use64BitView);
 }
 
 bool CloseRegKey(HKEY key)
@@ -79,7 +84,10 @@ bool QueryRegValue(HKEY key, StringView name, String& text, DWORD& type)
 
 bool ReadRegValue(HKEY hive, StringView subkey, StringView name, String& text, DWORD& type, bool use64BitView)
 {
-    const HKEY key = OpenRegKey(hive, subkey, use64BitView);
+    HKEY key = OpenRegKey(hive, subkey, use64BitView);
+    // Ordinary users may read keys of the whole machine but not write to them.
+    if (!key)
+        key = Open(hive, subkey, KEY_READ, use64BitView);
     if (!key)
         return false;
     const bool read = QueryRegValue(key, name, text, type);

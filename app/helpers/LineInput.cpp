@@ -24,22 +24,25 @@ std::size_t FindSeparator(std::string_view text, std::string_view separator, std
 
 std::string LineInputEx(HANDLE file, std::string_view separator, const LineInputOptions& options)
 {
+    const std::string end(options.separatorAtEnd ? separator : std::string_view());
     if (IsAtEnd(file))
-        return options.separatorAtEnd ? std::string(separator) : std::string();
+        return end;
     std::string line;
     for (std::size_t chunk = 1024;; chunk *= 2) {
         const std::size_t before = line.size();
         line.resize(before + chunk);
         DWORD read = 0;
+        // A line that was read in part would pass for a whole one.
         if (!ReadFile(file, line.data() + before, static_cast<DWORD>(chunk), &read, nullptr))
-            read = 0;
+            return end;
         line.resize(before + read);
         const std::size_t from = before < separator.size() ? 0 : before - separator.size() + 1;
         const std::size_t found = FindSeparator(line, separator, from, options.bytesPerCharacter);
         if (found != std::string::npos) {
             LARGE_INTEGER back = {};
             back.QuadPart = static_cast<LONGLONG>(found + separator.size()) - static_cast<LONGLONG>(line.size());
-            SetFilePointerEx(file, back, nullptr, FILE_CURRENT);
+            if (!SetFilePointerEx(file, back, nullptr, FILE_CURRENT))
+                return end;
             line.resize(found);
             return line;
         }

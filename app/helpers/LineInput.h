@@ -14,7 +14,7 @@ struct LineInputOptions {
 };
 
 /// The bytes from the file's position up to the separator, or up to the end of the file; the position is then behind the separator.
-/// A failed read counts as the end of the file. `file` stays the caller's.
+/// A failed read counts as the end of the file, and what had been read of the line is dropped. `file` stays the caller's.
 std::string LineInputEx(HANDLE file, std::string_view separator, const LineInputOptions& options);
 
 }  // namespace helpers

@@ -4,8 +4,6 @@
 
 #include <shlwapi.h>
 
-#include <array>
-
 namespace helpers {
 
 using base::String;
@@ -17,6 +15,18 @@ constexpr StringView forbiddenInPath = TEXT("/*?<>|\"\n\r");
 constexpr StringView forbiddenInFileName = TEXT("\\/:*?<>|\"\n\r");
 constexpr StringView longPathPrefix = TEXT("\\\\?\\");
 
+/// Windows cuts a name that is longer than the buffer and returns the buffer's size; then it is asked again with more room.
+String ModuleFileName(DWORD room)
+{
+    constexpr DWORD longestPath = 32767;
+    for (String name;; room *= 2) {
+        name.resize(room);
+        name.resize(GetModuleFileNameW(nullptr, name.data(), room));
+        if (name.size() < room || room > longestPath)
+            return name;
+    }
+}
+
 bool HasDotAtEitherEnd(StringView text)
 {
     return text.front() == TEXT('.') || text.back() == TEXT('.');
@@ -27,11 +37,8 @@ bool HasDotAtEitherEnd(StringView text)
 String GetAppPath()
 {
     String& path = ProcessCaches().appPath;
-    if (path.empty()) {
-        std::array<WCHAR, 260> buffer = {};
-        const DWORD length = GetModuleFileNameW(nullptr, buffer.data(), static_cast<DWORD>(buffer.size()));
-        path = GetFolderFromPath(StringView(buffer.data(), length));
-    }
+    if (path.empty())
+        path = GetFolderFromPath(ModuleFileName(260));
     return path;
 }
 
@@ -39,9 +46,8 @@ String GetAppExeName()
 {
     String& name = ProcessCaches().appExeName;
     if (name.empty()) {
-        std::array<WCHAR, 520> buffer = {};
-        GetModuleFileNameW(nullptr, buffer.data(), 519);
-        WCHAR* const file = PathFindFileNameW(buffer.data());
+        String module = ModuleFileName(519);
+        WCHAR* const file = PathFindFileNameW(module.data());
         PathRemoveExtensionW(file);
         name = file;
     }

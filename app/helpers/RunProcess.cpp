@@ -25,6 +25,13 @@ String Edited(const String& path, PathFunction function)
     return buffer.c_str();
 }
 
+/// PathQuoteSpacesW leaves a path as it is when the quotes would make it longer than MAX_PATH.
+String Quoted(const String& path)
+{
+    const String quoted = Edited(path, PathQuoteSpacesW);
+    return quoted == path && path.find(TEXT(' ')) != String::npos ? TEXT('"') + path + TEXT('"') : quoted;
+}
+
 void WaitForEnd(HANDLE process)
 {
     for (;;) {
@@ -44,7 +51,7 @@ DWORD RunProcess(StringView path, StringView arguments, bool wait, bool showNorm
     if (program.empty() || !FileExists(program))
         return 0;
     const String folder = GetFolderFromPath(program);
-    String commandLine = Edited(program, PathQuoteSpacesW);
+    String commandLine = Quoted(program);
     if (const String trimmed = base::Trim(arguments); !trimmed.empty())
         commandLine += TEXT(' ') + trimmed;
 

@@ -84,6 +84,19 @@ TEST_F(Form1Service, ChangesFromOutside_ShowWithinASecond)
     ExpectMissing();
 }
 
+TEST_F(Form1Service, RemovedService_IsForgottenWithItsStartupType)
+{
+    ASSERT_TRUE(Open());
+    Installed().startType = SERVICE_DEMAND_START;
+    pc.Advance(1000);
+    The<Services>().Delete(name);
+    pc.Advance(1000);
+    Startup().ListIndex(2);
+    Installed().startType = SERVICE_DEMAND_START;
+    pc.Advance(1000);
+    EXPECT_EQ(Startup().Text(), TEXT("Manual"));
+}
+
 TEST_F(Form1Service, OpenPanel_ShowsTheInstalledConfiguration)
 {
     const std::pair<DWORD, const WCHAR*> cases[] = {

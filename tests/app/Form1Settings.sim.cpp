@@ -39,6 +39,25 @@ TEST_F(Form1Settings, StoredPasswords_LoadOrShowAsEmpty)
     }
 }
 
+TEST_F(Form1Settings, FailedRead_ShowsNoPasswordRatherThanAPartOfIt)
+{
+    // The mark, three chunks and the way back to the line's end.
+    WriteSettings("[Settings]\r\nPwd=A" + std::string(5000, 'Q') + "\r\n");
+    for (const std::string_view function : {"ReadFile", "SetFilePointerEx"})
+        for (const int last : {1, 1000000})  // once, and from then on
+            for (int first = 1; first <= 8; ++first) {
+                int count = 0;
+                pc.Trace().OnCall = [&](std::string_view called) {
+                    if (called == function && ++count >= first && count < first + last)
+                        pc.GetFaults().FailCall(function, ERROR_ACCESS_DENIED);
+                };
+                ASSERT_TRUE(Open());
+                EXPECT_EQ(Password().size(), count < first ? 3750u : 0u) << function << " " << first;
+                Close();
+            }
+    pc.Trace().OnCall = nullptr;
+}
+
 TEST_F(Form1Settings, Ok_SavesThePasswordAndKeepsTheAgentsOwnSettings)
 {
     const std::pair<const WCHAR*, const char*> cases[] = {{TEXT("abc"), "AYWJj"}, {TEXT("\x20AC"), "WrCA="}, {TEXT(""), ""}};
@@ -154,11 +173,14 @@ TEST_F(Form1Settings, Bits32On64_ReachTheRealRunKey)
     ExpectAutoStart(1, 0, 0);
 }
 
-TEST_F(Form1Settings, OrdinaryUser_CannotChangeAutoStartButOkCloses)
+TEST_F(Form1Settings, OrdinaryUser_SeesAutoStartCannotChangeItAndOkCloses)
 {
     SetAutoStart(u"old /Hidden");
     The<Users>().Administrator(false);
     ASSERT_TRUE(Open());
+    EXPECT_EQ(Check(TEXT("CheckAutoStart")).Value(), 1);
+    EXPECT_EQ(Check(TEXT("CheckHideTrayIcon")).Value(), 1);
+    EXPECT_EQ(Check(TEXT("CheckSoundStart")).Value(), 0);
     Text(TEXT("TextPassword")).Text(TEXT("abc"));
     Click(TEXT("CommandOk"));
     EXPECT_FALSE(IsOpen());

@@ -106,6 +106,24 @@ TEST_F(Form1StartUp, FramesOfAnOrdinaryUser_EnabledAgain_AreAsAnAdministratorsAr
     }
 }
 
+TEST_F(Form1StartUp, FramesOfAnOrdinaryUser_StayOffAtEveryTick)
+{
+    The<Users>().Administrator(false);
+    ASSERT_TRUE(Open());
+    const std::u16string off = Disabled();
+    The<Services>().Install(u"Velmora", u"C:\\Tools\\Velmora.exe");
+    for (const DWORD state : {SERVICE_STOPPED, SERVICE_START_PENDING, SERVICE_RUNNING, SERVICE_STOPPED}) {
+        The<Services>().SetState(u"Velmora", state);
+        pc.Advance(1000);
+        EXPECT_EQ(Disabled(), off) << "state " << state;
+        EXPECT_EQ(Button(TEXT("cmdInstall")).Caption(), TEXT("Uninstall Service"));
+    }
+    The<Services>().Delete(u"Velmora");
+    pc.Advance(1000);
+    EXPECT_EQ(Disabled(), off) << "removed";
+    EXPECT_EQ(Button(TEXT("cmdInstall")).Caption(), TEXT("Install Service"));
+}
+
 TEST_F(Form1StartUp, Keys_CloseTheWindowOnlyWithTheRightModifiers)
 {
     ASSERT_TRUE(Open());

@@ -4,6 +4,7 @@
 #include "tests/support/FreshCaches.h"
 
 using namespace platform;
+using base::String;
 using helpers::RunProcess;
 
 namespace {
@@ -26,16 +27,19 @@ TEST_F(RunningProcess, CommandLine_QuotesOnlyPathsWithBlanks)
 {
     AddProgram(u"C:\\A\\a.exe", 10);
     AddProgram(u"C:\\A b\\a.exe", 10);
-    const std::tuple<const WCHAR*, const WCHAR*, const char16_t*, const char16_t*> cases[] = {
+    const String folder = TEXT("C:\\A b") + String(250, TEXT('x')) + TEXT("\\");  // 260 characters with the file's name
+    AddProgram(folder + TEXT("a.exe"), 10);
+    const std::tuple<String, const WCHAR*, String, String> cases[] = {
         {TEXT("C:\\A\\a.exe"), TEXT(""), u"C:\\A\\a.exe", u"C:\\A\\"},
         {TEXT(" C:\\A\\a.exe "), TEXT("  /x y "), u"C:\\A\\a.exe /x y", u"C:\\A\\"},
         {TEXT("C:\\A b\\a.exe"), TEXT("/x"), u"\"C:\\A b\\a.exe\" /x", u"C:\\A b\\"},
-        {TEXT("\"C:\\A b\\a.exe\""), TEXT(""), u"\"C:\\A b\\a.exe\"", u"C:\\A b\\"}};
-    for (const auto& [path, arguments, commandLine, folder] : cases) {
+        {TEXT("\"C:\\A b\\a.exe\""), TEXT(""), u"\"C:\\A b\\a.exe\"", u"C:\\A b\\"},
+        {folder + TEXT("a.exe"), TEXT("/x"), TEXT("\"") + folder + TEXT("a.exe\" /x"), folder}};
+    for (const auto& [path, arguments, commandLine, workingFolder] : cases) {
         EXPECT_NE(RunProcess(path, arguments, false, true, NORMAL_PRIORITY_CLASS), 0u);
         const auto& request = processes.Requests().back();
         EXPECT_EQ(request.commandLine, commandLine);
-        EXPECT_EQ(request.folder, folder);
+        EXPECT_EQ(request.folder, workingFolder);
         EXPECT_EQ(request.flags, 32u);
         EXPECT_EQ(request.startupFlags, 1u);
         EXPECT_EQ(request.showWindow, SW_SHOWNORMAL);

@@ -1,6 +1,7 @@
 #include "app/helpers/StartUpChecks.h"
 
 #include "app/helpers/MsgBox.h"
+#include "app/helpers/Paths.h"
 #include "app/helpers/SpecialFolders.h"
 #include "platform/sim/Desktop.h"
 #include "platform/sim/Folders.h"
@@ -56,6 +57,17 @@ TEST_F(StartUpChecks, Administrator_IsKnownByAdvpack)
     pc.Get<Users>().Administrator(true);
     pc.Get<Modules>().RemoveLibrary(u"advpack.dll");
     EXPECT_FALSE(helpers::IsUserAdmin());
+}
+
+TEST_F(StartUpChecks, OwnPath_IsWholeHoweverLong)
+{
+    for (const std::size_t length : {1u, 240u, 250u, 270u, 510u, 2000u}) {
+        const base::String folder = TEXT("C:\\") + base::String(length, TEXT('f')) + TEXT("\\");
+        pc.Get<Processes>().OwnImage(folder + TEXT("Foo.Bar.exe"));
+        helpers::ForgetCaches();
+        EXPECT_EQ(helpers::GetAppPath(), folder);
+        EXPECT_EQ(helpers::GetAppExeName(), TEXT("Foo.Bar"));
+    }
 }
 
 TEST_F(StartUpChecks, SpecialFolders_EndAsAsked)
