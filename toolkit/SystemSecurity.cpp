@@ -90,13 +90,13 @@ std::int16_t SystemSecurity::GetDebugPrivilege()
 
 std::uint8_t SystemSecurity::SetDebugPrivilege(std::int32_t In_Value)
 {
-    return SetPrivilege(debugPrivilege, In_Value, PreviousDebugPrivilege) == 1;
+    return SetPrivilege(debugPrivilege, In_Value, previousDebugPrivilege_) == 1;
 }
 
 std::uint8_t SystemSecurity::RestoreDebugPrivilege() const
 {
     std::int32_t discarded = 0;
-    return SetPrivilege(debugPrivilege, PreviousDebugPrivilege, discarded) == 1;
+    return SetPrivilege(debugPrivilege, previousDebugPrivilege_, discarded) == 1;
 }
 
 }  // namespace toolkit

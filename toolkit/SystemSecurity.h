@@ -25,9 +25,11 @@ public:
     /// 1 when done, else 0. `RestoreDebugPrivilege` goes back to the state before the last `SetDebugPrivilege`.
     std::uint8_t SetDebugPrivilege(std::int32_t In_Value);
     std::uint8_t RestoreDebugPrivilege() const;
+    /// The state before the last `SetDebugPrivilege` that could read it, 0 at first.
+    [[nodiscard]] std::int32_t PreviousDebugPrivilege() const { return previousDebugPrivilege_; }
 
 private:
-    std::int32_t PreviousDebugPrivilege = 0;
+    std::int32_t previousDebugPrivilege_ = 0;
 };
 
 }  // namespace toolkit

@@ -87,7 +87,7 @@ public:
     /// At most 259 characters, without sending a message to the window.
     base::String GetWindowTitle(HWND In_hWnd) const;
     base::String GetClassNameFromHWnd(HWND In_hWnd, bool In_RealClassName) const;
-    /// Both wait at most one second for the window's answer.
+    /// Both wait at most one second for the window's answer. No more than 16,777,216 characters of a text are read.
     std::int32_t GetLenTextByHWnd(HWND In_hWnd) const;
     base::String GetTextByHWnd(HWND In_hWnd) const;
     /// Looks for the exact title among the top-level windows, then among their direct children.

@@ -14,6 +14,8 @@ using base::StringView;
 namespace {
 
 constexpr UINT answerTime = 1000;  // milliseconds
+/// Characters. A window of another program may answer anything when it is asked how long its text is.
+constexpr std::int32_t longestText = 1 << 24;
 
 std::string ToAnsi(StringView text)
 {
@@ -91,7 +93,7 @@ std::int32_t TaskManLight::GetLenTextByHWnd(HWND In_hWnd) const
 
 String TaskManLight::GetTextByHWnd(HWND In_hWnd) const
 {
-    const std::int32_t length = GetLenTextByHWnd(In_hWnd);
+    const std::int32_t length = std::min(GetLenTextByHWnd(In_hWnd), longestText);
     if (length <= 0)
         return {};
     String text(static_cast<std::size_t>(length) + 2, TEXT('\0'));

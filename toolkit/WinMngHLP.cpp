@@ -1,6 +1,7 @@
 #include "toolkit/WinMngHLP.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 namespace toolkit {
@@ -14,15 +15,20 @@ public:
     void Start()
     {
         count_ = 0;
+        whole_ = true;
         slots_.resize(1);
     }
-    /// The callbacks run above Windows' own frames, which no exception may cross.
+    /// The callbacks run above Windows' own frames, which no exception may cross: without memory the list is not whole, and none is added.
     void Add(Element element) noexcept
-    {
-        if (count_ == slots_.size())
+    try {
+        if (whole_ && count_ == slots_.size())
             slots_.resize(slots_.size() + Step);
-        slots_[count_++] = element;
+        if (whole_)
+            slots_[count_++] = element;
+    } catch (const std::bad_alloc&) {
+        whole_ = false;
     }
+    [[nodiscard]] bool Whole() const { return whole_; }
     [[nodiscard]] bool Holds(Element element) const
     {
         const auto end = slots_.begin() + static_cast<std::ptrdiff_t>(count_);
@@ -38,6 +44,7 @@ public:
 private:
     std::vector<Element> slots_;
     std::size_t count_ = 0;
+    bool whole_ = true;
 };
 
 /// The one collection that can run at a time; the callbacks write it.
@@ -94,12 +101,21 @@ Count Collect(List& list, std::vector<Element>& output, Enumerate enumerate)
 {
     if (current.Busy)
         return -1;
-    current.Busy = 1;
-    list.Start();
-    enumerate();
-    output = list.HandOver();
-    current.Busy = 0;
-    return static_cast<Count>(output.size());
+    struct BusyWhile {
+        BusyWhile() { current.Busy = 1; }
+        ~BusyWhile() { current.Busy = 0; }
+    } const busy;
+    try {
+        list.Start();
+        enumerate();
+        std::vector<Element> elements = list.HandOver();
+        if (!list.Whole())
+            return -1;
+        output = std::move(elements);
+        return static_cast<Count>(output.size());
+    } catch (const std::bad_alloc&) {
+        return -1;
+    }
 }
 
 std::int32_t CollectTopLevel(WNDENUMPROC take, DWORD process, std::vector<HWND>& output)

@@ -9,7 +9,7 @@
 namespace toolkit {
 
 /// Each returns the number of elements; the list's old contents are discarded. One collection runs at a time: a collector that is entered
-/// while another runs returns -1 at once and leaves the caller's list as it was.
+/// while another runs returns -1 at once and leaves the caller's list as it was, and so does one that finds no memory for its list.
 /// https://learn.microsoft.com/windows/win32/api/winuser/nf-winuser-enumwindows
 ///
 /// The top-level windows of the process (of all for 0), each followed by all of its descendants.

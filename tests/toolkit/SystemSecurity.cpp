@@ -47,10 +47,12 @@ TEST(SystemSecurity, Restore_PutsTheDebugPrivilegeBack)
     for (const int state : {0, 1}) {
         SystemSecurity::SetPrivilege(debug, state, previous);
         EXPECT_EQ(security.SetDebugPrivilege(1 - state), 1);
+        EXPECT_EQ(security.PreviousDebugPrivilege(), state);
         EXPECT_EQ(SystemSecurity::GetDebugPrivilege(), 1 - state);
         EXPECT_EQ(security.RestoreDebugPrivilege(), 1);
         EXPECT_EQ(SystemSecurity::GetDebugPrivilege(), state);
     }
+    EXPECT_EQ(SystemSecurity().PreviousDebugPrivilege(), 0);
     EXPECT_EQ(SystemSecurity().RestoreDebugPrivilege(), 1);
     EXPECT_EQ(SystemSecurity::GetDebugPrivilege(), 0) << "never set counts as set from disabled";
 }

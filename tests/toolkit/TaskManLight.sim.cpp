@@ -10,6 +10,34 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+/// How many more times memory is given; -1: always.
+int allocationsLeft = -1;
+
+}  // namespace
+
+void* operator new(std::size_t size)
+{
+    if (allocationsLeft == 0)
+        throw std::bad_alloc();
+    if (allocationsLeft > 0)
+        --allocationsLeft;
+    void* const memory = std::malloc(size);
+    return memory ? memory : throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
 using namespace platform;
 using base::String;
 using tests::HelperProcess;
@@ -61,6 +89,23 @@ TEST_F(TaskManLight, NestedCollection_FindsNothingAndLeavesTheOuterOneWhole)
     EXPECT_EQ(outer, whole);
     EXPECT_FALSE(helper.Ends(0));
     EXPECT_EQ(tools.GetAllHWnd(outer), 6) << "free again";
+}
+
+TEST_F(TaskManLight, CollectionWithoutMemory_LeavesTheListAndCanBeRepeated)
+{
+    tests::TestWindows own;
+    own.Make("top:a child:b top:c top:d top:e top:f top:g top:h top:i top:j top:k top:l top:m top:n");
+    std::vector<HWND> whole;
+    tools.GetAllHWnd(whole);
+    std::vector<HWND> list(30);
+    int refused = 0;
+    for (std::int32_t count = -1; count == -1; ++refused) {
+        allocationsLeft = refused;
+        count = tools.GetAllHWnd(list);
+        allocationsLeft = -1;
+        EXPECT_EQ(list, count == -1 ? std::vector<HWND>(30) : whole) << refused;
+    }
+    EXPECT_GT(refused, 3) << "the list grows twice";
 }
 
 TEST_F(TaskManLight, Paths_TakeTheFirstDriveWhoseDeviceBegins)

@@ -141,6 +141,22 @@ TEST_F(TaskManLightWindows, Texts_AreReadInFull)
     EXPECT_EQ(tools.GetPIDFromhWnd(edit), 0u);
 }
 
+TEST_F(TaskManLightWindows, AbsurdTextLength_IsALimit)
+{
+    static WPARAM room = 0;
+    static WNDPROC procedure = nullptr;
+    const HWND window = windows.Top(TEXT("title"));
+    const WNDPROC absurd = [](HWND asked, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
+        if (message == WM_GETTEXT)
+            room = wParam;
+        return message == WM_GETTEXTLENGTH ? 0x7FFFFFFF : CallWindowProcW(procedure, asked, message, wParam, lParam);
+    };
+    procedure = reinterpret_cast<WNDPROC>(SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(absurd)));
+    EXPECT_EQ(tools.GetLenTextByHWnd(window), 0x7FFFFFFF);
+    EXPECT_EQ(tools.GetTextByHWnd(window), TEXT("title"));
+    EXPECT_EQ(room, 0x1000002u);
+}
+
 TEST_F(TaskManLightWindows, ShowingAndClosing_ReachTheWindow)
 {
     const HWND window = windows.Top(TEXT("a"));
