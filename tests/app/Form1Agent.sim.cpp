@@ -62,6 +62,19 @@ TEST_F(Form1Agent, ExecutableGone_LeavesTheButtonEnabled)
     ExpectButtons(true, false);
 }
 
+TEST_F(Form1Agent, OwnWindowOfThatTitle_IsNoAgent)
+{
+    ASSERT_TRUE(Open());
+    const HWND own =
+        CreateWindowExW(0, TEXT("Static"), TEXT("VELMORA-IDENTIFICATION-WINDOW"), WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+    pc.Advance(2000);
+    ExpectButtons(true, false);
+    Button(TEXT("CommandCloseVelmora")).Click.Raise();
+    pc.Settle();
+    EXPECT_TRUE(IsOpen() && IsWindow(own)) << "it would close a window of its own";
+    DestroyWindow(own);
+}
+
 TEST_F(Form1Agent, AgentThatStays_IsShownAsRunning)
 {
     agent->ignoresClose = true;
@@ -89,9 +102,11 @@ TEST_F(Form1Agent, AgentThatVanishes_IsNotClosed)
 
 TEST_F(Form1Agent, EditedPassword_IsSavedOnceBeforeTheLaunch)
 {
+    WriteSettings("[Settings]\r\nPwd=AZg==\r\n");
     ASSERT_TRUE(Open());
+    The<Volumes>().Remove(u"C:\\Tools\\Velmora.ini");
     Click(TEXT("CommandStartVelmora"));
-    EXPECT_EQ(Settings(), std::nullopt) << "nothing was edited";
+    EXPECT_EQ(Settings(), std::nullopt) << "loading is no editing";
     for (const DWORD process : The<Processes>().Running(exe))
         The<Processes>().End(process);
     pc.Advance(2000);

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <sstream>
 
 using base::String;
 
@@ -87,6 +88,73 @@ TEST_F(Form1Layout, EveryControl_StandsWhereItWasDrawn)
             EXPECT_EQ(place.bottom - place.top, design.height / tests::kTwipsPerPixel);
         }
     }
+}
+
+/// Font, size in points, and what else was chosen when the control was drawn; colours in hexadecimal.
+std::string LookOf(host::Control& control)
+{
+    const auto text = [](const std::shared_ptr<host::Font>& font) {
+        return std::string(font->Name().begin(), font->Name().end()) + " " + std::to_string(font->Size()).substr(0, 4);
+    };
+    std::ostringstream look;
+    look << std::hex << std::showbase;
+    if (auto* const timer = dynamic_cast<host::Timer*>(&control)) {
+        look << std::dec << timer->Interval() << (timer->Enabled() ? " ms" : " off");
+    } else if (auto* const button = dynamic_cast<controls::CommandButton*>(&control)) {
+        look << text(button->Font()) << ", style " << std::dec << button->Style() << std::hex << " focus " << button->ShowFocus()
+             << " contour " << button->ContourColor() << " highlight " << button->HighLightColor() << " mask " << button->MaskColor()
+             << " rounded " << button->RoundedBordersByTheme() << " tip " << button->TooltipBackColor() << "/"
+             << button->ToolTipForeColor();
+    } else if (auto* const check = dynamic_cast<controls::CheckBox*>(&control)) {
+        look << text(check->Font()) << ", value " << static_cast<int>(check->Value()) << " size " << check->AutoSize();
+    } else if (auto* const box = dynamic_cast<controls::TextBox*>(&control)) {
+        look << text(box->Font()) << ", password " << box->UseSystemPasswordChar() << " true type " << box->ForceTrueType();
+    } else if (auto* const frame = dynamic_cast<controls::Frame*>(&control)) {
+        look << text(frame->Font());
+    } else {
+        LOGFONTW font = {};
+        GetObjectW(reinterpret_cast<HFONT>(SendMessageW(control.hWnd(), WM_GETFONT, 0, 0)), sizeof(font), &font);
+        const String face = font.lfFaceName;
+        look << std::string(face.begin(), face.end()) << " " << std::dec << -font.lfHeight << " px";
+    }
+    if (const auto* const tip = dynamic_cast<controls::ToolTip*>(&control))
+        if (!tip->TooltipTitle().empty() || tip->ToolTipIcon() != 0 || tip->ToolTipBalloon())
+            look << " with a tip of its own";
+    return look.str() + (control.Enabled() ? "" : ", disabled");
+}
+
+TEST_F(Form1Layout, EveryControl_LooksAsItWasDrawn)
+{
+    const std::string button =
+        "MS Sans Serif 8.25, style 10 focus 0x1 contour 0x800000 highlight 0x8000000f mask 0 rounded 0 tip 0xe1ffff/0";
+    const std::string frame = "MS Sans Serif 8.25", label = "Microsoft Sans Serif 11 px";
+    const std::string password = "Microsoft Sans Serif 8.25, password 0x1 true type 0x1";
+    const std::pair<const char*, std::string> looks[] = {{"DFrame1", frame},
+                                                         {"TextPassword", password},
+                                                         {"Label1", label},
+                                                         {"FrameAutoStart", frame},
+                                                         {"CheckAutoStart", "MS Sans Serif 8.25, value 0 size 0x1"},
+                                                         {"CheckHideTrayIcon", "MS Sans Serif 8.25, value 0 size 0x1, disabled"},
+                                                         {"CheckSoundStart", "MS Sans Serif 8.25, value 0 size 0x1, disabled"},
+                                                         {"FrameService", frame},
+                                                         {"cmdInstall", button},
+                                                         {"cmdStart", button},
+                                                         {"lblAccount", label},
+                                                         {"txtAccount", "Microsoft Sans Serif 8.25, password 0 true type 0"},
+                                                         {"lblPassword", label},
+                                                         {"txtPassword", password},
+                                                         {"chkSystem", "Microsoft Sans Serif 8.25, value 0x1 size 0x1"},
+                                                         {"lblStartup", label},
+                                                         {"tmrCheck", "1000 ms"},
+                                                         {"FrameStartVelmora", frame},
+                                                         {"CommandStartVelmora", button},
+                                                         {"CommandCloseVelmora", button},
+                                                         {"TimerMonitorIfVelmoraRunning", "2000 ms"},
+                                                         {"CommandOk", button}};
+    for (const auto& [name, look] : looks)
+        EXPECT_EQ(LookOf(*form.Find(Wide(name))), look) << name;
+    const auto& startup = *form.Find<host::ComboBox>(TEXT("ComboStartup"));
+    EXPECT_EQ(SendMessageW(startup.hWnd(), CB_GETCOUNT, 0, 0), 3);
 }
 
 /// Takes out what the machine's fonts decide.

@@ -68,17 +68,19 @@ TEST_F(Form1Service, ChangesFromOutside_ShowWithinASecond)
     ASSERT_TRUE(Open());
     ExpectMissing();
     Check(TEXT("CheckAutoStart")).Value(1);
-    Installed().startType = SERVICE_DISABLED;
+    Installed().startType = SERVICE_DEMAND_START;
     pc.Advance(1000);
     ExpectInstalled(true, true, TEXT("Start Service"));
     EXPECT_EQ(Check(TEXT("CheckAutoStart")).Value(), 0);
-    EXPECT_EQ(Startup().Text(), TEXT("Disabled"));
-    The<Services>().Find(name)->startType = SERVICE_AUTO_START;
-    pc.Advance(1000);
-    EXPECT_EQ(Startup().Text(), TEXT("Automatic"));
-    The<Services>().Find(name)->startType = SERVICE_BOOT_START;
-    pc.Advance(1000);
-    EXPECT_EQ(Startup().Text(), TEXT("Automatic")) << "no entry of the list";
+    const std::pair<DWORD, const WCHAR*> startTypes[] = {{SERVICE_DEMAND_START, TEXT("Manual")},
+                                                         {SERVICE_AUTO_START, TEXT("Automatic")},
+                                                         {SERVICE_DISABLED, TEXT("Disabled")},
+                                                         {SERVICE_BOOT_START, TEXT("Disabled")}};
+    for (const auto& [startType, shown] : startTypes) {
+        The<Services>().Find(name)->startType = startType;
+        pc.Advance(1000);
+        EXPECT_EQ(Startup().Text(), shown) << startType;
+    }
     The<Services>().Delete(name);
     pc.Advance(1000);
     ExpectMissing();
@@ -198,6 +200,50 @@ TEST_F(Form1Service, RefusedRequests_LeaveTheInstalledPanel)
         SCOPED_TRACE(denied);
         ExpectInstalled(true, true, TEXT("Start Service"));
     }
+}
+
+TEST_F(Form1Service, StartAndStop_SaveThePasswordAndShowThePendingState)
+{
+    WriteSettings("[Settings]\r\nPwd=broken\r\n");
+    Installed();
+    ASSERT_TRUE(Open());
+    const auto press = [this](const WCHAR* caption, DWORD state) {
+        Button(TEXT("cmdStart")).Click.Raise();
+        EXPECT_EQ(The<Services>().Find(name)->state, state);
+        ExpectInstalled(false, false, caption);
+    };
+    press(TEXT("Start Service"), SERVICE_START_PENDING);
+    EXPECT_EQ(Settings(), "[Settings]\r\nPwd=\r\n") << "also when it was not edited";
+    pc.Advance(1000);
+    ExpectInstalled(false, true, TEXT("Stop Service"));
+    press(TEXT("Stop Service"), SERVICE_STOP_PENDING);
+    pc.Advance(1000);
+    ExpectInstalled(true, true, TEXT("Start Service"));
+    // What the panel shows is looked at anew: somebody else has started it.
+    The<Services>().SetState(name, SERVICE_RUNNING);
+    press(TEXT("Stop Service"), SERVICE_STOP_PENDING);
+}
+
+TEST_F(Form1Service, RunningService_IsStoppedBeforeItIsRemoved)
+{
+    The<Services>().SetState((Installed(), name), SERVICE_RUNNING);
+    app::ServiceControl control;
+    control.ServiceSetInfo(TEXT("Velmora.exe"), TEXT("Velmora"), {}, {});
+    EXPECT_EQ(control.ServiceUninstall(), 0u);
+    EXPECT_EQ(control.ServiceGetState(), 3u) << "it is not waited for";
+    pc.Advance(1000);
+    EXPECT_EQ(The<Services>().Count(), 0u);
+}
+
+TEST_F(Form1Service, TickWithoutChange_LeavesTheControlsAlone)
+{
+    Installed();
+    ASSERT_TRUE(Open());
+    pc.Trace().Start();
+    pc.Advance(2000);
+    EXPECT_GT(pc.Trace().Count("QueryServiceStatus"), 1u);
+    for (const char* function : {"EnableWindow", "SetWindowTextW", "InvalidateRect", "RedrawWindow"})
+        EXPECT_EQ(pc.Trace().Count(function), 0u) << function;
 }
 
 TEST_F(Form1Service, ServiceThatStartsMeanwhile_IsNotUninstalled)

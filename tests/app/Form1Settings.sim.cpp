@@ -130,6 +130,21 @@ TEST_F(Form1Settings, AutoStartValues_CheckTheirBoxes)
     }
 }
 
+TEST_F(Form1Settings, AutoStartKeyThatDoesNotClose_CountsAsNotConfigured)
+{
+    SetAutoStart(u"x");
+    pc.Trace().Start();
+    pc.Trace().OnCall = [this](std::string_view function) {
+        if (function != "RegCloseKey")
+            return;
+        pc.Trace().OnCall = nullptr;
+        RegCloseKey(reinterpret_cast<HKEY>(std::stoull(pc.Trace().Of("RegQueryValueExW").front().arguments, nullptr, 16)));
+    };
+    ASSERT_TRUE(Open());
+    EXPECT_FALSE(pc.Trace().OnCall);
+    ExpectAutoStart(0, 0, 0);
+}
+
 TEST_F(Form1Settings, ConfiguredAutoStart_LocksTheServicePanel)
 {
     SetAutoStart(u"x");

@@ -39,6 +39,8 @@ TEST_F(Form1StartUp, FreshPc_ShowsTheWindowAsDesigned)
     EXPECT_EQ(Startup().Text(), TEXT("Automatic"));
     EXPECT_EQ(Text(TEXT("txtAccount")).Text(), TEXT("LocalSystem"));
     EXPECT_EQ(Password(), TEXT(""));
+    for (const WCHAR* name : {TEXT("TextPassword"), TEXT("txtPassword")})
+        EXPECT_NE(SendMessageW(Text(name).hWnd(), EM_GETPASSWORDCHAR, 0, 0), 0);
     EXPECT_NE(SendMessageW(Form().hWnd(), WM_GETICON, ICON_BIG, 0), 0);
     EXPECT_EQ(Settings(), std::nullopt);
 }
@@ -122,6 +124,45 @@ TEST_F(Form1StartUp, FramesOfAnOrdinaryUser_StayOffAtEveryTick)
     pc.Advance(1000);
     EXPECT_EQ(Disabled(), off) << "removed";
     EXPECT_EQ(Button(TEXT("cmdInstall")).Caption(), TEXT("Install Service"));
+}
+
+TEST_F(Form1StartUp, Captions_AreDrawn)
+{
+    ASSERT_TRUE(Open());
+    auto& button = Button(TEXT("CommandOk"));
+    const auto picture = [&] {
+        pc.Settle();
+        return The<Desktop>().Snapshot(button.OwnHandle());
+    };
+    const Image drawn = picture();
+    button.Caption(TEXT(""));
+    EXPECT_FALSE(drawn == picture());
+    button.Caption(TEXT("OK"));
+    EXPECT_TRUE(drawn == picture());
+}
+
+TEST_F(Form1StartUp, DoubleClick_ReachesAFrame)
+{
+    ASSERT_TRUE(Open());
+    auto& frame = Find<controls::Frame>(TEXT("DFrame1"));
+    int doubleClicks = 0;
+    frame.DblClick.Connect([&] { ++doubleClicks; });
+    The<Desktop>().DoubleClick(frame.hWnd(), 5, 20);
+    EXPECT_EQ(doubleClicks, 1);
+}
+
+TEST_F(Form1StartUp, FixBlackLine_PaintsTheTopRowInTheBackgroundColour)
+{
+    ASSERT_TRUE(Open());
+    auto& frame = Find<controls::Frame>(TEXT("DFrame1"));
+    frame.BackColor(0x00123456);
+    const HDC dc = GetWindowDC(frame.hWnd());
+    for (int x = 0; x < 305; ++x)
+        SetPixel(dc, x, 0, 0);
+    frame.FixBlackLine();
+    for (int x = 0; x < 305; ++x)
+        EXPECT_EQ(GetPixel(dc, x, 0), 0x00123456u) << x;
+    ReleaseDC(frame.hWnd(), dc);
 }
 
 TEST_F(Form1StartUp, Keys_CloseTheWindowOnlyWithTheRightModifiers)

@@ -144,6 +144,53 @@ TEST_F(TaskManLight, Wow64_TellsProcessesApartAndAsksForDevicePaths)
     EXPECT_EQ(tools.GetPathFromPID(process), TEXT("C:\\a.exe")) << "the other way when there is no device path";
 }
 
+TEST_F(TaskManLight, Modules_AreCutAt1024)
+{
+    const DWORD process = processes.Launch(u"C:\\a.exe");
+    for (const std::size_t modules : {1023u, 1024u, 1500u}) {
+        processes.Find(process)->modules.assign(modules, u"C:\\a.dll");
+        std::vector<String> names;
+        EXPECT_EQ(tools.GetDLLsFromPID(process, names), 1);
+        EXPECT_EQ(names, std::vector<String>(std::min<std::size_t>(modules, 1024), TEXT("C:\\a.dll")));
+    }
+}
+
+TEST_F(TaskManLight, Handles_AreOpenedWithTheRightsThatAreNeeded)
+{
+    const DWORD process = processes.Launch(u"C:\\a.exe"), thread = processes.AddThread(process);
+    DWORD_PTR masks[2] = {};
+    SIZE_T sizes[8] = {};
+    DWORD faults = 0;
+    std::vector<String> names;
+    const std::pair<std::function<void()>, const char*> members[] = {
+        {[&] { tools.ExistsPID(process); }, "0x400"},
+        {[&] { tools.GetPriorityFromPID(process); }, "0x400"},
+        {[&] { tools.SetPriorityFromPID(process, IDLE_PRIORITY_CLASS); }, "0x200"},
+        {[&] { tools.TrimWorkingSet(process); }, "0x100"},
+        {[&] { tools.GetAffinityMaskFromPID(process, masks[0], masks[1]); }, "0x400"},
+        {[&] { tools.SetAffinityMaskFromPID(process, 1); }, "0x200"},
+        {[&] {
+             tools.GetMemoryUsageFromPID(process, sizes[0], sizes[1], faults, sizes[2], sizes[3], sizes[4], sizes[5], sizes[6], sizes[7]);
+         },
+         "0x410"},
+        {[&] { tools.GetDLLsFromPID(process, names); }, "0x410"},
+        {[&] { tools.GetNTPathFromPID(process); }, "0x400"},
+        {[&] { tools.GetPathFromPID(process); }, "0x410"},
+        {[&] { tools.SospendiThread(thread); }, "2"},
+        {[&] { tools.RiattivaThread(thread); }, "2"},
+        {[&] { tools.KillThread(thread); }, "0x41"},
+        {[&] { tools.KillProcessByPID(process); }, "0x401"}};
+    for (const auto& [use, rights] : members) {
+        pc.Trace().Start();
+        use();
+        std::vector<std::string> asked;
+        for (const CallRecord& call : pc.Trace().Records())
+            if (call.name == "OpenProcess" || call.name == "OpenThread")
+                asked.push_back(call.arguments.substr(0, call.arguments.find(',')));
+        EXPECT_EQ(asked, std::vector<std::string>{rights});
+    }
+}
+
 TEST_F(TaskManLight, ProcessList_GrowsUntilItFits)
 {
     std::vector<DWORD> all;
@@ -201,19 +248,21 @@ TEST_F(TaskManLight, ActivateMyWindow_LeavesTheInputQueuesApart)
     ShowWindow(other, SW_SHOW);
     SetForegroundWindow(other);
     tests::TestWindows own;
-    tools.FirstFormWindow = [window = own.Top(TEXT("form"))] { return window; };
+    const HWND window = own.Top(TEXT("form"));
+    tools.FirstFormWindow = [window] { return window; };
     pc.Trace().Start();
     tools.ActivateMyWindow();
-    std::string order;
+    std::vector<std::string> calls;
     for (const CallRecord& call : pc.Trace().Records())
         if (!call.name.starts_with("Get") && call.name != "DefWindowProcW")
-            order += call.name + ' ';
-    EXPECT_EQ(order,
-              "AttachThreadInput ShowWindow ShowWindow AllowSetForegroundWindow SetForegroundWindow LockSetForegroundWindow "
-              "PostMessageW AttachThreadInput ");
-    const auto attached = pc.Trace().Of("AttachThreadInput");
-    EXPECT_TRUE(attached.front().arguments.ends_with("1"));
-    EXPECT_TRUE(attached.back().arguments.ends_with("0"));
+            calls.push_back(call.Text());
+    char id[24];
+    std::snprintf(id, sizeof id, "0x%llX", static_cast<unsigned long long>(reinterpret_cast<std::uintptr_t>(window)));
+    const std::string form = id, threads = "AttachThreadInput(0x106C, 0x10D0, ";
+    EXPECT_EQ(calls,
+              (std::vector<std::string>{threads + "1)", "ShowWindow(" + form + ", 0)", "ShowWindow(" + form + ", 9)",
+                                        "AllowSetForegroundWindow(0xFFFFFFFF)", "SetForegroundWindow(" + form + ")",
+                                        "LockSetForegroundWindow(1)", "PostMessageW(" + form + ", 6, 0xFFFFFFFF, 0)", threads + "0)"}));
     pc.GetFaults().FailAlways("SetForegroundWindow", ERROR_ACCESS_DENIED);
     tools.ActivateMyWindow();
     EXPECT_EQ(pc.Trace().Count("LockSetForegroundWindow"), 1u) << "not without being in front";

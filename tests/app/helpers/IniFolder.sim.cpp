@@ -108,6 +108,17 @@ TEST_F(IniFolder, AccessCodes_AskForTheirRights)
     EXPECT_EQ(pc.Get<Users>().Impersonation(), std::nullopt);
 }
 
+TEST_F(IniFolder, EachFolderRight_IsNeeded)
+{
+    pc.Get<Users>().Administrator(false);
+    const std::pair<int, DWORD> codes[] = {{helpers::ReadAccess, 9}, {helpers::WriteAccess, 6}, {helpers::ReadAndWriteAccess, 15}};
+    for (const auto& [code, needed] : codes)
+        for (const DWORD right : {1u, 2u, 4u, 8u, 0x10u, 0x20u}) {
+            volumes.SetRights(u"C:\\Tools", {.users = FILE_ALL_ACCESS & ~right});
+            EXPECT_EQ(helpers::CheckFolderAccess(application, code), (needed & right) == 0) << code << " without " << right;
+        }
+}
+
 TEST_F(IniFolder, FailingSecurityCalls_CountAsNotUsable)
 {
     const std::pair<const char*, int> cases[] = {

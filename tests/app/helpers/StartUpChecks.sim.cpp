@@ -131,7 +131,11 @@ TEST_F(StartUpChecks, Icons_GoToTheWindowAndTheLastOwner)
     const HWND root = make(nullptr);
     const HWND middle = make(root);
     const HWND window = make(middle);
+    pc.Trace().Start();
     helpers::SetWindowIcons(window);
+    ASSERT_EQ(pc.Trace().Count("LoadImageW"), 2u);
+    EXPECT_TRUE(pc.Trace().Of("LoadImageW")[0].arguments.ends_with("\"AAA\", 1, 0x20, 0x20, 0x8080"));
+    EXPECT_TRUE(pc.Trace().Of("LoadImageW")[1].arguments.ends_with("\"AAA\", 1, 0x10, 0x10, 0x8080"));
     const auto icon = [](HWND of, WPARAM size) { return SendMessageW(of, WM_GETICON, size, 0); };
     EXPECT_NE(icon(window, ICON_BIG), 0);
     EXPECT_NE(icon(window, ICON_SMALL), 0);
