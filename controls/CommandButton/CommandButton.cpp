@@ -1,11 +1,9 @@
-// CommandButton: persistence, life, layout and drawing.
+// CommandButton: persistence and life.
 #include "controls/CommandButton/CommandButton.h"
 
 #include "controls/AccessKey.h"
-#include "controls/CommandButton/CommandButtonPainter.h"
 #include "controls/FontRule.h"
 #include "controls/PropertyTable.h"
-#include "controls/ThemeState.h"
 #include "controls/ZedOrder.h"
 
 namespace controls {
@@ -137,95 +135,6 @@ void CommandButton::UserControl_Show()
     if (Ambient().UserMode())
         AdoptExtenderToolTip();
     Relayout();
-}
-
-void CommandButton::Relayout()
-{
-    if (fontAutoSize_ != AutoSizeOff)
-        FitFont();
-    host::Surface& surface = GetSurface();
-    const int width = surface.ScaleWidth();
-    const int height = surface.ScaleHeight();
-    RECT block = CaptionStart(width, height);
-    const HDC dc = surface.Dc();
-    const HGDIOBJ former = narrowedFont_ ? SelectObject(dc, narrowedFont_.Get()) : nullptr;
-    DrawTextW(dc, caption_.c_str(), static_cast<int>(caption_.size()), &block,
-              DT_CALCRECT | DT_WORDBREAK | (rightToLeft_ ? DT_RTLREADING : 0));
-    if (former)
-        SelectObject(dc, former);
-    captionPlace_ = PlaceCaption(width, height, block, captionAlign_, contentMargin_, rightToLeft_);
-    if (const HWND window = hWnd()) {
-        const ButtonStyle* const style = FindButtonStyle(style_);
-        ApplyButtonShape(window, style ? style->shape : ButtonShape::Rectangle, width, height);
-    }
-    DrawControl();
-}
-
-/// The state as it is drawn: a designer shows buttons hot, a toggle button that is on is pressed, a disabled button is disabled.
-ButtonLook CommandButton::Look()
-{
-    host::Surface& surface = GetSurface();
-    ButtonLook look{.surface = surface};
-    look.window = hWnd();
-    look.width = surface.ScaleWidth();
-    look.height = surface.ScaleHeight();
-    look.state = state_;
-    if (!Ambient().UserMode() && style_ != SilverStyle)
-        look.state = StateHot;
-    look.pressedByToggle = buttonType_ == ToggleButton && value_ == 1;
-    if (look.pressedByToggle)
-        look.state = StatePressed;
-    if (!Enabled()) {
-        look.state = StateDisabled;
-        look.pressedByToggle = false;
-    }
-    look.isDefault = GetExtender().Default();
-    look.useCustomColors = useCustomColors_;
-    look.contourStyle = contourStyle_;
-    look.gradientDirection = gradientDirection_;
-    look.roundedValue = roundedValue_;
-    look.backColor = backColor_;
-    look.stateBackColor = look.state == StateDisabled ? backColorDisabled_ : backColor_;
-    look.highlightColor = highLightColor_;
-    look.contourColor = contourColor_;
-    return look;
-}
-
-void CommandButton::DrawControl()
-{
-    if (!shown_)
-        return;
-    ButtonLook look = Look();
-    look.surface.Clear();
-    if (look.state == StateDisabled) {
-        look.surface.BackColor(look.Custom(backColorDisabled_));
-        look.surface.Clear();
-    }
-    look.dc = look.surface.Dc();
-    const HGDIOBJ former = narrowedFont_ ? SelectObject(look.dc, narrowedFont_.Get()) : nullptr;
-
-    std::int32_t number = style_;
-    if (number == ThemeStyle) {
-        const std::int32_t themeState = hasFocus_ && look.state == StateNormal ? StateDefaulted : look.state;
-        if (IsThemeAvailable()) {
-            look.surface.BackColor(host::SystemColor(COLOR_BTNFACE));
-            look.surface.Clear();
-        }
-        if (!IsThemeAvailable() || !DrawThemeButton(look, themeState, roundedBordersByTheme_))
-            number = nonThemeStyle_;
-    }
-    contentMargin_ = 3;
-    if (const ButtonStyle* const style = FindButtonStyle(number)) {
-        contentMargin_ = style->margin;
-        if (style->painter)
-            style->painter(look);
-        if (style->focusInset >= 0 && look.state != StateDisabled && hasFocus_ && showFocus_)
-            PaintButtonFocus(look, style->focusInset);
-    }
-    if (!captionHide_)
-        PaintButtonCaption(look, {caption_, captionPlace_, captionFx_, fontColor_, fontHighlightColor_});
-    if (former)
-        SelectObject(look.dc, former);
 }
 
 void CommandButton::Refresh()

@@ -1,8 +1,8 @@
 // CommandButton: the push button that draws itself.
 #pragma once
 
-#include "base/Handles.h"
 #include "controls/CommandButton/CommandButtonLayout.h"
+#include "controls/CommandButton/CommandButtonShape.h"
 #include "controls/CommandButton/CommandButtonValues.h"
 #include "controls/DSubclass.h"
 #include "controls/LibraryControl.h"
@@ -14,6 +14,9 @@
 
 namespace controls {
 
+class Canvas;
+struct ButtonLook;
+struct ButtonStyle;
 template <class Control>
 class PropertyTable;
 
@@ -166,13 +169,17 @@ private:
     template <class T>
     void Keep(T& field, T value, const WCHAR* name, After after);
     void SendWindowText(const base::String& text);
-    /// Lays the caption out for the present size, cuts the window to its style's shape and draws.
+    /// Lays the caption out for the present size and draws.
     void Relayout();
     void FontChanged() override {}
     void FitFont();
     void ShrinkFont();
     void NarrowFont();
-    [[nodiscard]] struct ButtonLook Look();
+    [[nodiscard]] ButtonLook Look();
+    [[nodiscard]] bool PaintThemed(Canvas& canvas, const ButtonLook& look);
+    void CutWindow(const ButtonStyle& drawn, const ButtonLook& look);
+    void PaintFocus(Canvas& canvas, const ButtonLook& look) const;
+    [[nodiscard]] int ContentMargin() const;
 
     base::String caption_;
     base::String captionUniChars_;
@@ -218,7 +225,8 @@ private:
     float lastTop_ = 0;
     float lastLeft_ = 0;
     CaptionPlace captionPlace_{{}, DT_CENTER | DT_WORDBREAK};
-    int contentMargin_ = 4;
+    const ButtonStyle* drawnStyle_ = nullptr;  // the row that drew last
+    WindowShape windowShape_;
     DSubclass subclassControl_;
 };
 

@@ -126,6 +126,7 @@ struct BITMAPFILEHEADER {
 #define PS_NULL 5
 #define PS_INSIDEFRAME 6
 #define PS_ALTERNATE 8
+#define PS_COSMETIC 0
 #define BS_SOLID 0
 #define BS_NULL 1
 #define BS_HOLLOW BS_NULL
@@ -255,6 +256,7 @@ HGDIOBJ WINAPI GetStockObject(int index);
 HGDIOBJ WINAPI GetCurrentObject(HDC dc, UINT type);
 int WINAPI GetObjectW(HANDLE object, int size, LPVOID buffer);
 HPEN WINAPI CreatePen(int style, int width, COLORREF color);
+HPEN WINAPI ExtCreatePen(DWORD style, DWORD width, const LOGBRUSH* brush, DWORD dashCount, const DWORD* dashes);
 HBRUSH WINAPI CreateSolidBrush(COLORREF color);
 HBRUSH WINAPI CreatePatternBrush(HBITMAP bitmap);
 HFONT WINAPI CreateFontIndirectW(const LOGFONTW* font);
@@ -281,6 +283,9 @@ BOOL WINAPI RoundRect(HDC dc, int left, int top, int right, int bottom, int widt
 
 HRGN WINAPI CreateRectRgn(int left, int top, int right, int bottom);
 HRGN WINAPI CreateRoundRectRgn(int left, int top, int right, int bottom, int width, int height);
+HRGN WINAPI CreatePolygonRgn(const POINT* points, int count, int mode);
+int WINAPI CombineRgn(HRGN target, HRGN first, HRGN second, int mode);
+BOOL WINAPI EqualRgn(HRGN first, HRGN second);
 BOOL WINAPI PtInRegion(HRGN region, int x, int y);
 
 // ---- Text ----

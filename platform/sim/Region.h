@@ -16,6 +16,8 @@ public:
     static Region Ellipse(const RECT& rectangle);
     /// A rectangle with corners of an ellipse of the given width and height.
     static Region RoundRect(const RECT& rectangle, int ellipseWidth, int ellipseHeight);
+    /// The pixels whose centres lie inside a closed polygon, where it overlaps itself every second time.
+    static Region Polygon(std::span<const POINT> corners);
 
     [[nodiscard]] Region Union(const Region& other) const;
     [[nodiscard]] Region Intersect(const Region& other) const;

@@ -18,6 +18,22 @@ HPEN WINAPI CreatePen(int style, int width, COLORREF color)
     return OpenObject<HPEN>(std::move(pen));
 }
 
+HPEN WINAPI ExtCreatePen(DWORD style, DWORD width, const LOGBRUSH* brush, DWORD dashCount, const DWORD* dashes)
+{
+    SIM_CALL(nullptr, ERROR_NOT_ENOUGH_MEMORY, style, width, brush, dashCount, dashes);
+    SimPc& pc = SimPc::Current();
+    if (!brush || width != 1)
+        return pc.Fail(ERROR_INVALID_PARAMETER, HPEN{});
+    if (style != (PS_COSMETIC | PS_ALTERNATE) || brush->lbStyle != BS_SOLID || dashCount != 0) {
+        pc.Unsupported("ExtCreatePen: style " + std::to_string(style));
+        return nullptr;
+    }
+    auto pen = std::make_shared<Pen>();
+    pen->style = PS_ALTERNATE;
+    pen->color = brush->lbColor;
+    return OpenObject<HPEN>(std::move(pen));
+}
+
 HBRUSH WINAPI CreateSolidBrush(COLORREF color)
 {
     SIM_CALL(nullptr, ERROR_NOT_ENOUGH_MEMORY, color);

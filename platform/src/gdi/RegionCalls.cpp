@@ -47,6 +47,40 @@ HRGN WINAPI CreateRoundRectRgn(int left, int top, int right, int bottom, int wid
     return OpenRegion(Region::RoundRect(area, width, height));
 }
 
+HRGN WINAPI CreatePolygonRgn(const POINT* points, int count, int mode)
+{
+    SIM_CALL(nullptr, ERROR_NOT_ENOUGH_MEMORY, points, count, mode);
+    SimPc& pc = SimPc::Current();
+    if (!points || count < 2)
+        return pc.Fail(ERROR_INVALID_PARAMETER, HRGN{});
+    if (mode != ALTERNATE)
+        pc.Unsupported("CreatePolygonRgn: mode " + std::to_string(mode));
+    return OpenRegion(Region::Polygon({points, static_cast<std::size_t>(count)}));
+}
+
+int WINAPI CombineRgn(HRGN target, HRGN first, HRGN second, int mode)
+{
+    SIM_CALL(RGN_ERROR, ERROR_NOT_ENOUGH_MEMORY, target, first, second, mode);
+    const auto into = Find(target);
+    const auto from = Find(first);
+    if (!into || !from)
+        return RGN_ERROR;
+    if (mode != RGN_COPY) {
+        SimPc::Current().Unsupported("CombineRgn: mode " + std::to_string(mode));
+        return RGN_ERROR;
+    }
+    into->region = from->region;
+    return into->region.Kind();
+}
+
+BOOL WINAPI EqualRgn(HRGN first, HRGN second)
+{
+    SIM_NOTE(first, second);
+    const auto one = Find(first);
+    const auto other = Find(second);
+    return one && other && one->region == other->region;
+}
+
 BOOL WINAPI PtInRegion(HRGN region, int x, int y)
 {
     SIM_NOTE(region, x, y);

@@ -54,4 +54,26 @@ Region Region::RoundRect(const RECT& rectangle, int ellipseWidth, int ellipseHei
     return ellipseWidth <= 1 || ellipseHeight <= 1 ? Region(rectangle) : WithCorners(rectangle, ellipseWidth + 1, ellipseHeight + 1);
 }
 
+Region Region::Polygon(std::span<const POINT> corners)
+{
+    Region result;
+    if (corners.empty())
+        return result;
+    const auto [first, last] = std::ranges::minmax_element(corners, {}, &POINT::y);
+    for (LONG row = first->y; row < last->y; ++row) {
+        std::vector<LONG> edges;
+        for (std::size_t index = 0; index < corners.size(); ++index) {
+            const POINT from = corners[index];
+            const POINT to = corners[(index + 1) % corners.size()];
+            if ((from.y <= row) == (to.y <= row))
+                continue;
+            const double crossing = from.x + (row + 0.5 - from.y) * (to.x - from.x) / (to.y - from.y);
+            edges.push_back(static_cast<LONG>(std::ceil(crossing - 0.5)));
+        }
+        std::ranges::sort(edges);
+        result.AppendBand(row, row + 1, edges);
+    }
+    return result;
+}
+
 }  // namespace platform

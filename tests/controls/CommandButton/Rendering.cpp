@@ -110,7 +110,7 @@ TEST_F(Rendering, FocusRectangle_ComesWithFocusAndShowFocus)
     const COLORREF without = Pixel(2, 10);
     Button().ShowFocus(true);
     EXPECT_TRUE(Pixel(2, 10) != without || Pixel(2, 11) != without);
-    EXPECT_EQ(controls::FindButtonStyle(controls::SoftRoundStyle)->focusInset, 2);
+    EXPECT_EQ(controls::ButtonStyleOf(controls::SoftRoundStyle).focusInset, 2);
     Get<controls::CommandButton>("Other").SetFocus();
     EXPECT_EQ(Pixel(2, 10), without);
 }

@@ -1,11 +1,6 @@
 // SoftRoundStyle: a band of light along the top, a body that grows lighter downwards, a frame with rounded corners.
-#include "controls/CommandButton/CommandButtonPainters.h"
-
-#include "base/Handles.h"
 #include "controls/ColorArithmetic.h"
-#include "controls/CommandButton/CommandButtonValues.h"
-#include "controls/Gradient.h"
-#include "controls/TranslateOleColor.h"
+#include "controls/CommandButton/styles/ButtonPainters.h"
 
 namespace controls {
 
@@ -42,26 +37,17 @@ Shades ShadesOf(COLORREF color, std::int32_t state)
 
 }  // namespace
 
-void PaintSoftRoundStyle(const ButtonLook& look)
+void PaintSoftRoundStyle(Canvas& canvas, const ButtonLook& look)
 {
-    const Shades shades = ShadesOf(TranslateOleColor(look.Custom(look.stateBackColor)), look.state);
-    if (look.state == StateNormal || look.state == StateDefaulted)
-        ApplyButtonShape(look.window, ButtonShape::SoftCorners, look.width, look.height);
-
-    if (look.state >= StateNormal && look.state <= StateDefaulted) {
-        const RECT client{0, 0, look.width, look.height};
-        const base::BrushHandle fill(CreateSolidBrush(shades.fill));
-        FillRect(look.dc, &client, fill.Get());
-        // Between the band and the body one row keeps the fill colour. The body reaches beyond the lower edge, where it is cut off.
-        DrawGradient(look.dc, 0, 0, look.width, 5, shades.bandTop, shades.bandBottom, GradientVertical);
-        DrawGradient(look.dc, 0, 6, look.width, look.height - 1, shades.bodyTop, shades.bodyBottom, GradientVertical);
-        const base::BrushHandle frame(CreateSolidBrush(shades.frame));
-        FrameRect(look.dc, &client, frame.Get());
-    }
-    for (const int x : {1, look.width - 2}) {
-        for (const int y : {1, look.height - 2})
-            SetPixelV(look.dc, x, y, shades.corners);
-    }
+    const Shades shades = ShadesOf(look.Face(), look.state);
+    const int width = canvas.Width();
+    const int height = canvas.Height();
+    canvas.Fill(canvas.Client(), shades.fill);
+    // Between the band and the body one row keeps the fill colour. The body reaches beyond the lower edge, where it is cut off.
+    canvas.Gradient({0, 0, width, 5}, shades.bandTop, shades.bandBottom, GradientVertical);
+    canvas.Gradient({0, 6, width, 6 + height - 1}, shades.bodyTop, shades.bodyBottom, GradientVertical);
+    canvas.Outline(canvas.Client(), shades.frame);
+    canvas.Corners(1, shades.corners);
 }
 
 }  // namespace controls

@@ -1,0 +1,37 @@
+// CommandButtonLook: what a painter needs to know of a button.
+#pragma once
+
+#include "controls/CommandButton/CommandButtonValues.h"
+
+#include <windows.h>
+
+#include <cstdint>
+
+namespace controls {
+
+/// Plain values; colours are RGB.
+struct ButtonLook {
+    std::int32_t state = StateNormal;  // a ButtonState
+    bool pressedByToggle = false;      // pressed because a toggle button is on
+    bool isDefault = false;            // Enter presses this button
+    bool hasFocus = false;
+    bool useCustomColors = false;
+    COLORREF back = 0;             // of the state: a disabled button has a property of its own for it
+    COLORREF customBack = 0;       // the back colour, whatever the state, or the button face without colours of one's own
+    COLORREF customHighlight = 0;  // the same for the highlight colour
+    COLORREF highlight = 0;
+    COLORREF contour = 0;
+    std::int32_t contourStyle = Contour3D;
+    std::int32_t gradientDirection = GradientDiagonal;
+    std::int32_t roundedValue = 5;
+
+    /// The back colour of the state, or the button face without colours of one's own.
+    [[nodiscard]] COLORREF Face() const { return useCustomColors ? back : GetSysColor(COLOR_BTNFACE); }
+    /// The highlight colour, or what a style puts in its place without colours of one's own.
+    [[nodiscard]] COLORREF HighlightOr(COLORREF otherwise) const { return useCustomColors ? highlight : otherwise; }
+    [[nodiscard]] bool IsDisabled() const { return state == StateDisabled; }
+    [[nodiscard]] bool IsPressed() const { return state == StatePressed; }
+    [[nodiscard]] bool IsHot() const { return state == StateHot; }
+};
+
+}  // namespace controls
