@@ -2,7 +2,10 @@
 #include "controls/Canvas.h"
 
 #include "base/Handles.h"
+#include "controls/Pixels.h"
 #include "controls/Selection.h"
+
+#include <algorithm>
 
 namespace controls {
 
@@ -52,6 +55,14 @@ void Canvas::Edge(const RECT& box, UINT edge, UINT flags)
 void Canvas::Gradient(const RECT& area, COLORREF first, COLORREF last, std::int32_t direction)
 {
     DrawGradient(dc_, area.left, area.top, area.right - area.left, area.bottom - area.top, first, last, direction);
+}
+
+void Canvas::Rows(int first, const std::vector<COLORREF>& colors)
+{
+    Pixels pixels(Width(), static_cast<int>(colors.size()));
+    for (int row = 0; row < pixels.height; ++row)
+        std::fill_n(pixels.Row(row), pixels.width, AsPixel(colors[static_cast<std::size_t>(row)]));
+    DrawPixels(dc_, 0, first, pixels);
 }
 
 void Canvas::Corners(int inset, COLORREF color)

@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <vector>
 
 namespace controls {
 
@@ -37,6 +38,8 @@ public:
     /// DrawEdge just inside `box`.
     void Edge(const RECT& box, UINT edge, UINT flags);
     void Gradient(const RECT& area, COLORREF first, COLORREF last, std::int32_t direction);
+    /// Whole rows, one colour each, from `first` down.
+    void Rows(int first, const std::vector<COLORREF>& colors);
     void Pixel(int x, int y, COLORREF color) { SetPixelV(dc_, x, y, color); }
     /// The four pixels that lie `inset` columns and rows inside the corners.
     void Corners(int inset, COLORREF color);

@@ -3,39 +3,29 @@
 
 #include "base/Handles.h"
 #include "controls/ColorArithmetic.h"
+#include "controls/Pixels.h"
+
+#include <algorithm>
 
 namespace controls {
 
 namespace {
 
-constexpr std::int32_t horizontal = 2;
-constexpr std::int32_t mirroredHorizontal = 3;
-constexpr std::int32_t vertical = 4;
-constexpr std::int32_t mirroredVertical = 5;
-
-/// A pixel of a 32-bit image has its channels the other way round than a COLORREF.
-std::uint32_t AsPixel(COLORREF color)
-{
-    return static_cast<std::uint32_t>(GetRValue(color)) << 16 | static_cast<std::uint32_t>(GetGValue(color)) << 8 | GetBValue(color);
-}
-
+/// The image stands on its head, as GDI's images do: its first row is the lowest. Every row is a part of the ramp or one of its colours.
 void DrawRamp(HDC dc, int left, int top, int width, int height, const std::vector<COLORREF>& ramp, std::int32_t direction)
 {
-    std::vector<std::uint32_t> pixels;
-    pixels.reserve(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    std::vector<std::uint32_t> steps(ramp.size());
+    std::ranges::transform(ramp, steps.begin(), AsPixel);
+    Pixels pixels(width, height);
     for (int row = 0; row < height; ++row) {
-        for (int column = 0; column < width; ++column) {
-            const int place = direction == horizontal ? column : direction == vertical ? height - 1 - row : column + row;
-            pixels.push_back(AsPixel(ramp[static_cast<std::size_t>(place)]));
-        }
+        if (direction == GradientVertical)
+            std::fill_n(pixels.Row(row), width, steps[static_cast<std::size_t>(height - 1 - row)]);
+        else
+            std::copy_n(steps.begin() + (direction == GradientHorizontal ? 0 : row), width, pixels.Row(row));
     }
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = width;
+    BITMAPINFO info = InfoOf(pixels);
     info.bmiHeader.biHeight = height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    StretchDIBits(dc, left, top, width, height, 0, 0, width, height, pixels.data(), &info, DIB_RGB_COLORS, SRCCOPY);
+    StretchDIBits(dc, left, top, width, height, 0, 0, width, height, pixels.values.data(), &info, DIB_RGB_COLORS, SRCCOPY);
 }
 
 }  // namespace
@@ -63,16 +53,16 @@ void DrawGradient(HDC dc, int left, int top, int width, int height, COLORREF fir
         FillRect(dc, &area, brush.Get());
         return;
     }
-    if (direction == mirroredHorizontal) {
+    if (direction == GradientMirrored) {
         const int half = width / 2;
-        DrawGradient(dc, left, top, half, height, first, last, horizontal);
-        DrawGradient(dc, left + half, top, width - half, height, last, first, horizontal);
-    } else if (direction == mirroredVertical) {
+        DrawGradient(dc, left, top, half, height, first, last, GradientHorizontal);
+        DrawGradient(dc, left + half, top, width - half, height, last, first, GradientHorizontal);
+    } else if (direction == GradientMirroredVertical) {
         const int half = height / 2;
-        DrawGradient(dc, left, top, width, half, first, last, vertical);
-        DrawGradient(dc, left, top + half, width, height - half, last, first, vertical);
+        DrawGradient(dc, left, top, width, half, first, last, GradientVertical);
+        DrawGradient(dc, left, top + half, width, height - half, last, first, GradientVertical);
     } else {
-        const int steps = direction == horizontal ? width - 1 : direction == vertical ? height - 1 : width + height - 2;
+        const int steps = direction == GradientHorizontal ? width - 1 : direction == GradientVertical ? height - 1 : width + height - 2;
         DrawRamp(dc, left, top, width, height, ColorRamp(first, last, steps), direction);
     }
 }

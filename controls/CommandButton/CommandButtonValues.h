@@ -1,6 +1,8 @@
 // CommandButtonValues: the numbers that a button's properties take.
 #pragma once
 
+#include "controls/Gradient.h"
+
 #include <cstdint>
 
 namespace controls {
@@ -17,9 +19,27 @@ enum ContourStyleValue : std::int32_t { ContourNone, ContourFlat, Contour3D };
 
 enum CaptionFxValue : std::int32_t { CaptionFxNone, CaptionFxRaised, CaptionFxSunken, CaptionFxShadow };
 
-enum GradientDirectionValue : std::int32_t { GradientDiagonal = 1, GradientHorizontal = 2, GradientMirrored = 3, GradientVertical = 4 };
-
-enum ButtonStyleValue : std::int32_t { ClassicStyle = 0, ThemeStyle = 7, SoftRoundStyle = 10, SilverStyle = 15 };
+enum ButtonStyleValue : std::int32_t {
+    ClassicStyle,
+    SoftStyle,
+    HoverStyle,
+    GradientStyle,
+    RoundedStyle,
+    Raised3DStyle,
+    FlatStyle,
+    ThemeStyle,
+    GlossStyle,
+    PanelStyle,
+    SoftRoundStyle,
+    ShapedStyle,
+    WarmStyle,
+    FlatHotStyle,
+    GlowStyle,
+    SilverStyle,
+    BevelStyle,
+    SystemShadeStyle,
+    InsetStyle,
+};
 
 /// The visual states, numbered as the visual style's push-button states.
 enum ButtonState : std::int32_t { StateNormal = 1, StateHot, StatePressed, StateDisabled, StateDefaulted };

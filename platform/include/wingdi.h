@@ -267,6 +267,10 @@ HBITMAP WINAPI CreateCompatibleBitmap(HDC dc, int width, int height);
 HBITMAP WINAPI CreateDIBSection(HDC dc, const BITMAPINFO* info, UINT usage, VOID** bits, HANDLE section, DWORD offset);
 int WINAPI StretchDIBits(HDC dc, int x, int y, int width, int height, int xSource, int ySource, int widthSource, int heightSource,
                          const VOID* bits, const BITMAPINFO* info, UINT usage, DWORD rop);
+int WINAPI SetDIBitsToDevice(HDC dc, int x, int y, DWORD width, DWORD height, int xSource, int ySource, UINT firstRow, UINT rowCount,
+                             const VOID* bits, const BITMAPINFO* info, UINT usage);
+int WINAPI GetDIBits(HDC dc, HBITMAP bitmap, UINT firstRow, UINT rowCount, LPVOID bits, BITMAPINFO* info, UINT usage);
+COLORREF WINAPI GetNearestColor(HDC dc, COLORREF color);
 BOOL WINAPI BitBlt(HDC dc, int x, int y, int width, int height, HDC source, int xSource, int ySource, DWORD rop);
 COLORREF WINAPI SetPixel(HDC dc, int x, int y, COLORREF color);
 BOOL WINAPI SetPixelV(HDC dc, int x, int y, COLORREF color);

@@ -920,6 +920,8 @@ int WINAPI DrawTextW(HDC dc, LPCWSTR text, int length, LPRECT rectangle, UINT fo
 BOOL WINAPI DrawStateW(HDC dc, HBRUSH brush, DRAWSTATEPROC callback, LPARAM data, WPARAM dataLength, int x, int y, int width, int height,
                        UINT flags);
 BOOL WINAPI GetIconInfo(HICON icon, ICONINFO* info);
+BOOL WINAPI DrawIconEx(HDC dc, int left, int top, HICON icon, int width, int height, UINT step, HBRUSH flickerFree, UINT flags);
+HICON WINAPI CreateIconFromResourceEx(BYTE* bits, DWORD size, BOOL isIcon, DWORD version, int width, int height, UINT flags);
 
 // Rectangles.
 

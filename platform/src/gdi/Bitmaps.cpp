@@ -69,3 +69,52 @@ int WINAPI StretchDIBits(HDC dc, int x, int y, int width, int height, int xSourc
     StretchPixels(*context, context->ToImage(Block(x, y, width, height)), *image, Block(xSource, row, widthSource, heightSource), rop);
     return image->height;
 }
+
+int WINAPI SetDIBitsToDevice(HDC dc, int x, int y, DWORD width, DWORD height, int xSource, int ySource, UINT firstRow, UINT rowCount,
+                             const VOID* bits, const BITMAPINFO* info, UINT usage)
+{
+    SIM_CALL(0, ERROR_INVALID_PARAMETER, dc, x, y, width, height, xSource, ySource, firstRow, rowCount, bits, info, usage);
+    const auto context = FindDc(dc);
+    if (!context || !bits || !info)
+        return 0;
+    const std::optional<Image> image = DecodeDib(*info, bits);
+    const bool isWhole = xSource == 0 && ySource == 0 && firstRow == 0 && image && static_cast<int>(rowCount) == image->height;
+    if (!isWhole) {
+        SimPc::Current().Unsupported("SetDIBitsToDevice: a part of an image, or bits per pixel " +
+                                     std::to_string(info->bmiHeader.biBitCount));
+        return 0;
+    }
+    const int columns = static_cast<int>(width), rows = static_cast<int>(height);
+    StretchPixels(*context, context->ToImage(Block(x, y, columns, rows)), *image, Block(0, image->height - rows, columns, rows), SRCCOPY);
+    return image->height;
+}
+
+int WINAPI GetDIBits(HDC dc, HBITMAP bitmap, UINT firstRow, UINT rowCount, LPVOID bits, BITMAPINFO* info, UINT usage)
+{
+    SIM_CALL(0, ERROR_INVALID_PARAMETER, dc, bitmap, firstRow, rowCount, bits, info, usage);
+    SimPc& pc = SimPc::Current();
+    const auto found = pc.Handles().Find<Bitmap>(bitmap);
+    // A bitmap that is selected somewhere is not read.
+    if (!FindDc(dc) || !found || !info || found->selections > 0)
+        return pc.Fail(ERROR_INVALID_PARAMETER, 0);
+    const BITMAPINFOHEADER& header = info->bmiHeader;
+    const Image& image = *found->image;
+    const bool isWhole = firstRow == 0 && header.biWidth == image.width && static_cast<int>(rowCount) == image.height &&
+                         std::abs(header.biHeight) == image.height;
+    if (header.biBitCount != 32 || header.biCompression != BI_RGB || !bits || !isWhole) {
+        pc.Unsupported("GetDIBits: a part of a bitmap, or bits per pixel " + std::to_string(header.biBitCount));
+        return 0;
+    }
+    auto* next = static_cast<std::uint32_t*>(bits);
+    for (int row = 0; row < image.height; ++row)
+        for (int column = 0; column < image.width; ++column)
+            *next++ = image.At(column, header.biHeight > 0 ? image.height - 1 - row : row);
+    return image.height;
+}
+
+COLORREF WINAPI GetNearestColor(HDC dc, COLORREF color)
+{
+    SIM_NOTE(dc, color);
+    const auto context = FindDc(dc);
+    return context ? SwapRedBlue(context->PixelOf(color)) : CLR_INVALID;
+}

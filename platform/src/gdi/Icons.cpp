@@ -2,8 +2,13 @@
 #include "platform/src/gdi/Icons.h"
 
 #include "platform/src/core/Gate.h"
+#include "platform/src/gdi/Dibs.h"
+#include "platform/src/gdi/Objects.h"
+#include "platform/src/gdi/Stretch.h"
 
 #include <windows.h>
+
+#include <cstring>
 
 using namespace platform;
 
@@ -26,6 +31,65 @@ void PaintIcon(DeviceContext& dc, const Icon& icon, const RECT& rectangle)
 }
 
 }  // namespace platform
+
+BOOL WINAPI DrawIconEx(HDC dc, int left, int top, HICON icon, int width, int height, UINT step, HBRUSH flickerFree, UINT flags)
+{
+    SIM_CALL(FALSE, ERROR_NOT_ENOUGH_MEMORY, dc, left, top, icon, width, height, step, flickerFree, flags);
+    SimPc& pc = SimPc::Current();
+    const auto context = FindDc(dc);
+    const auto found = pc.Handles().Find<Icon>(icon);
+    if (!context || !found)
+        return pc.Fail(ERROR_INVALID_HANDLE, FALSE);
+    const RECT place{left, top, left + (width ? width : found->color.width), top + (height ? height : found->color.height)};
+    if (flags == DI_NORMAL) {
+        PaintIcon(*context, *found, place);
+        return TRUE;
+    }
+    if (flags != DI_MASK) {
+        pc.Unsupported("DrawIconEx: flags " + std::to_string(flags));
+        return FALSE;
+    }
+    Image mask(found->color.width, found->color.height);
+    for (std::size_t index = 0; index < found->opaque.size(); ++index)
+        mask.pixels[index] = found->opaque[index] ? 0 : 0xFFFFFF;
+    StretchPixels(*context, context->ToImage(place), mask, mask.Bounds(), SRCCOPY);
+    return TRUE;
+}
+
+/// The bytes of an icon resource, which are also those of a picture in an .ico file: colours and a mask one above the other.
+HICON WINAPI CreateIconFromResourceEx(BYTE* bits, DWORD size, BOOL isIcon, DWORD version, int width, int height, UINT flags)
+{
+    SIM_CALL(nullptr, ERROR_NOT_ENOUGH_MEMORY, bits, size, isIcon, version, width, height, flags);
+    SimPc& pc = SimPc::Current();
+    if (!bits || size < sizeof(BITMAPINFOHEADER))
+        return pc.Fail(ERROR_INVALID_PARAMETER, HICON{});
+    BITMAPINFOHEADER header;
+    std::memcpy(&header, bits, sizeof header);
+    if (header.biSize != sizeof header || version != 0x00030000 || !isIcon) {
+        pc.Unsupported("CreateIconFromResourceEx: a cursor or a compressed picture");
+        return nullptr;
+    }
+    header.biHeight /= 2;
+    const std::size_t colors = header.biBitCount <= 8 ? (header.biClrUsed ? header.biClrUsed : 1U << header.biBitCount) : 0;
+    const std::size_t start = sizeof header + colors * sizeof(RGBQUAD);
+    const std::size_t mask = start + DibRowBytes(header.biWidth, header.biBitCount) * static_cast<std::size_t>(header.biHeight);
+    if (size < mask + DibRowBytes(header.biWidth, 1) * static_cast<std::size_t>(header.biHeight))
+        return pc.Fail(ERROR_INVALID_PARAMETER, HICON{});
+    std::vector<BYTE> copy(bits, bits + size);
+    std::memcpy(copy.data(), &header, sizeof header);
+    const auto* const info = reinterpret_cast<const BITMAPINFO*>(copy.data());
+    const std::optional<Image> color = DecodeDib(*info, copy.data() + start);
+    if (!color)
+        return pc.Fail(ERROR_INVALID_PARAMETER, HICON{});
+    auto icon = std::make_shared<Icon>();
+    icon->color = *color;
+    for (int y = 0; y < color->height; ++y) {
+        const BYTE* const row = copy.data() + mask + DibRowBytes(color->width, 1) * static_cast<std::size_t>(color->height - 1 - y);
+        for (int x = 0; x < color->width; ++x)
+            icon->opaque.push_back((row[x / 8] >> (7 - x % 8) & 1) == 0);
+    }
+    return OpenObject<HICON>(std::move(icon));
+}
 
 BOOL WINAPI GetIconInfo(HICON icon, ICONINFO* info)
 {

@@ -1,0 +1,38 @@
+// Pixels: a picture in memory, made of whole numbers, and the way to the screen.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <vector>
+
+namespace controls {
+
+/// A pixel of a 32-bit image: its channels stand the other way round than those of a COLORREF.
+[[nodiscard]] constexpr std::uint32_t AsPixel(COLORREF color)
+{
+    return (color & 0xFF) << 16 | (color & 0xFF00) | (color >> 16 & 0xFF);
+}
+
+/// Rows of 0x00RRGGBB, the top row first.
+struct Pixels {
+    Pixels(int imageWidth, int imageHeight)
+        : width(imageWidth), height(imageHeight), values(static_cast<std::size_t>(imageWidth) * static_cast<std::size_t>(imageHeight))
+    {
+    }
+    [[nodiscard]] std::uint32_t* Row(int row) { return values.data() + static_cast<std::ptrdiff_t>(row) * width; }
+    [[nodiscard]] const std::uint32_t* Row(int row) const { return values.data() + static_cast<std::ptrdiff_t>(row) * width; }
+
+    int width;
+    int height;
+    std::vector<std::uint32_t> values;
+};
+
+/// Describes such rows to GDI.
+[[nodiscard]] BITMAPINFO InfoOf(const Pixels& pixels);
+
+/// Puts the pixels onto a device context.
+/// https://learn.microsoft.com/windows/win32/api/wingdi/nf-wingdi-setdibitstodevice
+void DrawPixels(HDC dc, int left, int top, const Pixels& pixels);
+
+}  // namespace controls
