@@ -178,7 +178,6 @@ private:
     [[nodiscard]] ButtonLook Look();
     [[nodiscard]] bool PaintThemed(Canvas& canvas, const ButtonLook& look);
     void CutWindow(const ButtonStyle& drawn, const ButtonLook& look);
-    void PaintFocus(Canvas& canvas, const ButtonLook& look) const;
     [[nodiscard]] int ContentMargin() const;
 
     base::String caption_;

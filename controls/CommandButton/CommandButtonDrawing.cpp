@@ -6,7 +6,6 @@
 #include "controls/CommandButton/ThemeButton.h"
 #include "controls/Selection.h"
 #include "controls/ThemeState.h"
-#include "controls/TranslateOleColor.h"
 
 namespace controls {
 
@@ -14,7 +13,6 @@ namespace controls {
 /// button that nothing has happened to is drawn as normal.
 ButtonLook CommandButton::Look()
 {
-    const COLORREF face = GetSysColor(COLOR_BTNFACE);
     ButtonLook look;
     look.state = state_ == 0 ? StateNormal : state_;
     if (!Ambient().UserMode() && !ButtonStyleOf(style_).Has(NormalInDesigner))
@@ -28,12 +26,7 @@ ButtonLook CommandButton::Look()
     }
     look.isDefault = GetExtender().Default();
     look.hasFocus = hasFocus_;
-    look.useCustomColors = useCustomColors_;
-    look.back = TranslateOleColor(look.IsDisabled() ? backColorDisabled_ : backColor_);
-    look.customBack = useCustomColors_ ? host::ToRgb(backColor_) : face;
-    look.customHighlight = useCustomColors_ ? host::ToRgb(highLightColor_) : face;
-    look.highlight = host::ToRgb(highLightColor_);
-    look.contour = host::ToRgb(contourColor_);
+    look.Resolve({useCustomColors_, backColor_, backColorDisabled_, highLightColor_, contourColor_});
     look.contourStyle = contourStyle_;
     look.gradientDirection = gradientDirection_;
     look.roundedValue = roundedValue_;
@@ -84,15 +77,6 @@ bool CommandButton::PaintThemed(Canvas& canvas, const ButtonLook& look)
     return true;
 }
 
-void CommandButton::PaintFocus(Canvas& canvas, const ButtonLook& look) const
-{
-    const int inset = drawnStyle_->focusInset;
-    if (inset < 0 || look.IsDisabled() || !look.hasFocus || !showFocus_)
-        return;
-    const int lost = look.pressedByToggle ? 0 : 1;
-    canvas.Focus({inset, inset, canvas.Width() - lost - inset, canvas.Height() - lost - inset});
-}
-
 void CommandButton::DrawControl()
 {
     if (!shown_)
@@ -103,7 +87,7 @@ void CommandButton::DrawControl()
     if (mayBeThemed)
         surface.BackColor(host::SystemColor(COLOR_BTNFACE));
     else if (look.IsDisabled())
-        surface.BackColor(useCustomColors_ ? host::ToRgb(backColorDisabled_) : host::SystemColor(COLOR_BTNFACE));
+        surface.BackColor(look.ground);
     surface.Clear();
 
     Canvas canvas(surface.Dc(), surface.ScaleWidth(), surface.ScaleHeight());
@@ -116,7 +100,8 @@ void CommandButton::DrawControl()
         if (canvas.Ground() != CLR_INVALID)
             surface.BackColor(canvas.Ground());
     }
-    PaintFocus(canvas, look);
+    if (look.hasFocus && showFocus_)
+        PaintButtonFocus(canvas, *drawnStyle_, look);
     if (captionHide_)
         return;
     const Selection font(canvas.Dc(), narrowedFont_.Get());

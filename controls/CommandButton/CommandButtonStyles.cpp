@@ -63,4 +63,13 @@ ButtonOutline OutlineOf(const ButtonStyle& own, const ButtonStyle& drawn, const 
     return {drawn.recut == WhenDrawn ? drawn.shape : own.shape, size.cx, size.cy};
 }
 
+void PaintButtonFocus(Canvas& canvas, const ButtonStyle& style, const ButtonLook& look)
+{
+    const int inset = style.focusInset;
+    if (inset < 0 || look.IsDisabled())
+        return;
+    const int lost = look.pressedByToggle ? 0 : 1;
+    canvas.Focus({inset, inset, canvas.Width() - lost - inset, canvas.Height() - lost - inset});
+}
+
 }  // namespace controls

@@ -40,4 +40,7 @@ struct ButtonStyle {
 /// What the window is cut to when its style is `own` and `drawn` has drawn it; they differ where themes are missing.
 [[nodiscard]] ButtonOutline OutlineOf(const ButtonStyle& own, const ButtonStyle& drawn, const ButtonLook& look, SIZE size);
 
+/// The dotted rectangle of the focus, unless the style or the state goes without it.
+void PaintButtonFocus(Canvas& canvas, const ButtonStyle& style, const ButtonLook& look);
+
 }  // namespace controls

@@ -47,4 +47,23 @@ gallery_main() {
     ls -l "$root"/docs/*.png
 }
 
-gallery_main
+# A picture of one face or of a sheet of them, with the words that tools/gallery/Gallery.h lists. draw <native or windows> <words...>
+draw() {
+    local preset="$1" words file
+    shift
+    words=("${@:1:$#-1}")
+    file="${*: -1}"
+    [[ "$file" == /* ]] || file="$OLDPWD/$file"
+    step "build $preset" build_preset "$preset" gallery
+    if [ "$preset" = native ]; then
+        build/native/tools/gallery/gallery "${words[@]}" "$file"
+    else
+        wine_run build/windows/tools/gallery/gallery.exe "${words[@]}" "$file"
+    fi
+}
+
+case "${1:-}" in
+--native) shift && draw native "$@" ;;
+--draw | --sheet) draw windows "$@" ;;
+*) gallery_main ;;
+esac

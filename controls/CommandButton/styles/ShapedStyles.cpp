@@ -18,7 +18,8 @@ SkinRim Lit(COLORREF base, int light, int shade, bool isPressed)
 
 void PaintShapedStyle(Canvas& canvas, const ButtonLook& look)
 {
-    const COLORREF base = look.IsHot() ? Shift(look.back, 12) : look.back;
+    // A little darker than the button's colour, so that light stays visible on a light one.
+    const COLORREF base = look.IsHot() ? Shift(look.back, 4) : Darken(look.back, 10);
     const int contrast = look.IsDisabled() ? 2 : 1;
     const int slope = look.IsPressed() ? -24 : 24;
     const COLORREF edge = Darken(look.back, 96 / contrast);
@@ -32,7 +33,7 @@ void PaintShapedStyle(Canvas& canvas, const ButtonLook& look)
 
 void PaintBevelStyle(Canvas& canvas, const ButtonLook& look)
 {
-    const COLORREF base = look.IsHot() ? Shift(look.back, 12) : look.IsPressed() ? Darken(look.back, 12) : look.back;
+    const COLORREF base = look.IsHot() ? Darken(look.back, 4) : Darken(look.back, look.IsPressed() ? 32 : 18);
     const int contrast = look.IsDisabled() ? 2 : 1;
     const COLORREF edge = Darken(look.back, 110 / contrast);
     const auto line = [&](int light, int shade) { return Lit(base, light / contrast, shade / contrast, look.IsPressed()); };

@@ -56,7 +56,7 @@ ButtonSkin PanelSkin(const ButtonLook& look)
         skin.rims = {Plain(Mix(look.back, white)), {shade, Darken(shade, 10)}};
         skin.bands = Ramp(look.back, Darken(look.back, 8));
     } else {
-        skin.rims = {Plain(0xFBFBFB), Plain(0xE9E2C5)};
+        skin.rims = {Plain(0xFBFBFB), {0xE9E2C5, Darken(0xE9E2C5, 32)}};
         if (look.IsHot())
             skin.rims.back() = {0xE6AC76, 0xE2A66A};
         if (look.IsPressed())
@@ -64,7 +64,7 @@ ButtonSkin PanelSkin(const ButtonLook& look)
         skin.bands = Halves(0xEBE8EA, 0xEAE7E8, 0xEAE7E8, 0xE8EBE9);
     }
     if (look.IsPressed())
-        std::swap(skin.bands.front().first, skin.bands.back().last);
+        skin.bands = Ramp(Darken(skin.bands.front().first, 24), skin.bands.back().last);
     return skin;
 }
 
@@ -100,6 +100,7 @@ ButtonSkin GlowSkin(const ButtonLook& look)
         skin.rims = {Plain(ShiftByFraction(0x6FC0FF, -0.34))};
         skin.bands = Halves(0x6FC0FF, 0xA9D9FF, 0x3FABFF, 0x74C2FF);
     } else {
+        skin.rims = {Plain(ShiftByFraction(look.back, -0.17))};
         skin.bands = Halves(ShiftByFraction(look.back, 0.07), look.back, look.back, look.back);
     }
     return skin;
@@ -125,8 +126,8 @@ ButtonSkin SilverSkin(const ButtonLook& look)
         skin.rims = {Plain(rim), {dark, light}};
         skin.bands = Ramp(dark, light);
     } else {
-        skin.rims = {Plain(rim), look.IsHot() ? SkinRim{hotLight, hotDark} : SkinRim{light, dark}};
-        skin.bands = Halves(light, middle, middle, dark);
+        skin.rims = {Plain(rim), look.IsHot() ? SkinRim{hotLight, hotDark} : SkinRim{Mix(light, white), middle}};
+        skin.bands = Halves(light, Mix(light, dark), dark, light);
     }
     return skin;
 }

@@ -1,18 +1,14 @@
-// The gallery: what gallery.sh cannot do by itself to pose a window for a picture.
-//
-//     gallery themed      the utility's window with the visual styles that Windows would give it, until it is closed
-//     gallery hover 9 5   rests the mouse on a point of the running utility's client area and prints where its window stands
-//     gallery close       closes the running utility
+// Poses: the window with visual styles, and a hand that rests.
+#include "tools/gallery/Poses.h"
+
 #include "app/Form1.h"
 #include "controls/RegisterControls.h"
 #include "controls/ThemeState.h"
 #include "host/MessageLoop.h"
 
 #include <cstdio>
-#include <cstdlib>
-#include <string_view>
 
-namespace {
+namespace gallery {
 
 /// Wine has visual styles and draws with them, but the version of its common controls says 5.81, where Windows says 6 to a program with
 /// this manifest. The program believes what it is told; so it is told 6 here.
@@ -49,17 +45,4 @@ int Hover(HWND window, int x, int y)
     return 0;
 }
 
-}  // namespace
-
-int main(int count, char** words)
-{
-    const std::string_view verb = count > 1 ? words[1] : "";
-    if (verb == "themed")
-        return ShowThemed();
-    const HWND window = FindWindowW(nullptr, TEXT("Velmora Setup Utility"));
-    if (window && verb == "hover" && count == 4)
-        return Hover(window, std::atoi(words[2]), std::atoi(words[3]));
-    if (window && verb == "close")
-        return PostMessageW(window, WM_CLOSE, 0, 0) ? 0 : 1;
-    return 2;
-}
+}  // namespace gallery
