@@ -1,10 +1,10 @@
 // Base64: the encoding in which the agent's settings file keeps the password (RFC 4648, padded, without line breaks).
 #pragma once
 
+#include "base/Base64Bytes.h"
 #include "base/String.h"
 
 #include <cstdint>
-#include <vector>
 
 namespace app {
 
@@ -21,11 +21,8 @@ base::String Base64Encode(base::StringView text, std::int32_t mode);
 /// Empty for an empty or invalid text. White space is invalid.
 base::String Base64Decode(base::StringView text, std::int32_t mode);
 
-/// `count` -1 stands for all bytes.
-base::String Base64EncodeBytes(const std::vector<std::uint8_t>& bytes, std::int32_t count = -1);
-
-/// Empty when the text is invalid.
-std::vector<std::uint8_t> Base64DecodeBytes(base::StringView text);
+using base::Base64DecodeBytes;
+using base::Base64EncodeBytes;
 
 /// True when a character's code is above 255.
 bool NeedsWideChars(base::StringView text);

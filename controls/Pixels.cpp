@@ -1,6 +1,9 @@
 // Pixels: one call for a whole picture.
 #include "controls/Pixels.h"
 
+#include "base/Handles.h"
+#include "controls/Selection.h"
+
 namespace controls {
 
 BITMAPINFO InfoOf(const Pixels& pixels)
@@ -23,6 +26,30 @@ void DrawPixels(HDC dc, int left, int top, const Pixels& pixels)
     const auto width = static_cast<DWORD>(pixels.width);
     const auto height = static_cast<DWORD>(pixels.height);
     SetDIBitsToDevice(dc, left, top, width, height, 0, 0, 0, height, pixels.values.data(), &info, DIB_RGB_COLORS);
+}
+
+std::optional<Pixels> ReadPixels(HDC dc, const RECT& block)
+{
+    const SIZE size{block.right - block.left, block.bottom - block.top};
+    return RenderPixels(dc, size, [&](HDC copy) { BitBlt(copy, 0, 0, size.cx, size.cy, dc, block.left, block.top, SRCCOPY); });
+}
+
+std::optional<Pixels> RenderPixels(HDC dc, SIZE size, const std::function<void(HDC)>& draw)
+{
+    const base::MemoryDc memory(CreateCompatibleDC(dc));
+    const base::BitmapHandle bitmap(CreateCompatibleBitmap(dc, size.cx, size.cy));
+    if (!memory || !bitmap)
+        return std::nullopt;
+    {
+        const Selection paper(memory.Get(), bitmap.Get());
+        draw(memory.Get());
+    }
+    // A bitmap is read only when it is selected nowhere.
+    Pixels pixels(size.cx, size.cy);
+    BITMAPINFO info = InfoOf(pixels);
+    if (!GetDIBits(dc, bitmap.Get(), 0, static_cast<UINT>(size.cy), pixels.values.data(), &info, DIB_RGB_COLORS))
+        return std::nullopt;
+    return pixels;
 }
 
 }  // namespace controls

@@ -4,6 +4,8 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <functional>
+#include <optional>
 #include <vector>
 
 namespace controls {
@@ -34,5 +36,12 @@ struct Pixels {
 /// Puts the pixels onto a device context.
 /// https://learn.microsoft.com/windows/win32/api/wingdi/nf-wingdi-setdibitstodevice
 void DrawPixels(HDC dc, int left, int top, const Pixels& pixels);
+
+/// What stands on a block of a device context. Empty without memory.
+/// https://learn.microsoft.com/windows/win32/api/wingdi/nf-wingdi-getdibits
+[[nodiscard]] std::optional<Pixels> ReadPixels(HDC dc, const RECT& block);
+
+/// What `draw(HDC)` draws on a bitmap of its own that fits to the device context. Empty without memory.
+[[nodiscard]] std::optional<Pixels> RenderPixels(HDC dc, SIZE size, const std::function<void(HDC)>& draw);
 
 }  // namespace controls

@@ -2,6 +2,7 @@
 //
 //     Form Form1 {
 //         Caption = "Setup"
+//         Icon = None
 //         Label Label1 {
 //             Left = 240
 //             Font = Font("MS Sans Serif", 8.25, Bold)
@@ -9,12 +10,14 @@
 //         }
 //     }
 //
-// Values are decimal or 0x numbers, True and False, texts in double quotes (\" \\ \n \r \t escaped), fonts and lists of texts.
+// Values are decimal or 0x numbers, True and False, texts in double quotes (\" \\ \n \r \t escaped), fonts, lists of texts and
+// pictures: None, or Bitmap("...") and Icon("...") with the bytes of a .bmp and an .ico file in Base64.
 // Text that was written by `WriteForm` comes back unchanged from parsing and writing.
 #pragma once
 
 #include "base/String.h"
 #include "host/Font.h"
+#include "host/Picture.h"
 
 #include <cstdint>
 #include <string>
@@ -31,7 +34,7 @@ struct Number {
 };
 
 using TextList = std::vector<base::String>;
-using PropertyValue = std::variant<bool, Number, base::String, FontDescription, TextList>;
+using PropertyValue = std::variant<bool, Number, base::String, FontDescription, TextList, PictureDescription>;
 
 struct Property {
     base::String key;

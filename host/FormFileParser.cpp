@@ -1,4 +1,5 @@
 // FormFile: reading.
+#include "base/Base64Bytes.h"
 #include "host/FormFile.h"
 
 #include <cstdlib>
@@ -125,7 +126,9 @@ private:
         }
         if (word == TEXT("Font"))
             return FontValue(value.emplace<FontDescription>());
-        return Fail("a value is a number, a text, True, False, Font(...) or [...]");
+        if (word == TEXT("None") || word == TEXT("Bitmap") || word == TEXT("Icon"))
+            return PictureValue(word, value.emplace<PictureDescription>());
+        return Fail("a value is a number, a text, True, False, Font(...), [...] or a picture");
     }
 
     bool Text(base::String& text)
@@ -208,6 +211,18 @@ private:
                 return false;
         }
         return Take(')') || Fail(") expected");
+    }
+
+    bool PictureValue(const base::String& word, PictureDescription& picture)
+    {
+        if (word == TEXT("None"))
+            return true;
+        picture.type = word == TEXT("Icon") ? PictureType::Icon : PictureType::Bitmap;
+        base::String text;
+        if (!Take('(') || !Text(text) || !Take(')'))
+            return Fail("a picture is written Bitmap(\"...\") or Icon(\"...\")");
+        picture.bytes = base::Base64DecodeBytes(text);
+        return !picture.bytes.empty() || Fail("the picture is not in Base64");
     }
 
     bool Points(float& points)

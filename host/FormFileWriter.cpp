@@ -1,4 +1,5 @@
 // FormFile: writing.
+#include "base/Base64Bytes.h"
 #include "host/FormFile.h"
 
 #include <cstdio>
@@ -61,6 +62,14 @@ struct ValueWriter {
         if (font.charset != DEFAULT_CHARSET)
             text += TEXT(", Charset ") + base::ToDecimal(font.charset);
         return text + TEXT(")");
+    }
+
+    base::String operator()(const PictureDescription& picture) const
+    {
+        if (picture.type == PictureType::None)
+            return TEXT("None");
+        const base::String word = picture.type == PictureType::Icon ? TEXT("Icon(\"") : TEXT("Bitmap(\"");
+        return word + base::Base64EncodeBytes(picture.bytes) + TEXT("\")");
     }
 
     base::String operator()(const TextList& list) const

@@ -1,6 +1,8 @@
 // Picture: taking over a handle and asking for its size.
 #include "host/Picture.h"
 
+#include "host/PictureFile.h"
+
 namespace host {
 
 namespace {
@@ -29,11 +31,38 @@ Picture::Picture(IconHandle icon) : icon_(std::move(icon))
         size_.cy /= 2;
 }
 
-Picture::Type Picture::GetType() const
+std::shared_ptr<Picture> Picture::Of(const PictureDescription& description)
+{
+    auto picture = std::make_shared<Picture>();
+    if (description.type == PictureType::Bitmap)
+        *picture = Picture(BitmapFromFile(description.bytes));
+    else if (description.type == PictureType::Icon)
+        *picture = Picture(IconFromFile(description.bytes));
+    if (picture->GetType() == PictureType::None)
+        return nullptr;
+    picture->description_ = description;
+    return picture;
+}
+
+PictureDescription Picture::Description() const
+{
+    if (description_.type != PictureType::None)
+        return description_;
+    switch (GetType()) {
+        case PictureType::Bitmap:
+            return {PictureType::Bitmap, FileOfBitmap(Bitmap(), size_)};
+        case PictureType::Icon:
+            return {PictureType::Icon, FileOfIcon(Icon(), size_)};
+        default:
+            return {};
+    }
+}
+
+PictureType Picture::GetType() const
 {
     if (bitmap_)
-        return Type::Bitmap;
-    return icon_ ? Type::Icon : Type::None;
+        return PictureType::Bitmap;
+    return icon_ ? PictureType::Icon : PictureType::None;
 }
 
 }  // namespace host

@@ -20,6 +20,12 @@ std::optional<T> Typed(const PropertyValue& value)
     if constexpr (std::same_as<T, std::shared_ptr<Font>>) {
         const auto* description = std::get_if<FontDescription>(&value);
         return description ? std::optional(std::make_shared<Font>(*description)) : std::nullopt;
+    } else if constexpr (std::same_as<T, std::shared_ptr<Picture>>) {
+        const auto* description = std::get_if<PictureDescription>(&value);
+        if (!description || description->type == PictureType::None)
+            return description ? std::optional(T{}) : std::nullopt;
+        T picture = Picture::Of(*description);
+        return picture ? std::optional(std::move(picture)) : std::nullopt;
     } else if constexpr (std::same_as<T, bool>) {
         if (const auto* number = std::get_if<Number>(&value))
             return number->value != 0;
@@ -44,6 +50,8 @@ PropertyValue Made(const T& value)
 {
     if constexpr (std::same_as<T, std::shared_ptr<Font>>)
         return value ? value->Description() : FontDescription{};  // No font is stored as the default description.
+    else if constexpr (std::same_as<T, std::shared_ptr<Picture>>)
+        return value ? value->Description() : PictureDescription{};
     else if constexpr (std::integral<T> && !std::same_as<T, bool>)
         return Number{value, std::same_as<T, std::uint32_t>};
     else
@@ -91,6 +99,7 @@ INSTANTIATE(std::int32_t)
 INSTANTIATE(std::uint32_t)
 INSTANTIATE(base::String)
 INSTANTIATE(std::shared_ptr<Font>)
+INSTANTIATE(std::shared_ptr<Picture>)
 INSTANTIATE(TextList)
 #undef INSTANTIATE
 

@@ -11,9 +11,9 @@
 namespace host {
 
 template <class T>
-concept BagValue =
-    std::same_as<T, bool> || std::same_as<T, std::uint8_t> || std::same_as<T, std::int16_t> || std::same_as<T, std::int32_t> ||
-    std::same_as<T, std::uint32_t> || std::same_as<T, base::String> || std::same_as<T, std::shared_ptr<Font>> || std::same_as<T, TextList>;
+concept BagValue = std::same_as<T, bool> || std::same_as<T, std::uint8_t> || std::same_as<T, std::int16_t> ||
+    std::same_as<T, std::int32_t> || std::same_as<T, std::uint32_t> || std::same_as<T, base::String> ||
+    std::same_as<T, std::shared_ptr<Font>> || std::same_as<T, std::shared_ptr<Picture>> || std::same_as<T, TextList>;
 
 /// Ordered properties. Keys are case-sensitive. `std::uint32_t` is a colour and is written as 0x%08X, `bool` as True or False,
 /// the other numbers in decimal. A byte may hold a truth value: True and -1 are read as 1, False as 0; and any number is read as a `bool`.
@@ -23,13 +23,13 @@ public:
     explicit PropertyBag(std::vector<Property> properties) : properties_(std::move(properties)) {}
 
     /// The value under `key`, or `fallback` when there is none or it is of another type or does not fit into `T`. Of a key that
-    /// was written twice `occurrence` 1 is the second.
+    /// was written twice `occurrence` 1 is the second. A picture that can't be made of its bytes is `fallback` too.
     template <BagValue T>
     [[nodiscard]] T Read(base::StringView key, std::type_identity_t<T> fallback, int occurrence = 0) const;
     /// Stores the value whatever it is.
     template <BagValue T>
     void Write(base::StringView key, const T& value);
-    /// Stores the value only when it differs from `fallback`. Fonts differ by description.
+    /// Stores the value only when it differs from `fallback`. Fonts and pictures differ by description.
     template <BagValue T>
     void Write(base::StringView key, const T& value, const std::type_identity_t<T>& fallback);
 

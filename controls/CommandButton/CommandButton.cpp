@@ -21,6 +21,14 @@ auto SystemRgb(int index)
 
 }  // namespace
 
+/// Written even when there is none.
+template <ButtonPicture Which>
+auto CommandButton::StoredPicture(const WCHAR* key)
+{
+    return StoredAs<CommandButton, std::shared_ptr<host::Picture>>(
+        key, [](CommandButton & button) -> auto& { return button.pictures_[Which]; }, nullptr, WhenDefault::Stored);
+}
+
 /// Several keys differ from their properties' names in the case of a letter; they stay as they are in the files.
 const PropertyTable<CommandButton>& CommandButton::Properties()
 {
@@ -42,6 +50,10 @@ const PropertyTable<CommandButton>& CommandButton::Properties()
         StoredAs<B, int32_t>(TEXT("RoundedValue"), &B::roundedValue_, 5),
         StoredAs<B, uint32_t>(TEXT("ContourColor"), &B::contourColor_, 0),
         StoredAs<B, int32_t>(TEXT("ContourStyle"), &B::contourStyle_, Contour3D),
+        StoredPicture<NormalPicture>(TEXT("Picture")),
+        StoredPicture<OverPicture>(TEXT("PictureOver")),
+        StoredPicture<DownPicture>(TEXT("PictureDown")),
+        StoredPicture<DisabledPicture>(TEXT("PictureDisabled")),
         StoredAs<B, int32_t>(TEXT("PictureDisabledStyle"), &B::pictureDisabledStyle_, DisabledPictureUnchanged),
         StoredAs<B, int32_t>(TEXT("Style"), &B::style_, ThemeStyle),
         StoredAs<B, uint8_t>(TEXT("UseClassicTheme"), &B::useClassicTheme_, 0),

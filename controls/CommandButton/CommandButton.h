@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/CommandButton/CommandButtonLayout.h"
+#include "controls/CommandButton/CommandButtonPicture.h"
 #include "controls/CommandButton/CommandButtonShape.h"
 #include "controls/CommandButton/CommandButtonValues.h"
 #include "controls/DSubclass.h"
@@ -14,9 +15,6 @@
 
 namespace controls {
 
-class Canvas;
-struct ButtonLook;
-struct ButtonStyle;
 template <class Control>
 class PropertyTable;
 
@@ -94,6 +92,16 @@ public:
     void GradientDirection(std::int32_t direction);
     [[nodiscard]] bool RightToLeft() const { return rightToLeft_; }
     void RightToLeft(bool rightToLeft);
+    /// Shared, not copied. A state without a picture of its own shows `Picture`; a disabled button then shows it as
+    /// `PictureDisabledStyle` says.
+    [[nodiscard]] const std::shared_ptr<host::Picture>& Picture() const { return pictures_[NormalPicture]; }
+    void Picture(std::shared_ptr<host::Picture> picture);
+    [[nodiscard]] const std::shared_ptr<host::Picture>& PictureOver() const { return pictures_[OverPicture]; }
+    void PictureOver(std::shared_ptr<host::Picture> picture);
+    [[nodiscard]] const std::shared_ptr<host::Picture>& PictureDown() const { return pictures_[DownPicture]; }
+    void PictureDown(std::shared_ptr<host::Picture> picture);
+    [[nodiscard]] const std::shared_ptr<host::Picture>& PictureDisabled() const { return pictures_[DisabledPicture]; }
+    void PictureDisabled(std::shared_ptr<host::Picture> picture);
     [[nodiscard]] std::int32_t PictureAlign() const { return pictureAlign_; }
     void PictureAlign(std::int32_t align);
     [[nodiscard]] std::int32_t PictureDisabledStyle() const { return pictureDisabledStyle_; }
@@ -136,6 +144,8 @@ private:
     enum class After { Nothing, Redraw, Relayout };
 
     static const PropertyTable<CommandButton>& Properties();
+    template <ButtonPicture Which>
+    static auto StoredPicture(const WCHAR* key);
 
     void UserControl_InitProperties() override;
     void UserControl_ReadProperties(const host::PropertyBag& bag) override;
@@ -207,6 +217,7 @@ private:
     bool roundedBordersByTheme_ = true;
     std::int32_t gradientDirection_ = GradientDiagonal;
     bool rightToLeft_ = false;
+    ButtonPictures pictures_;
     std::int32_t pictureAlign_ = AlignCentre;
     std::int32_t pictureDisabledStyle_ = DisabledPictureUnchanged;
     std::shared_ptr<host::Font> font_;

@@ -102,6 +102,8 @@ void CommandButton::DrawControl()
     }
     if (look.hasFocus && showFocus_)
         PaintButtonFocus(canvas, *drawnStyle_, look);
+    PaintButtonPicture(canvas, *drawnStyle_, look,
+                       {pictures_, pictureAlign_, pictureDisabledStyle_, maskColorEnabled_, host::ToRgb(maskColor_)});
     if (captionHide_)
         return;
     const Selection font(canvas.Dc(), narrowedFont_.Get());

@@ -57,4 +57,27 @@ CaptionPlace PlaceCaption(int width, int height, const RECT& block, std::int32_t
     return place;
 }
 
+POINT PlacePicture(int width, int height, SIZE picture, std::int32_t align, int margin, bool isPressed)
+{
+    POINT place{Half(width - picture.cx), Half(height - picture.cy)};
+    switch (align) {
+        case AlignLeft:
+            place.x = margin;
+            break;
+        case AlignRight:
+            place.x = width - picture.cx - margin;
+            break;
+        case AlignTop:
+            place.y = margin;
+            break;
+        case AlignBottom:
+            place.y = height - picture.cy - margin;
+            break;
+        default:
+            break;
+    }
+    const LONG sunk = isPressed ? 1 : 0;
+    return {place.x + sunk, place.y + sunk};
+}
+
 }  // namespace controls

@@ -19,4 +19,7 @@ struct CaptionPlace {
 /// `margin` is kept free at the border.
 [[nodiscard]] CaptionPlace PlaceCaption(int width, int height, const RECT& block, std::int32_t align, int margin, bool rightToLeft);
 
+/// The top left corner of a picture of this size. It sinks by a pixel with a pressed button.
+[[nodiscard]] POINT PlacePicture(int width, int height, SIZE picture, std::int32_t align, int margin, bool isPressed);
+
 }  // namespace controls

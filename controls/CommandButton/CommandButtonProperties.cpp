@@ -212,8 +212,12 @@ void CommandButton::ContourStyle(std::int32_t style)
 void CommandButton::RoundedValue(std::int32_t value)
 {
     value = std::max(value, 0);
-    if (value != roundedValue_)
-        Keep(roundedValue_, value, TEXT("RoundedValue"), After::Redraw);
+    if (value == roundedValue_)
+        return;
+    // This one property tells of its change before it has the new value.
+    PropertyChanged(TEXT("RoundedValue"));
+    roundedValue_ = value;
+    DrawControl();
 }
 
 void CommandButton::RoundedBordersByTheme(bool rounded)
@@ -239,6 +243,26 @@ void CommandButton::CaptionAlign(std::int32_t align)
 void CommandButton::CaptionFx(std::int32_t effect)
 {
     Keep(captionFx_, effect, TEXT("CaptionFx"), After::Redraw);
+}
+
+void CommandButton::Picture(std::shared_ptr<host::Picture> picture)
+{
+    Keep(pictures_[NormalPicture], std::move(picture), TEXT("Picture"), After::Relayout);
+}
+
+void CommandButton::PictureOver(std::shared_ptr<host::Picture> picture)
+{
+    Keep(pictures_[OverPicture], std::move(picture), TEXT("PictureOver"), After::Relayout);
+}
+
+void CommandButton::PictureDown(std::shared_ptr<host::Picture> picture)
+{
+    Keep(pictures_[DownPicture], std::move(picture), TEXT("PictureDown"), After::Relayout);
+}
+
+void CommandButton::PictureDisabled(std::shared_ptr<host::Picture> picture)
+{
+    Keep(pictures_[DisabledPicture], std::move(picture), TEXT("PictureDisabled"), After::Relayout);
 }
 
 void CommandButton::PictureAlign(std::int32_t align)

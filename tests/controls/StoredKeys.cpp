@@ -8,7 +8,7 @@ namespace tests {
 
 namespace {
 
-/// B a byte, S and I whole numbers of 16 and 32 bits, C a colour, L a truth value by name, T a text, F a font.
+/// B a byte, S and I whole numbers of 16 and 32 bits, C a colour, L a truth value by name, T a text, F a font, P a picture.
 struct Key {
     const char* name;
     char type;
@@ -45,6 +45,12 @@ const std::vector<Key> frame = {
     {"Font", 'F', "own font", "Font(\"Tahoma\", 10)"},
 };
 
+// Two by two pixels each.
+constexpr const char* bitmap =
+    "Bitmap(\"Qk1GAAAAAAAAADYAAAAoAAAAAgAAAAIAAAABABgAAAAAABAAAAAAAAAAAAAAAAAAAAAAAAAA/wAA////AAAAAP8A/wAAAA==\")";
+constexpr const char* icon =
+    "Icon(\"AAABAAEAAgIAAAEAIABAAAAAFgAAACgAAAACAAAABAAAAAEAIAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAYFBAADAgEAAAAAAAgAAAAEAAAAA=\")";
+
 const std::vector<Key> button = {
     {"CaptionHide", 'B', "0", "1"},
     {"CaptionUniChars", 'T', "\"\"", "\"41\"", "Caption "},
@@ -57,6 +63,10 @@ const std::vector<Key> button = {
     {"RoundedValue", 'I', "5", "6"},
     {"ContourColor", 'C', "0x00000000", "0x00000001"},
     {"ContourStyle", 'I', "2", "1"},
+    {"Picture", 'P', "None", bitmap, "", true},
+    {"PictureOver", 'P', "None", icon, "", true},
+    {"PictureDown", 'P', "None", bitmap, "", true},
+    {"PictureDisabled", 'P', "None", bitmap, "", true},
     {"PictureDisabledStyle", 'I', "0", "70000"},
     {"Style", 'I', "7", "10"},
     {"UseClassicTheme", 'B', "0", "1", "Style "},
@@ -176,6 +186,8 @@ std::string OutOfType(char type)
             return "3000000000";
         case 'T':
             return "1";
+        case 'P':
+            return "Bitmap(\"Qk1HAAAA\")";
         default:
             return "\"\"";
     }
