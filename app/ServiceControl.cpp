@@ -20,6 +20,20 @@ DWORD ResultOf(BOOL success)
     return success ? 0 : GetLastError();
 }
 
+/// The service manager refuses a call for which it has no time, and has done nothing then: the request is made again, a few times.
+template <class Request>
+DWORD Patiently(Request request)
+{
+    constexpr int tries = 5;
+    constexpr DWORD pause = 10;  // milliseconds
+    DWORD error = request();
+    for (int i = 1; i < tries && error == RPC_S_SERVER_TOO_BUSY; ++i) {
+        Sleep(pause);
+        error = request();
+    }
+    return error;
+}
+
 /// The name with the domain in front that CreateServiceW wants.
 String Qualified(const String& account)
 {
@@ -43,13 +57,15 @@ void ServiceControl::ServiceSetInfo(StringView exeName, StringView serviceName, 
 template <class Action>
 DWORD ServiceControl::WithService(DWORD access, Action action) const
 {
-    const ServiceHandle manager(OpenSCManagerW(nullptr, nullptr, SC_MANAGER_CONNECT));
-    if (!manager)
-        return GetLastError();
-    const ServiceHandle service(OpenServiceW(manager.Get(), serviceName_.c_str(), access));
-    if (!service)
-        return GetLastError();
-    return action(service.Get());
+    return Patiently([&] {
+        const ServiceHandle manager(OpenSCManagerW(nullptr, nullptr, SC_MANAGER_CONNECT));
+        if (!manager)
+            return GetLastError();
+        const ServiceHandle service(OpenServiceW(manager.Get(), serviceName_.c_str(), access));
+        if (!service)
+            return GetLastError();
+        return action(service.Get());
+    });
 }
 
 DWORD ServiceControl::ServiceGetState() const
@@ -87,22 +103,24 @@ DWORD ServiceControl::ServiceInstall(String& account, StringView password, Strin
 {
     account = Qualified(account);
     const String path = TEXT('"') + String(folder) + exeName_ + TEXT('"');
-    const ServiceHandle manager(OpenSCManagerW(nullptr, nullptr, SC_MANAGER_ALL_ACCESS));
-    if (!manager)
-        return GetLastError();
     DWORD type = SERVICE_WIN32_OWN_PROCESS;
     if (interactive && account == localSystem)
         type |= SERVICE_INTERACTIVE_PROCESS;
-    const ServiceHandle service(CreateServiceW(manager.Get(), serviceName_.c_str(), displayName_.c_str(), SERVICE_ALL_ACCESS, type,
-                                               startType, SERVICE_ERROR_NORMAL, path.c_str(), nullptr, nullptr, nullptr, account.c_str(),
-                                               String(password).c_str()));
-    if (!service)
-        return GetLastError();
-    String text = description_;
-    SERVICE_DESCRIPTIONW description = {};
-    description.lpDescription = text.data();
-    ChangeServiceConfig2W(service.Get(), SERVICE_CONFIG_DESCRIPTION, &description);
-    return 0;
+    return Patiently([&]() -> DWORD {
+        const ServiceHandle manager(OpenSCManagerW(nullptr, nullptr, SC_MANAGER_ALL_ACCESS));
+        if (!manager)
+            return GetLastError();
+        const ServiceHandle service(CreateServiceW(manager.Get(), serviceName_.c_str(), displayName_.c_str(), SERVICE_ALL_ACCESS, type,
+                                                   startType, SERVICE_ERROR_NORMAL, path.c_str(), nullptr, nullptr, nullptr,
+                                                   account.c_str(), String(password).c_str()));
+        if (!service)
+            return GetLastError();
+        String text = description_;
+        SERVICE_DESCRIPTIONW description = {};
+        description.lpDescription = text.data();
+        ChangeServiceConfig2W(service.Get(), SERVICE_CONFIG_DESCRIPTION, &description);
+        return 0;
+    });
 }
 
 DWORD ServiceControl::ServiceUninstall() const

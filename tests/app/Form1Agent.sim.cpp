@@ -95,6 +95,7 @@ TEST_F(Form1Agent, AgentThatVanishes_IsNotClosed)
     The<Processes>().End(process);
     pc.Trace().Start();
     Click(TEXT("CommandCloseVelmora"));
+    EXPECT_EQ(pc.Trace().Count("FindWindowA"), 1u) << "the click came";
     for (const CallRecord& call : pc.Trace().Of("PostMessageW"))
         EXPECT_EQ(call.arguments.find(", 0x10,"), std::string::npos) << call.Text();
     EXPECT_TRUE(IsOpen());

@@ -246,6 +246,32 @@ TEST_F(Form1Service, TickWithoutChange_LeavesTheControlsAlone)
         EXPECT_EQ(pc.Trace().Count(function), 0u) << function;
 }
 
+TEST_F(Form1Service, BusyManager_IsAskedAgain)
+{
+    for (const char* function :
+         {"OpenSCManagerW", "OpenServiceW", "QueryServiceConfigW", "QueryServiceStatus", "CreateServiceW", "DeleteService"})
+        for (int nth = 1; nth <= 5; ++nth) {
+            ASSERT_TRUE(Open());
+            pc.GetFaults().FailCall(function, RPC_S_SERVER_TOO_BUSY, nth);
+            Click(TEXT("cmdInstall"));
+            SCOPED_TRACE(function + std::to_string(nth));
+            ExpectInstalled(true, true, TEXT("Start Service"));
+            pc.GetFaults().Clear();
+            pc.GetFaults().FailCall(function, RPC_S_SERVER_TOO_BUSY, nth);
+            Click(TEXT("cmdInstall"));
+            ExpectMissing();
+            EXPECT_EQ(The<Services>().Count(), 0u);
+            pc.GetFaults().Clear();
+            Close();
+        }
+    Installed();
+    pc.GetFaults().FailAlways("OpenSCManagerW", RPC_S_SERVER_TOO_BUSY);
+    const std::uint64_t start = pc.Clock().Now();
+    ASSERT_TRUE(Open());
+    ExpectMissing();
+    EXPECT_LT(pc.Clock().Now() - start, 200u) << "not for ever";
+}
+
 TEST_F(Form1Service, ServiceThatStartsMeanwhile_IsNotUninstalled)
 {
     Installed();

@@ -17,17 +17,9 @@ protected:
         utility_.reset();
         EndToEnd::TearDown();
     }
-    /// The window that gets the keys.
-    [[nodiscard]] HWND Focus() const
-    {
-        GUITHREADINFO thread{};
-        thread.cbSize = sizeof thread;
-        GetGUIThreadInfo(GetWindowThreadProcessId(utility_->Window(), nullptr), &thread);
-        return thread.hwndFocus;
-    }
     [[nodiscard]] bool IsFocused(const char* name) const
     {
-        return Eventually([&] { return Focus() == utility_->Shown(name); });
+        return Eventually([&] { return utility_->HasFocus(name); });
     }
     [[nodiscard]] base::String TextOf(const char* name) const
     {

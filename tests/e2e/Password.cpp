@@ -17,6 +17,7 @@ TEST_F(EndToEnd, TypedPassword_IsStoredByOkAndShownAgainMasked)
             EXPECT_TRUE(SendMessageW(utility.Shown("TextPassword"), EM_GETPASSWORDCHAR, 0, 0)) << "not masked";
             utility.Click("CommandOk");
             ASSERT_TRUE(utility.Ended());
+            EXPECT_EQ(utility.ExitCode(), 0u);
         }
         EXPECT_EQ(tests::BytesOf(settings_), settings);
 
@@ -57,6 +58,7 @@ TEST_F(EndToEnd, EscAltF5AndTheCloseBox_DropWhatWasTyped)
         else
             utility.ClickCloseBox();
         EXPECT_TRUE(utility.Ended());
+        EXPECT_EQ(utility.ExitCode(), 0u);
         EXPECT_EQ(GetFileAttributesW(settings_.c_str()), INVALID_FILE_ATTRIBUTES);
     }
 }

@@ -18,6 +18,7 @@ void ExpectMessageAndEnd(Utility& utility, base::StringView text)
     EXPECT_TRUE(FindWindowExW(box, nullptr, TEXT("Button"), nullptr));
     PostMessageW(box, WM_COMMAND, IDOK, 0);
     EXPECT_TRUE(utility.Ended());
+    EXPECT_EQ(utility.ExitCode(), 0u);
 }
 
 }  // namespace
@@ -40,6 +41,7 @@ TEST_F(EndToEnd, SecondCopy_EndsWithoutAWord)
         return second.Ended(Milliseconds(0));
     }));
     EXPECT_FALSE(boxSeen);
+    EXPECT_EQ(second.ExitCode(), 0u);
     EXPECT_TRUE(first.Responds());
 }
 
@@ -56,8 +58,9 @@ TEST_F(EndToEnd, NameWithBlank_NamesTheAgentAndItsSettings)
     utility.Click("cmdInstall");
     EXPECT_TRUE(Eventually([] { return InstalledService().has_value(); }));
     EXPECT_EQ(InstalledService().value_or(ServiceFacts{}).binaryPath, TEXT("\"") + fooAgent + TEXT("\""));
-    ASSERT_TRUE(RemoveService());
-    ASSERT_TRUE(Eventually([&] { return utility.Enabled("CheckAutoStart"); }, SERVICE_TICK));
+    ASSERT_TRUE(Eventually([&] { return utility.Enabled("cmdInstall") && utility.Enabled("cmdStart"); }));
+    utility.Click("cmdInstall");
+    ASSERT_TRUE(Eventually([&] { return utility.Enabled("CheckAutoStart"); })) << utility.Situation();
 
     utility.Click("CheckAutoStart");
     ASSERT_TRUE(Eventually([&] { return utility.Checked("CheckAutoStart"); }));

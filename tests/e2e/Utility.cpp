@@ -27,6 +27,36 @@ bool Utility::Ended(Milliseconds patience) const
     return !process_ || WaitForSingleObject(process_.Get(), static_cast<DWORD>(patience.count())) == WAIT_OBJECT_0;
 }
 
+DWORD Utility::ExitCode() const
+{
+    DWORD code = STILL_ACTIVE;
+    GetExitCodeProcess(process_.Get(), &code);
+    return code;
+}
+
+GUITHREADINFO Utility::Thread() const
+{
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetWindowThreadProcessId(window_, nullptr), &info);
+    return info;
+}
+
+std::string Utility::Situation() const
+{
+    const auto nameOf = [this](HWND window) -> std::string {
+        for (const tests::Designed& control : tests::kFormMap)
+            if (window && std::string_view(control.kind) != "Timer" && (window == Own(control.name) || window == Shown(control.name)))
+                return std::string(control.name) + (IsWindowEnabled(window) ? "" : " (disabled)");
+        return !window ? "nothing" : window == window_ ? "the window" : "something else";
+    };
+    const GUITHREADINFO info = Thread();
+    POINT mouse{};
+    GetCursorPos(&mouse);
+    return "focus on " + nameOf(info.hwndFocus) + ", capture by " + nameOf(info.hwndCapture) + ", mouse over " +
+           nameOf(WindowFromPoint(mouse)) + ", in front " + nameOf(GetForegroundWindow());
+}
+
 HWND Utility::FindTopLevel(const WCHAR* className) const
 {
     HWND window = nullptr;

@@ -7,6 +7,7 @@
 #include "tests/support/FormMap.h"
 
 #include <initializer_list>
+#include <string>
 
 namespace e2e {
 
@@ -21,6 +22,8 @@ public:
     /// Waits for the window to be open and in front.
     [[nodiscard]] bool Opened();
     [[nodiscard]] bool Ended(Milliseconds patience = SOON) const;
+    /// What the process ended with, STILL_ACTIVE while it runs.
+    [[nodiscard]] DWORD ExitCode() const;
     [[nodiscard]] HWND Window() const { return window_; }
     /// The message box that the process shows, NULL when there is none.
     [[nodiscard]] HWND MessageBox() const { return FindTopLevel(TEXT("#32770")); }
@@ -40,6 +43,11 @@ public:
     /// The index of the combo box's entry.
     [[nodiscard]] int Selected(const char* name) const { return static_cast<int>(SendMessageW(Own(name), CB_GETCURSEL, 0, 0)); }
 
+    /// Whether the keyboard goes to what a person sees of it.
+    [[nodiscard]] bool HasFocus(const char* name) const { return Focus() != nullptr && Focus() == Shown(name); }
+    /// Focus, capture, what is below the mouse and what is in front: for the words of a failure.
+    [[nodiscard]] std::string Situation() const;
+
     // What a person does. Every one of them brings the window to the front first.
 
     void Click(const char* name) const;
@@ -52,6 +60,8 @@ public:
     void Choose(const char* name, WCHAR firstLetter) const;
 
 private:
+    [[nodiscard]] GUITHREADINFO Thread() const;
+    [[nodiscard]] HWND Focus() const { return Thread().hwndFocus; }
     [[nodiscard]] HWND FindTopLevel(const WCHAR* className) const;
     [[nodiscard]] HWND Find(const char* name, base::StringView className) const;
     void BringToFront() const;

@@ -4,39 +4,12 @@
 #include "platform/sim/Machine.h"
 #include "platform/sim/Processes.h"
 #include "platform/sim/Volumes.h"
+#include "tests/support/FailingMemory.h"
 #include "tests/toolkit/HelperProcess.h"
 #include "tests/toolkit/TestWindows.h"
 #include "toolkit/WinMngHLP.h"
 
 #include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <new>
-
-namespace {
-
-/// How many more times memory is given; -1: always.
-int allocationsLeft = -1;
-
-}  // namespace
-
-void* operator new(std::size_t size)
-{
-    if (allocationsLeft == 0)
-        throw std::bad_alloc();
-    if (allocationsLeft > 0)
-        --allocationsLeft;
-    void* const memory = std::malloc(size);
-    return memory ? memory : throw std::bad_alloc();
-}
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
 
 using namespace platform;
 using base::String;
@@ -98,12 +71,15 @@ TEST_F(TaskManLight, CollectionWithoutMemory_LeavesTheListAndCanBeRepeated)
     std::vector<HWND> whole;
     tools.GetAllHWnd(whole);
     std::vector<HWND> list(30);
-    int refused = 0;
-    for (std::int32_t count = -1; count == -1; ++refused) {
-        allocationsLeft = refused;
-        count = tools.GetAllHWnd(list);
-        allocationsLeft = -1;
-        EXPECT_EQ(list, count == -1 ? std::vector<HWND>(30) : whole) << refused;
+    std::int64_t refused = 0;
+    for (bool struck = true; struck; struck = tests::FailingMemory::HasStruck()) {
+        std::int32_t count = 0;
+        {
+            const tests::FailingMemory memory(++refused);
+            count = tools.GetAllHWnd(list);
+        }
+        EXPECT_EQ(count, tests::FailingMemory::HasStruck() ? -1 : 14) << refused;
+        EXPECT_EQ(list, tests::FailingMemory::HasStruck() ? std::vector<HWND>(30) : whole) << refused;
     }
     EXPECT_GT(refused, 3) << "the list grows twice";
 }
