@@ -66,7 +66,7 @@ function(velmora_tests name folder)
     list(FILTER sources EXCLUDE REGEX "\\.win\\.cpp$")
   endif()
   if(NOT sources)
-    return()
+    message(FATAL_ERROR "tests/${folder} holds no tests for ${name}")
   endif()
   add_executable(${name} ${sources})
   # The support comes first: its scenes use the rooms.

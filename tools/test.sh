@@ -48,6 +48,8 @@ test_main() {
         [ "$log" -nt build/log/.start ] && sed -n "s/^.*tests passed.*/$suite: &/p; s/^Total Test time/$suite: &/p" "$log"
     done
     printf 'left out: %s\n' "${left_out[@]}" | sed '/^left out: $/d'
+    # A person may lack a compiler; where the tests decide what is kept, nothing may be missing.
+    [ "${CI:-}" = true ] && failed+=("${left_out[@]}")
     printf 'FAILED: %s\n' "${failed[@]}" | sed '/^FAILED: $/d'
     echo "$(($(date +%s) - start)) s in all"
     [ ${#failed[@]} = 0 ]

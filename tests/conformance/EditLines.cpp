@@ -54,8 +54,10 @@ TEST_F(EditLines, HardLines_AreCountedAndMeasuredWithoutTheirBreaks)
 TEST_F(EditLines, BehindTheText_NoLineHasALength)
 {
     const HWND edit = Add(ES_AUTOHSCROLL, TEXT("one"));
-    KNOWN_GAP("gives the length of the last line");
-    EXPECT_EQ(Ask(edit, EM_LINELENGTH, 4), 0);
+    KNOWN_GAP("gives the length of the last line")
+    {
+        EXPECT_EQ(Ask(edit, EM_LINELENGTH, 4), 0);
+    }
 }
 
 TEST_F(EditLines, MinusOne_AsksForTheLineOfTheCaret)

@@ -98,9 +98,11 @@ TEST_F(Edit, Limit_HoldsForTypingAndReplacingButNotForSetting)
     EXPECT_EQ(TextOf(multi), TEXT("a")) << "backspace takes both characters of a line break";
     SendMessageW(multi, EM_SETLIMITTEXT, 1, 0);
     parent_.Codes();
-    KNOWN_GAP("tells of an update and a change although the text stayed");
     Type(multi, TEXT("b"));
-    EXPECT_EQ(parent_.Codes(), Codes{EN_MAXTEXT});
+    KNOWN_GAP("tells of an update and a change although the text stayed")
+    {
+        EXPECT_EQ(parent_.Codes(), Codes{EN_MAXTEXT});
+    }
 }
 
 TEST_F(Edit, Styles_DecideWhatTypingLeaves)
@@ -182,9 +184,11 @@ TEST_F(Edit, Undo_TakesBackARunOfTypingAndThenItself)
     }
     Type(edit, TEXT("abc"));
     parent_.Codes();
-    KNOWN_GAP("tells of the change twice");
     undone();
-    EXPECT_EQ(parent_.Codes(), kChange);
+    KNOWN_GAP("tells of the change twice")
+    {
+        EXPECT_EQ(parent_.Codes(), kChange);
+    }
 }
 
 TEST_F(Edit, ModifyFlag_IsSetByTheUserAndClearedBySettingText)
@@ -239,13 +243,15 @@ TEST_F(Edit, CutAndPaste_GoThroughTheClipboard)
     const auto standard = SendMessageW(password, EM_GETPASSWORDCHAR, 0, 0);
     EXPECT_TRUE(standard == 0x25CF || standard == '*') << standard;
     Select(password, 0, -1);
-    KNOWN_GAP("copies and cuts passwords when it is asked by message");
     SendMessageW(password, WM_COPY, 0, 0);
     SendMessageW(password, WM_CUT, 0, 0);
-    EXPECT_EQ(TextOf(password), TEXT("secret"));
-    SetWindowTextW(edit, TEXT(""));
-    SendMessageW(edit, WM_PASTE, 0, 0);
-    EXPECT_EQ(TextOf(edit), TEXT("he"));
+    KNOWN_GAP("copies and cuts passwords when it is asked by message")
+    {
+        EXPECT_EQ(TextOf(password), TEXT("secret"));
+        SetWindowTextW(edit, TEXT(""));
+        SendMessageW(edit, WM_PASTE, 0, 0);
+        EXPECT_EQ(TextOf(edit), TEXT("he"));
+    }
 }
 
 TEST_F(Edit, ColorsAreAskedAsEditWhileItCanBeTypedInto)

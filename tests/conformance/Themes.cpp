@@ -16,8 +16,7 @@ class Themes : public testing::Test {
 protected:
     void SetUp() override
     {
-        if (!IsThemeActive() || !IsAppThemed())
-            GTEST_SKIP() << "visual styles are switched off here";
+        ASSERT_TRUE(IsThemeActive() && IsAppThemed()) << "to be run with visual styles switched on";
         theme_ = OpenThemeData(nullptr, TEXT("Button"));
         ASSERT_NE(theme_, nullptr);
     }

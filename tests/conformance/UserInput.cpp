@@ -91,10 +91,12 @@ TEST_F(Input, Leaving_IsToldOnceToTheWindowThatAsked)
     tests::MoveMouse(700, 500);
     wait();
     EXPECT_TRUE(log_.Is({WM_MOUSELEAVE}, {"child WM_MOUSELEAVE"}));
-    KNOWN_GAP("does not tell at once a window that the mouse is not over");
     track();
     wait();
-    EXPECT_TRUE(log_.Is({WM_MOUSELEAVE}, {"child WM_MOUSELEAVE"}));
+    KNOWN_GAP("does not tell at once a window that the mouse is not over")
+    {
+        EXPECT_TRUE(log_.Is({WM_MOUSELEAVE}, {"child WM_MOUSELEAVE"}));
+    }
 }
 
 TEST_F(Input, Keys_BecomeCharactersForTheWindowWithTheFocus)

@@ -11,7 +11,7 @@ namespace tests {
 /// A set of pictures. Their hashes lie in tests/golden/<set>.txt, a line each: hash, name.
 ///
 /// A picture that differs from its hash fails the test and is saved as build/golden/<set>/<name>.png. With VELMORA_WRITE_GOLDEN=1 in the
-/// environment the file is renewed instead and all pictures of the set are saved, to be looked at before the file is kept.
+/// environment the file is renewed instead, all pictures of the set are saved, to be looked at before the file is kept, and the test fails.
 class Golden {
 public:
     explicit Golden(std::string set);

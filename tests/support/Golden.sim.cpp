@@ -45,6 +45,8 @@ Golden::~Golden()
         std::ofstream file(FileOf(set_));
         for (const auto& [name, hash] : shown_)
             file << hash << ' ' << name << '\n';
+        ADD_FAILURE() << "tests/golden/" << set_ << ".txt is written: look at build/golden/" << set_
+                      << " and run without VELMORA_WRITE_GOLDEN";
         return;
     }
     for (const auto& [name, hash] : kept_)

@@ -221,8 +221,7 @@ TEST_F(FrameBorder, Caption_InterruptsIt)
 
 TEST_F(FrameBorder, Themed_IsTheGroupBoxOfTheTheme)
 {
-    if (!IsThemeActive())
-        GTEST_SKIP() << "visual styles are switched off here";
+    ASSERT_TRUE(IsThemeActive()) << "to be run with visual styles switched on";
     Box().UseClassicTheme(false);
     Box().GetExtender().Width(900);
     const int width = Box().GetSurface().ScaleWidth(), height = Box().GetSurface().ScaleHeight();
