@@ -3,10 +3,10 @@
 
 namespace controls {
 
-base::FontHandle NarrowToFit(HDC dc, LOGFONTW start, const base::String& text, int available)
+base::FontHandle NarrowToFit(HDC dc, LOGFONTW start, const base::String& text, int available, const std::function<void(HFONT)>& tell)
 {
     base::FontHandle font;
-    while (start.lfWidth >= 1) {
+    while (start.lfWidth > 1) {
         SIZE size{};
         if (!GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size) || size.cx < available)
             break;
@@ -15,6 +15,8 @@ base::FontHandle NarrowToFit(HDC dc, LOGFONTW start, const base::String& text, i
         if (!narrower)
             break;
         SelectObject(dc, narrower.Get());
+        if (tell)
+            tell(narrower.Get());
         font = std::move(narrower);
     }
     return font;

@@ -182,9 +182,12 @@ private:
     /// Lays the caption out for the present size and draws.
     void Relayout();
     void FontChanged() override {}
+    /// Does what `FontAutoSize` says, and takes back what it said before.
     void FitFont();
     void ShrinkFont();
     void NarrowFont();
+    void TellFont(HFONT font);
+    void GiveNarrowedFontBack();
     [[nodiscard]] ButtonLook Look();
     [[nodiscard]] bool PaintThemed(Canvas& canvas, const ButtonLook& look);
     void CutWindow(const ButtonStyle& drawn, const ButtonLook& look);

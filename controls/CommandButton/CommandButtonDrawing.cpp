@@ -41,8 +41,7 @@ int CommandButton::ContentMargin() const
 
 void CommandButton::Relayout()
 {
-    if (fontAutoSize_ != AutoSizeOff)
-        FitFont();
+    FitFont();
     host::Surface& surface = GetSurface();
     const int width = surface.ScaleWidth();
     const int height = surface.ScaleHeight();

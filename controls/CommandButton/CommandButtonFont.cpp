@@ -23,17 +23,30 @@ void CommandButton::FitFont()
 {
     const bool wasApplied = autoSizeApplied_;
     autoSizeApplied_ = false;
+    if (wasApplied || caption_.empty())
+        GiveNarrowedFontBack();
     if (caption_.empty())
         return;
-    if (wasApplied) {
-        narrowedFont_.Reset();
-        if (font_->Size() < baseFontSize_)
-            font_->Size(baseFontSize_);
-    }
+    if (wasApplied && font_->Size() < baseFontSize_)
+        font_->Size(baseFontSize_);
     if (fontAutoSize_ == AutoSizeNarrow)
         NarrowFont();
-    else
+    else if (fontAutoSize_ != AutoSizeOff)
         ShrinkFont();
+}
+
+void CommandButton::TellFont(HFONT font)
+{
+    SendMessageUnsubclassed(subclassControl_, hWnd(), WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+}
+
+void CommandButton::GiveNarrowedFontBack()
+{
+    if (!narrowedFont_)
+        return;
+    if (const std::shared_ptr<const base::FontHandle> own = font_->Share())
+        TellFont(own->Get());
+    narrowedFont_.Reset();
 }
 
 void CommandButton::ShrinkFont()
@@ -49,8 +62,8 @@ void CommandButton::ShrinkFont()
     }
 }
 
-/// Starts from the width that the font has by itself. The narrowed font is selected for each drawing, and the window is told of it for
-/// those who ask.
+/// Starts from the width that the font has by itself. The narrowed font is selected for each drawing, and the window is told of each
+/// step for those who listen.
 void CommandButton::NarrowFont()
 {
     const HDC dc = GetSurface().Dc();
@@ -60,12 +73,12 @@ void CommandButton::NarrowFont()
     LOGFONTW start = font_->LogicalFont();
     start.lfWidth = metrics.tmAveCharWidth;
     const HGDIOBJ own = GetCurrentObject(dc, OBJ_FONT);
-    narrowedFont_ = NarrowToFit(dc, start, caption_, SizeOf(GetExtender().PixelRect()).cx);
+    const int tooWide = SizeOf(GetExtender().PixelRect()).cx + 1;
+    narrowedFont_ = NarrowToFit(dc, start, caption_, tooWide, [this](HFONT font) { TellFont(font); });
     SelectObject(dc, own);
     if (!narrowedFont_)
         return;
     autoSizeApplied_ = true;
-    SendMessageUnsubclassed(subclassControl_, hWnd(), WM_SETFONT, reinterpret_cast<WPARAM>(narrowedFont_.Get()), TRUE);
     RedrawWindow(hWnd(), nullptr, nullptr, RDW_INVALIDATE);
 }
 

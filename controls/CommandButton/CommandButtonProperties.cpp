@@ -67,8 +67,7 @@ void CommandButton::Caption(const String& caption)
         SendWindowText(caption_);
     } else {
         GetSurface().AccessKey(AccessKeyOf(caption_));
-        if (fontAutoSize_ != AutoSizeOff)
-            FitFont();
+        FitFont();
     }
     PropertyChanged(TEXT("Caption"));
     Relayout();
@@ -280,7 +279,7 @@ void CommandButton::Font(const std::shared_ptr<host::Font>& font)
     if (!font)
         return;
     font_ = font->Copy();
-    narrowedFont_.Reset();
+    GiveNarrowedFontBack();
     GetSurface().Font(font_);
     PropertyChanged(TEXT("Font"));
     baseFontSize_ = font_->Size();

@@ -97,7 +97,7 @@ private:
 
     void Dot(int column, int row, COLORREF color)
     {
-        if (column >= pixels_.width || row >= pixels_.height)
+        if (2 * column >= pixels_.width || 2 * row >= pixels_.height || column < Inset(0, row))
             return;
         for (const int y : {row, pixels_.height - 1 - row}) {
             for (const int x : {column, pixels_.width - 1 - column})

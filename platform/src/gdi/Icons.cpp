@@ -65,12 +65,12 @@ HICON WINAPI CreateIconFromResourceEx(BYTE* bits, DWORD size, BOOL isIcon, DWORD
         return pc.Fail(ERROR_INVALID_PARAMETER, HICON{});
     BITMAPINFOHEADER header;
     std::memcpy(&header, bits, sizeof header);
-    if (header.biSize != sizeof header || version != 0x00030000 || !isIcon) {
-        pc.Unsupported("CreateIconFromResourceEx: a cursor or a compressed picture");
-        return nullptr;
-    }
     header.biHeight /= 2;
-    const std::size_t colors = header.biBitCount <= 8 ? (header.biClrUsed ? header.biClrUsed : 1U << header.biBitCount) : 0;
+    const bool isSound = header.biSize == sizeof header && header.biWidth > 0 && header.biWidth <= 0x4000 && header.biHeight > 0 &&
+                         header.biHeight <= 0x4000 && (header.biBitCount <= 8 || header.biBitCount == 24 || header.biBitCount == 32);
+    if (!isSound || version != 0x00030000 || !isIcon)
+        return pc.Fail(ERROR_INVALID_PARAMETER, HICON{});
+    const std::size_t colors = header.biBitCount <= 8 ? std::size_t{1} << header.biBitCount : 0;
     const std::size_t start = sizeof header + colors * sizeof(RGBQUAD);
     const std::size_t mask = start + DibRowBytes(header.biWidth, header.biBitCount) * static_cast<std::size_t>(header.biHeight);
     if (size < mask + DibRowBytes(header.biWidth, 1) * static_cast<std::size_t>(header.biHeight))
