@@ -18,6 +18,9 @@ void CommandButton::ShowState(std::int32_t state)
 void CommandButton::HasFocus(bool has)
 {
     hasFocus_ = has;
+    // The release of a key that is held goes elsewhere then.
+    if (!has && state_ == StatePressed && lastKeyDown_ == VK_SPACE)
+        state_ = StateNormal;
     DrawControl();
 }
 
@@ -52,7 +55,7 @@ void CommandButton::UserControl_Click()
     if (lastMouseUpButton_ != 1)
         return;
     if (buttonType_ == ToggleButton)
-        value_ = 1 - value_;
+        value_ = value_ == 0 ? 1 : 0;
     ShowState(StateHot);
     Click.Raise();
 }

@@ -3,6 +3,8 @@
 #include "controls/CommandButton/CommandButtonStyles.h"
 #include "tests/controls/FormFixture.h"
 
+#include <commctrl.h>
+
 #include <algorithm>
 
 namespace tests {
@@ -186,6 +188,166 @@ TEST_F(CommandButton, ShrinkingFont_StopsWhenTheCaptionFits)
     EXPECT_EQ(size * 2, static_cast<float>(static_cast<int>(size * 2))) << "in halves of a point";
     Button().Caption(TEXT("x"));
     EXPECT_EQ(Button().Font()->Size(), size) << "and never back";
+}
+
+TEST_F(CommandButton, StoredValueOutOfRange_TogglesToZero)
+{
+    form = std::make_unique<KeyForm>();
+    Open(R"(CommandButton B { Width = 1500 Height = 450 ButtonType = 1 Value = 5 })");
+    EXPECT_EQ(Button().Value(), 5);
+    Click(Button().hWnd());
+    EXPECT_EQ(Button().Value(), 0);
+}
+
+TEST_F(CommandButton, ReleaseOutside_ClicksOnlyWhenTheMouseComesBack)
+{
+    LogEvents();
+    const HWND window = Button().hWnd();
+    for (const auto& [release, events] : {std::pair{MAKELPARAM(500, 6), Lines{"MouseDown 1 5,6", "MouseMove", "MouseUp 1"}},
+                                          {MAKELPARAM(7, 6), Lines{"MouseDown 1 5,6", "MouseMove", "MouseUp 1", "Click"}}}) {
+        SendMessageW(window, WM_MOUSEMOVE, 0, MAKELPARAM(5, 6));
+        Take();
+        Mouse(WM_LBUTTONDOWN, MK_LBUTTON);
+        SendMessageW(window, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(500, 6));
+        EXPECT_EQ(GetCapture(), window);
+        SendMessageW(window, WM_LBUTTONUP, 0, release);
+        EXPECT_EQ(GetCapture(), nullptr);
+        EXPECT_EQ(Take(), events);
+        EXPECT_EQ(Button().State(), controls::StateHot);
+    }
+}
+
+TEST_F(CommandButton, FocusLostWhileSpaceIsHeld_LetsTheButtonGo)
+{
+    form = std::make_unique<KeyForm>();
+    Open(
+        "CommandButton B { Width = 1500 Height = 450 TabIndex = 1 } CommandButton C { Left = 3000 Width = 1500 Height = 450 TabIndex = 2 "
+        "}");
+    LogEvents();
+    Get<controls::CommandButton>("C").Click.Connect([&] { Note("the other's Click"); });
+    Button().SetFocus();
+    SendMessageW(Button().hWnd(), WM_KEYDOWN, VK_SPACE, 0);
+    EXPECT_EQ(Button().State(), controls::StatePressed);
+    Any("C").SetFocus();
+    EXPECT_EQ(Button().State(), controls::StateNormal);
+    SendMessageW(Any("C").hWnd(), WM_KEYUP, VK_SPACE, 0);
+    EXPECT_EQ(Take(), (Lines{"KeyDown 32"}));
+}
+
+TEST_F(CommandButton, SetFocusEx_TellsTheButtonWithoutMovingTheFocus)
+{
+    form = std::make_unique<KeyForm>();
+    Open(
+        "CommandButton B { Width = 1500 Height = 450 TabIndex = 2 Style = 10 ShowFocus = 1 } TextBox T { Left = 3000 Width = 1500 Height = "
+        "450 TabIndex = 1 }");
+    Any("T").SetFocus();
+    const auto row = [&] {
+        std::vector<COLORREF> pixels;
+        for (int x = 2; x < 12; ++x)
+            pixels.push_back(GetPixel(Button().GetSurface().Dc(), x, 2));
+        return pixels;
+    };
+    const auto before = row();
+    Button().SetFocusEx();
+    EXPECT_NE(row(), before) << "it draws its focus rectangle";
+}
+
+TEST_F(CommandButton, ZedOrder_GoesToTheTopToTheBottomOrBehindAWindow)
+{
+    form = std::make_unique<KeyForm>();
+    Open(
+        R"(CommandButton B { Width = 1500 Height = 450 TabIndex = 1 } CommandButton C { Left = 1500 Width = 1500 Height = 450 TabIndex = 2 }
+        CommandButton D { Left = 3000 Width = 1500 Height = 450 TabIndex = 3 })");
+    const auto place = [&] {
+        int behind = 0;
+        for (HWND window = GetWindow(form->hWnd(), GW_CHILD); window != Button().hWnd(); window = GetWindow(window, GW_HWNDNEXT))
+            ++behind;
+        return behind;
+    };
+    Button().ZedOrder(reinterpret_cast<HWND>(1));
+    EXPECT_EQ(place(), 2);
+    Button().ZedOrder(nullptr);
+    EXPECT_EQ(place(), 0);
+    Button().ZedOrder(Any("C").hWnd());
+    EXPECT_EQ(GetWindow(Button().hWnd(), GW_HWNDPREV), Any("C").hWnd());
+    const int before = place();
+    Button().ZedOrder(reinterpret_cast<HWND>(0x7FFFFFF0));
+    EXPECT_EQ(place(), before);
+}
+
+TEST_F(CommandButton, Refresh_BringsTheWindowToItsPlace)
+{
+    // Somebody moved the window behind the container's back; the first refresh takes the container's place, later ones only what changes.
+    SetWindowPos(Button().hWnd(), nullptr, 77, 55, 40, 20, SWP_NOZORDER | SWP_NOACTIVATE);
+    Button().GetExtender().Left(300);
+    Button().Refresh();
+    RECT place{};
+    GetWindowRect(Button().hWnd(), &place);
+    MapWindowPoints(nullptr, form->hWnd(), reinterpret_cast<POINT*>(&place), 2);
+    EXPECT_EQ(place.left, 20);
+    EXPECT_EQ(Button().GetSurface().ScaleWidth(), place.right - place.left);
+}
+
+TEST_F(CommandButton, RoundedValue_TellsBeforeItChanges)
+{
+    form->PropertyChanged.Connect(
+        [this](host::Control&, base::StringView name) { Note(Narrow(name) + " " + std::to_string(Button().RoundedValue())); });
+    Button().RoundedValue(9);
+    Button().RoundedValue(9);
+    Button().RoundedValue(-3);
+    Button().RoundedValue(-4);
+    EXPECT_EQ(Take(), (Lines{"RoundedValue 5", "RoundedValue 9"}));
+    EXPECT_EQ(Button().RoundedValue(), 0);
+}
+
+TEST_F(CommandButton, NarrowedFont_IsToldStepByStepAndGivenBack)
+{
+    const auto size = Button().Font()->Size();
+    Button().FontAutoSize(controls::AutoSizeNarrow);
+    Button().Caption(TEXT("This caption is wider than a button of a hundred pixels, however narrow its characters are made"));
+    const HWND window = Button().hWnd();
+    static std::vector<LONG> widths;
+    widths.clear();
+    SetWindowSubclass(
+        window,
+        [](HWND which, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) -> LRESULT {
+            LOGFONTW font{};
+            if (message == WM_SETFONT && GetObjectW(reinterpret_cast<HGDIOBJ>(wParam), sizeof font, &font))
+                widths.push_back(font.lfWidth);
+            return DefSubclassProc(which, message, wParam, lParam);
+        },
+        7, 0);
+    Button().Caption(TEXT("Another caption is wider than a button of a hundred pixels, however narrow its characters are made"));
+    EXPECT_GE(widths.size(), 3U);
+    EXPECT_EQ(widths.back(), 1) << "0 would be the natural width";
+    // The font's own comes back (its width is 0), and from the natural width on each step is one unit narrower; so for every layout.
+    for (std::size_t step = 1; step < widths.size(); ++step)
+        EXPECT_TRUE(widths[step] == widths[step - 1] - 1 || widths[step - 1] == 0 || (widths[step] == 0 && widths[step - 1] == 1))
+            << widths[step - 1] << ", " << widths[step];
+    widths.clear();
+    Button().FontAutoSize(controls::AutoSizeOff);
+    Button().Caption(TEXT("wide"));
+    EXPECT_EQ(widths, (std::vector<LONG>{0}));
+    EXPECT_EQ(Button().Font()->Size(), size) << "narrowing leaves the points alone";
+}
+
+TEST_F(CommandButton, InTheDesigner_IsHotButForStyle15)
+{
+    form = std::make_unique<KeyForm>();
+    Open(R"(CommandButton B { Width = 1500 Height = 450 Caption = "" USeCustomColors = 1 BackColor = 0x00406080 HighlightColor = 0x0020A0E0
+        BackColorDisabled = 0x00808080 })",
+         false);
+    const auto pixel = [&](int x, int y) { return GetPixel(Button().GetSurface().Dc(), x, y); };
+    Button().Style(10);
+    EXPECT_EQ(pixel(50, 0), 0x001939U);
+    Button().Style(15);
+    EXPECT_EQ(pixel(98, 15), 0x406080U) << "hot it would have the highlight colour";
+    Button().Style(10);
+    Button().ButtonType(controls::ToggleButton);
+    Button().Value(1);
+    EXPECT_EQ(pixel(50, 0), 0x000424U) << "pressed";
+    Button().Enabled(false);
+    EXPECT_EQ(pixel(50, 5), 0x808080U) << "disabled";
 }
 
 TEST_F(CommandButton, HandlerThatUnloadsTheForm_IsSafe)

@@ -1,0 +1,145 @@
+// What only the stand-in PC can tell of a button: the texts that it drew, the calls that it made, the links that it opened.
+#include "controls/CommandButton/CommandButton.h"
+#include "controls/ThemeState.h"
+#include "platform/sim/Graphics.h"
+#include "platform/sim/Shell.h"
+#include "tests/controls/FormFixture.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace tests {
+
+namespace {
+
+platform::SimPc& Pc()
+{
+    return platform::SimPc::Current();
+}
+
+}  // namespace
+
+class CommandButtonCalls : public FormFixture {
+protected:
+    void Show(const std::string& properties)
+    {
+        form = std::make_unique<KeyForm>();
+        Open(R"(CommandButton B { Width = 1500 Height = 450 Caption = "Go" Style = 1 CaptionAlign = 1 FontColor = 0x00112233
+            FontHighlightColor = 0x00445566 )" +
+             properties + " }");
+    }
+    controls::CommandButton& Button() { return Get<controls::CommandButton>("B"); }
+    /// The texts of one drawing: the columns that each stands off the caption's place, and its colour.
+    std::vector<std::pair<LONG, COLORREF>> Texts(std::int32_t state)
+    {
+        if (state == controls::StateHot)
+            SendMessageW(Button().hWnd(), WM_MOUSEMOVE, 0, MAKELPARAM(5, 6));
+        Button().Refresh();  // laid out with the margin that the style has left
+        auto& graphics = Pc().Get<platform::Graphics>();
+        graphics.ForgetTexts();
+        Button().DrawControl();
+        std::vector<std::pair<LONG, COLORREF>> texts;
+        for (const auto& text : graphics.Texts())
+            texts.emplace_back(text.cell.left - 3, text.color);
+        return texts;
+    }
+};
+
+TEST_F(CommandButtonCalls, Caption_HasTheColoursOfItsStateAndEffect)
+{
+    using namespace controls;
+    using Texts_ = std::vector<std::pair<LONG, COLORREF>>;
+    constexpr COLORREF grey = 0xB8B8B8, white = 0xFFFFFF;
+    const COLORREF text = GetSysColor(COLOR_BTNTEXT), greyText = GetSysColor(COLOR_GRAYTEXT);
+    const std::tuple<int, bool, std::int32_t, Texts_> cases[] = {
+        {CaptionFxNone, false, StateNormal, {{0, text}}},
+        {CaptionFxNone, true, StateNormal, {{0, 0x112233}}},
+        {CaptionFxNone, true, StateHot, {{0, 0x445566}}},
+        {CaptionFxRaised, true, StateNormal, {{1, grey}, {-1, white}, {0, 0x112233}}},
+        {CaptionFxSunken, false, StateHot, {{1, white}, {-1, grey}, {0, text}}},
+        {CaptionFxShadow, false, StateNormal, {{1, grey}, {0, text}}},
+        {9, false, StateNormal, {{1, grey}, {0, text}}},
+        {CaptionFxSunken, true, StateDisabled, {{1, white}, {-1, grey}, {0, greyText}}},
+        {CaptionFxNone, true, StateDisabled, {{1, 0xFFFFFF}, {0, GetSysColor(COLOR_BTNSHADOW)}}},
+    };
+    // The engraving's light is the light shade, 40 lighter.
+    Pc().Get<platform::Graphics>().SystemColor(COLOR_3DLIGHT, 0xE3E3E3);
+    for (const auto& [effect, own, state, texts] : cases) {
+        Show("CaptionFx = " + std::to_string(effect) + " USeCustomColors = " + (own ? "1" : "0") +
+             (state == StateDisabled ? " Enabled = False" : ""));
+        EXPECT_EQ(Texts(state), texts) << "effect " << effect << (own ? ", own colours" : "") << ", state " << state;
+    }
+    Show("CaptionHide = 1");
+    EXPECT_EQ(Texts(StateNormal), Texts_{});
+}
+
+TEST_F(CommandButtonCalls, Window_IsCutOnlyWhenItsShapeChanges)
+{
+    Show("ContourStyle = 2 RoundedValue = 9");
+    auto& trace = Pc().Trace();
+    const auto cuts = [&](auto&& change) {
+        trace.Start();
+        change();
+        trace.Stop();
+        return trace.Count("SetWindowRgn");
+    };
+    EXPECT_EQ(cuts([&] { Button().DrawControl(); }), 0U);
+    EXPECT_EQ(cuts([&] { Button().Style(8); }), 1U);
+    EXPECT_EQ(cuts([&] { Button().Refresh(); }), 0U);
+    EXPECT_EQ(cuts([&] { Button().GetExtender().Width(1800); }), 1U);
+    EXPECT_EQ(cuts([&] { Button().Style(18); }), 1U);
+    // What only redraws changes the shape too.
+    EXPECT_EQ(cuts([&] { Button().Style(4); }), 1U) << "rounded by its contour";
+    EXPECT_EQ(cuts([&] { Button().RoundedValue(13); }), 1U);
+    EXPECT_EQ(cuts([&] { Button().ContourStyle(controls::ContourNone); }), 1U);
+    EXPECT_EQ(cuts([&] { Button().Style(17); }), 1U);
+    EXPECT_EQ(cuts([&] { Button().UseClassicTheme(true); }), 1U);
+    EXPECT_EQ(cuts([&] { Button().NonThemeStyle(10); }), 0U);
+    EXPECT_EQ(cuts([&] { Button().Style(7); }), 1U) << "the theme's own";
+    EXPECT_EQ(cuts([&] { Button().DrawControl(); }), 0U);
+    controls::ThemeState::OfProcess().AskVersionWith([] { return DWORD{5}; });
+    EXPECT_EQ(cuts([&] { Button().DrawControl(); }), 1U) << "themes are gone, and style 10 stands in";
+}
+
+TEST_F(CommandButtonCalls, Checkerboard_IsOneLineARow)
+{
+    Show("ButtonType = 1 Value = 1 ContourStyle = 0");
+    Button().Style(0);
+    auto& trace = Pc().Trace();
+    trace.Start();
+    Button().DrawControl();
+    trace.Stop();
+    EXPECT_EQ(trace.Count("ExtCreatePen"), 1U);
+    EXPECT_EQ(trace.Count("LineTo"), 30U);
+    EXPECT_EQ(trace.Count("SetPixelV"), 0U);
+}
+
+TEST_F(CommandButtonCalls, ZedOrder_MovesNothingElse)
+{
+    Show("");
+    auto& trace = Pc().Trace();
+    trace.Start();
+    Button().ZedOrder(nullptr);
+    trace.Stop();
+    ASSERT_GE(trace.Count("SetWindowPos"), 1U);
+    const std::string arguments = trace.Of("SetWindowPos").front().arguments;
+    EXPECT_TRUE(arguments.ends_with(", 0, 0, 0, 0, 0x233")) << arguments;
+}
+
+TEST_F(CommandButtonCalls, OpenLink_AsksTheShellAndTellsItsAnswer)
+{
+    Show("");
+    auto& shell = Pc().Get<platform::Shell>();
+    shell.Answer(31);
+    EXPECT_EQ(Button().OpenLink(TEXT("http://example.com/caf\u00E9")), 31);
+    ASSERT_EQ(shell.AllOpened().size(), 1U);
+    const platform::Shell::Opened& opened = shell.AllOpened().front();
+    EXPECT_EQ(opened.window, Button().hWnd());
+    EXPECT_EQ(opened.verb, "open");
+    EXPECT_EQ(opened.file, "http://example.com/caf\xE9");
+    EXPECT_EQ(opened.parameters, "1");
+    EXPECT_EQ(opened.folder, "1");
+    EXPECT_EQ(opened.show, SW_SHOWNORMAL);
+}
+
+}  // namespace tests
