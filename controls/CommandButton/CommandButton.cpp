@@ -85,8 +85,10 @@ const PropertyTable<CommandButton>& CommandButton::Properties()
             [](B& button, std::int16_t pointer) { button.GetSurface().MousePointer(pointer); }, 0),
         StoredAs<B, uint8_t>(TEXT("RoundedBordersByTheme"), &B::roundedBordersByTheme_, 1),
         StoredAs<B, bool>(TEXT("RightToLeft"), &B::rightToLeft_, false),
-        StoredAs<B, std::shared_ptr<host::Font>>(
-            TEXT("Font"), &B::font_, [](B& button) { return button.Ambient().Font(); }, whatever)
+        StoredThrough<B, std::shared_ptr<host::Font>>(
+            TEXT("Font"), [](B& button) { return button.Font(); },
+            [](B& button, const std::shared_ptr<host::Font>& font) { button.TakeFont(*font); },
+            [](B& button) { return button.Ambient().Font(); }, whatever)
             .WrittenEarlier(7),
     };
     return table;
@@ -100,9 +102,8 @@ CommandButton::CommandButton() : LibraryControl({.icon = TEXT("TooltipIcon"), .b
 void CommandButton::UserControl_InitProperties()
 {
     RoundedValue(5);
-    font_ = Ambient().Font();
-    baseFontSize_ = font_->Size();
-    GetSurface().Font(font_);
+    TakeFont(*Ambient().Font());
+    baseFontSize_ = Font()->Size();
     backColor_ = backColorDisabled_ = TranslateOleColor(host::SystemColor(COLOR_BTNFACE));
     fontHighlightColor_ = TranslateOleColor(host::SystemColor(COLOR_BTNTEXT));
     if (Ambient().UserMode())
@@ -113,11 +114,10 @@ void CommandButton::UserControl_InitProperties()
 void CommandButton::UserControl_ReadProperties(const PropertyBag& bag)
 {
     Properties().Read(*this, bag);
-    GetSurface().Font(font_);
     state_ = StateNormal;
     if (forceTrueType_)
-        ApplyForceTrueType(*font_, ForceTrueTypeChoice::FirstFamily);
-    baseFontSize_ = font_->Size();
+        ApplyForceTrueType(*Font(), ForceTrueTypeChoice::FirstFamily);
+    baseFontSize_ = Font()->Size();
     GetSurface().AccessKey(AccessKeyOf(caption_));
     if (Ambient().UserMode())
         subclassControl_.TryEnable(hWnd());

@@ -107,9 +107,6 @@ public:
     [[nodiscard]] std::int32_t PictureDisabledStyle() const { return pictureDisabledStyle_; }
     void PictureDisabledStyle(std::int32_t style);
 
-    [[nodiscard]] const std::shared_ptr<host::Font>& Font() const { return font_; }
-    /// Takes a copy.
-    void Font(const std::shared_ptr<host::Font>& font);
     /// Fits the font to the button: 0 never, 1 narrower characters, all others fewer points. Counts from the next caption on.
     [[nodiscard]] std::int32_t FontAutoSize() const { return fontAutoSize_; }
     void FontAutoSize(std::int32_t mode);
@@ -181,7 +178,7 @@ private:
     void SendWindowText(const base::String& text);
     /// Lays the caption out for the present size and draws.
     void Relayout();
-    void FontChanged() override {}
+    void FontChanged() override;
     /// Does what `FontAutoSize` says, and takes back what it said before.
     void FitFont();
     void ShrinkFont();
@@ -223,10 +220,10 @@ private:
     ButtonPictures pictures_;
     std::int32_t pictureAlign_ = AlignCentre;
     std::int32_t pictureDisabledStyle_ = DisabledPictureUnchanged;
-    std::shared_ptr<host::Font> font_;
     std::int32_t fontAutoSize_ = AutoSizeOff;
     float baseFontSize_ = 0;
     bool autoSizeApplied_ = false;
+    bool fittingFont_ = false;
     base::FontHandle narrowedFont_;
     bool forceTrueType_ = false;
 

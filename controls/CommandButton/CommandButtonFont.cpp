@@ -27,12 +27,14 @@ void CommandButton::FitFont()
         GiveNarrowedFontBack();
     if (caption_.empty())
         return;
-    if (wasApplied && font_->Size() < baseFontSize_)
-        font_->Size(baseFontSize_);
+    fittingFont_ = true;
+    if (wasApplied && Font()->Size() < baseFontSize_)
+        Font()->Size(baseFontSize_);
     if (fontAutoSize_ == AutoSizeNarrow)
         NarrowFont();
     else if (fontAutoSize_ != AutoSizeOff)
         ShrinkFont();
+    fittingFont_ = false;
 }
 
 void CommandButton::TellFont(HFONT font)
@@ -44,7 +46,7 @@ void CommandButton::GiveNarrowedFontBack()
 {
     if (!narrowedFont_)
         return;
-    if (const std::shared_ptr<const base::FontHandle> own = font_->Share())
+    if (const std::shared_ptr<const base::FontHandle> own = Font()->Share())
         TellFont(own->Get());
     narrowedFont_.Reset();
 }
@@ -56,9 +58,9 @@ void CommandButton::ShrinkFont()
         SIZE text{};
         if (!GetTextExtentPoint32W(GetSurface().Dc(), caption_.c_str(), static_cast<int>(caption_.size()), &text))
             return;
-        if ((text.cy + 2 < room.cy && text.cx + 2 < room.cx) || font_->Size() < 1)
+        if ((text.cy + 2 < room.cy && text.cx + 2 < room.cx) || Font()->Size() < 1)
             return;
-        font_->Size(Smaller(font_->Size()));
+        Font()->Size(Smaller(Font()->Size()));
     }
 }
 
@@ -70,7 +72,7 @@ void CommandButton::NarrowFont()
     TEXTMETRICW metrics{};
     if (!GetTextMetricsW(dc, &metrics))
         return;
-    LOGFONTW start = font_->LogicalFont();
+    LOGFONTW start = Font()->LogicalFont();
     start.lfWidth = metrics.tmAveCharWidth;
     const HGDIOBJ own = GetCurrentObject(dc, OBJ_FONT);
     const int tooWide = SizeOf(GetExtender().PixelRect()).cx + 1;

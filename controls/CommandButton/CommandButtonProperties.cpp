@@ -274,15 +274,13 @@ void CommandButton::PictureDisabledStyle(std::int32_t style)
     Keep(pictureDisabledStyle_, style, TEXT("PictureDisabledStyle"), After::Relayout);
 }
 
-void CommandButton::Font(const std::shared_ptr<host::Font>& font)
+/// The steps that fit the font to the button are not the user's.
+void CommandButton::FontChanged()
 {
-    if (!font)
+    if (fittingFont_)
         return;
-    font_ = font->Copy();
     GiveNarrowedFontBack();
-    GetSurface().Font(font_);
-    PropertyChanged(TEXT("Font"));
-    baseFontSize_ = font_->Size();
+    baseFontSize_ = Font()->Size();
     DrawControl();
 }
 
@@ -295,7 +293,7 @@ void CommandButton::ForceTrueType(bool force)
 {
     Keep(forceTrueType_, force, TEXT("ForceTrueType"), After::Nothing);
     if (force)
-        ApplyForceTrueType(*font_, ForceTrueTypeChoice::FirstFamily);
+        ApplyForceTrueType(*Font(), ForceTrueTypeChoice::FirstFamily);
 }
 
 void CommandButton::MousePointer(std::int16_t pointer)
