@@ -121,6 +121,7 @@ TEST_F(Form1Service, Install_TakesTheChosenStartupType)
         ASSERT_TRUE(Open());
         Startup().ListIndex(index);
         Click(TEXT("cmdInstall"));
+        EXPECT_EQ(Form().ActiveControl(), &Button(TEXT("cmdInstall"))) << "whether it was disabled meanwhile or not";
         const Service* const service = The<Services>().Find(name);
         ASSERT_NE(service, nullptr);
         EXPECT_EQ(service->startType, index < 0 ? 2u : 2u + static_cast<DWORD>(index));

@@ -81,7 +81,7 @@ TEST_F(EndToEnd, Service_InstalledAndUninstalledWithTheKeyboardAlone)
     ASSERT_TRUE(Eventually([] { return InstalledService().has_value(); })) << utility.Situation();
     EXPECT_EQ(InstalledService().value().startType, static_cast<DWORD>(SERVICE_DEMAND_START));
     ASSERT_TRUE(Eventually([&] { return PanelOf(utility) == "stopped"; }));
-    go(VK_F6, "cmdInstall");
+    EXPECT_TRUE(utility.HasFocus("cmdInstall")) << utility.Situation();
     utility.Press({VK_SPACE});
     ASSERT_TRUE(Eventually([&] { return PanelOf(utility) == "not installed" && !InstalledService(); })) << utility.Situation();
     utility.Press({VK_ESCAPE});
