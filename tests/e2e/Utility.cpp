@@ -5,6 +5,18 @@
 
 namespace e2e {
 
+namespace {
+
+GUITHREADINFO ThreadOf(HWND window)
+{
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
+    return info;
+}
+
+}  // namespace
+
 Utility::Utility(const base::String& exe) : process_(Launch(exe)) {}
 
 Utility::~Utility()
@@ -34,12 +46,10 @@ DWORD Utility::ExitCode() const
     return code;
 }
 
-GUITHREADINFO Utility::Thread() const
+bool Utility::HasFocus(const char* name) const
 {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof info;
-    GetGUIThreadInfo(GetWindowThreadProcessId(window_, nullptr), &info);
-    return info;
+    const HWND focus = ThreadOf(window_).hwndFocus;
+    return focus && focus == Shown(name);
 }
 
 std::string Utility::Situation() const
@@ -50,7 +60,7 @@ std::string Utility::Situation() const
                 return std::string(control.name) + (IsWindowEnabled(window) ? "" : " (disabled)");
         return !window ? "nothing" : window == window_ ? "the window" : "something else";
     };
-    const GUITHREADINFO info = Thread();
+    const GUITHREADINFO info = ThreadOf(window_);
     POINT mouse{};
     GetCursorPos(&mouse);
     return "focus on " + nameOf(info.hwndFocus) + ", capture by " + nameOf(info.hwndCapture) + ", mouse over " +

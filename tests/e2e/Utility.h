@@ -44,7 +44,7 @@ public:
     [[nodiscard]] int Selected(const char* name) const { return static_cast<int>(SendMessageW(Own(name), CB_GETCURSEL, 0, 0)); }
 
     /// Whether the keyboard goes to what a person sees of it.
-    [[nodiscard]] bool HasFocus(const char* name) const { return Focus() != nullptr && Focus() == Shown(name); }
+    [[nodiscard]] bool HasFocus(const char* name) const;
     /// Focus, capture, what is below the mouse and what is in front: for the words of a failure.
     [[nodiscard]] std::string Situation() const;
 
@@ -60,8 +60,6 @@ public:
     void Choose(const char* name, WCHAR firstLetter) const;
 
 private:
-    [[nodiscard]] GUITHREADINFO Thread() const;
-    [[nodiscard]] HWND Focus() const { return Thread().hwndFocus; }
     [[nodiscard]] HWND FindTopLevel(const WCHAR* className) const;
     [[nodiscard]] HWND Find(const char* name, base::StringView className) const;
     void BringToFront() const;
