@@ -1,6 +1,7 @@
 #include "tools/bench/Bench.h"
 
 #include "toolkit/TaskManLight.h"
+#include "tools/bench/Faces.h"
 
 #include <algorithm>
 #include <chrono>
@@ -75,8 +76,12 @@ void Fill(std::vector<HWND>& windows, std::size_t count)
 
 }  // namespace
 
-int Run()
+int Run(std::string_view only)
 {
+    TimeFaces();
+    if (only == "faces")
+        return 0;
+    std::printf("\n");
     const toolkit::TaskManLight tools;
     const DWORD own = tools.GetMyPID();
     std::vector<HWND> list;

@@ -2,8 +2,8 @@
 #include "platform/sim/SimPc.h"
 #include "tools/bench/Bench.h"
 
-int main()
+int main(int count, char** words)
 {
     const platform::SimPc pc;
-    return bench::Run();
+    return bench::Run(count > 1 ? words[1] : "");
 }

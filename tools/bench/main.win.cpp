@@ -1,7 +1,7 @@
 // The bench on Windows.
 #include "tools/bench/Bench.h"
 
-int main()
+int main(int count, char** words)
 {
-    return bench::Run();
+    return bench::Run(count > 1 ? words[1] : "");
 }
