@@ -20,28 +20,22 @@ constexpr std::uint32_t Blue(std::uint32_t pixel)
     return pixel & 0xFF;
 }
 
-template <class PerChannel>
-std::uint32_t EachChannel(std::uint32_t pixel, PerChannel change)
-{
-    return change(Red(pixel)) << 16 | change(Green(pixel)) << 8 | change(Blue(pixel));
-}
-
 std::uint32_t Blend(std::uint32_t over, std::uint32_t under, std::uint32_t opacity)
 {
     const auto channel = [=](std::uint32_t one, std::uint32_t other) { return (one * opacity + other * (255 - opacity)) / 256; };
     return channel(Red(over), Red(under)) << 16 | channel(Green(over), Green(under)) << 8 | channel(Blue(over), Blue(under));
 }
 
-/// Calls `change(pixel beneath, pixel of the picture)` for all that is covered.
-template <class Change>
-void EachCovered(Pixels& under, int left, int top, const CoveredPixels& picture, Change change)
+/// Replaces each pixel beneath one that is seen by `made(pixel beneath, pixel of the picture)`.
+template <class Make>
+void EachSeen(Pixels& under, int left, int top, const Pixels& picture, Make made)
 {
-    std::size_t index = 0;
-    for (int row = 0; row < picture.colors.height; ++row) {
-        std::uint32_t* beneath = under.Row(top + row) + left;
-        for (int column = 0; column < picture.colors.width; ++column, ++index, ++beneath) {
-            if (picture.covered[index])
-                change(*beneath, picture.colors.values[index]);
+    for (int row = 0; row < picture.height; ++row) {
+        const std::uint32_t* pixel = picture.Row(row);
+        const std::uint32_t* const end = pixel + picture.width;
+        for (std::uint32_t* beneath = under.Row(top + row) + left; pixel != end; ++pixel, ++beneath) {
+            if (*pixel >= covered)
+                *beneath = made(*beneath, *pixel);
         }
     }
 }
@@ -56,21 +50,32 @@ std::uint32_t Grey(std::uint32_t pixel)
     return grey << 16 | grey << 8 | grey;
 }
 
-void Composite(Pixels& under, int left, int top, const CoveredPixels& picture, const PictureEffect& effect)
+void CoverAllBut(Pixels& picture, std::uint32_t open)
 {
-    const auto opacity = static_cast<std::uint32_t>(effect.opacity);
-    EachCovered(under, left, top, picture, [&](std::uint32_t& beneath, std::uint32_t pixel) {
-        if (effect.grey)
-            pixel = Grey(pixel);
-        if (effect.brightness)
-            pixel = EachChannel(pixel, [&](std::uint32_t value) { return std::uint32_t{(*effect.brightness)[value]}; });
-        beneath = opacity == 255 ? pixel : Blend(pixel, beneath, opacity);
-    });
+    for (std::uint32_t& pixel : picture.values)
+        pixel = (pixel & ~covered) == open ? 0 : pixel | covered;
 }
 
-void CastShadow(Pixels& under, int left, int top, const CoveredPixels& picture, std::uint32_t pixel)
+void Composite(Pixels& under, int left, int top, const Pixels& picture, const PictureEffect& effect)
 {
-    EachCovered(under, left, top, picture, [&](std::uint32_t& beneath, std::uint32_t) { beneath = pixel; });
+    const auto opacity = static_cast<std::uint32_t>(effect.opacity);
+    if (effect.brightness) {
+        const BrightnessTable& table = *effect.brightness;
+        EachSeen(under, left, top, picture, [&](std::uint32_t, std::uint32_t pixel) {
+            return static_cast<std::uint32_t>(table[Red(pixel)] << 16 | table[Green(pixel)] << 8 | table[Blue(pixel)]);
+        });
+    } else if (opacity == 255) {
+        EachSeen(under, left, top, picture,
+                 [&](std::uint32_t, std::uint32_t pixel) { return effect.grey ? Grey(pixel) : pixel & ~covered; });
+    } else {
+        EachSeen(under, left, top, picture,
+                 [&](std::uint32_t beneath, std::uint32_t pixel) { return Blend(effect.grey ? Grey(pixel) : pixel, beneath, opacity); });
+    }
+}
+
+void CastShadow(Pixels& under, int left, int top, const Pixels& picture, std::uint32_t color)
+{
+    EachSeen(under, left, top, picture, [=](std::uint32_t, std::uint32_t) { return color; });
 }
 
 }  // namespace controls

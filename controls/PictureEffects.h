@@ -5,7 +5,6 @@
 
 #include <array>
 #include <cstdint>
-#include <vector>
 
 namespace controls {
 
@@ -30,24 +29,27 @@ inline constexpr BrightnessTable lighter = Brightness(115);
 inline constexpr BrightnessTable darker = Brightness(85);
 
 struct PictureEffect {
-    const BrightnessTable* brightness = nullptr;
+    const BrightnessTable* brightness = nullptr;  // of an opaque picture in its colours
     bool grey = false;
     int opacity = 255;  // 255 replaces what lies beneath, less is blended
 };
 
-/// A picture and which of its pixels are seen.
-struct CoveredPixels {
-    Pixels colors;
-    std::vector<bool> covered;
-};
+/// In a picture that is laid over something else the highest byte of a pixel tells whether it is seen: 0 is open.
+constexpr std::uint32_t covered = 0xFF000000;
+
+/// No pixel's colour.
+constexpr std::uint32_t noColor = 0x01000000;
+
+/// Marks all pixels as seen but those of the colour (0x00RRGGBB, or `noColor`).
+void CoverAllBut(Pixels& picture, std::uint32_t open);
 
 /// The brightness of a pixel in all three channels: 30 % red, 59 % green, 11 % blue, rounded to nearest and ties to even.
 [[nodiscard]] std::uint32_t Grey(std::uint32_t pixel);
 
-/// Puts the picture over the pixels at a place that lies inside them.
-void Composite(Pixels& under, int left, int top, const CoveredPixels& picture, const PictureEffect& effect);
+/// Puts what is seen of a picture over the pixels, at a place that lies inside them.
+void Composite(Pixels& under, int left, int top, const Pixels& picture, const PictureEffect& effect);
 
-/// Fills the pixels that the picture would cover with one colour.
-void CastShadow(Pixels& under, int left, int top, const CoveredPixels& picture, std::uint32_t pixel);
+/// Fills what the picture would cover with one colour.
+void CastShadow(Pixels& under, int left, int top, const Pixels& picture, std::uint32_t color);
 
 }  // namespace controls

@@ -44,10 +44,14 @@ std::optional<Pixels> RenderPixels(HDC dc, SIZE size, const std::function<void(H
         const Selection paper(memory.Get(), bitmap.Get());
         draw(memory.Get());
     }
-    // A bitmap is read only when it is selected nowhere.
+    return ReadBitmap(dc, bitmap.Get(), size);
+}
+
+std::optional<Pixels> ReadBitmap(HDC dc, HBITMAP bitmap, SIZE size)
+{
     Pixels pixels(size.cx, size.cy);
     BITMAPINFO info = InfoOf(pixels);
-    if (!GetDIBits(dc, bitmap.Get(), 0, static_cast<UINT>(size.cy), pixels.values.data(), &info, DIB_RGB_COLORS))
+    if (!GetDIBits(dc, bitmap, 0, static_cast<UINT>(size.cy), pixels.values.data(), &info, DIB_RGB_COLORS))
         return std::nullopt;
     return pixels;
 }

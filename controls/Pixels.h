@@ -41,6 +41,9 @@ void DrawPixels(HDC dc, int left, int top, const Pixels& pixels);
 /// https://learn.microsoft.com/windows/win32/api/wingdi/nf-wingdi-getdibits
 [[nodiscard]] std::optional<Pixels> ReadPixels(HDC dc, const RECT& block);
 
+/// The pixels of a bitmap that is selected nowhere. Empty without memory.
+[[nodiscard]] std::optional<Pixels> ReadBitmap(HDC dc, HBITMAP bitmap, SIZE size);
+
 /// What `draw(HDC)` draws on a bitmap of its own that fits to the device context. Empty without memory.
 [[nodiscard]] std::optional<Pixels> RenderPixels(HDC dc, SIZE size, const std::function<void(HDC)>& draw);
 

@@ -3,9 +3,6 @@
 
 #include "controls/CommandButton/CommandButtonLayout.h"
 #include "controls/PictureEffects.h"
-#include "controls/Selection.h"
-
-#include "base/Handles.h"
 
 namespace controls {
 
@@ -45,43 +42,36 @@ PictureEffect EffectOf(const ButtonLook& look, bool standsIn, std::int32_t disab
     return {};
 }
 
-void CopyBitmap(HDC target, HBITMAP bitmap, SIZE size)
-{
-    const base::MemoryDc source(CreateCompatibleDC(target));
-    if (!source)
-        return;
-    const Selection shown(source.Get(), bitmap);
-    BitBlt(target, 0, 0, size.cx, size.cy, source.Get(), 0, 0, SRCCOPY);
-}
-
 /// An icon is drawn over a copy of the button, into which its soft edges blend; where its mask is white it is open.
-std::optional<CoveredPixels> Render(HDC dc, const host::Picture& picture, POINT place)
+std::optional<Pixels> RenderIcon(HDC dc, const host::Picture& picture, POINT place, std::uint32_t open)
 {
     const SIZE size = picture.Size();
-    std::vector<bool> covered(static_cast<std::size_t>(size.cx) * static_cast<std::size_t>(size.cy), true);
-    if (picture.GetType() == host::PictureType::Bitmap) {
-        auto colors = RenderPixels(dc, size, [&](HDC target) { CopyBitmap(target, picture.Bitmap(), size); });
-        return colors ? std::optional(CoveredPixels{std::move(*colors), std::move(covered)}) : std::nullopt;
-    }
-    auto colors = RenderPixels(dc, size, [&](HDC target) {
+    const auto draw = [&](HDC target, UINT part) { DrawIconEx(target, 0, 0, picture.Icon(), size.cx, size.cy, 0, nullptr, part); };
+    auto pixels = RenderPixels(dc, size, [&](HDC target) {
         BitBlt(target, 0, 0, size.cx, size.cy, dc, place.x, place.y, SRCCOPY);
-        DrawIconEx(target, 0, 0, picture.Icon(), size.cx, size.cy, 0, nullptr, DI_NORMAL);
+        draw(target, DI_NORMAL);
     });
-    const auto open =
-        RenderPixels(dc, size, [&](HDC target) { DrawIconEx(target, 0, 0, picture.Icon(), size.cx, size.cy, 0, nullptr, DI_MASK); });
-    if (!colors || !open)
+    const auto mask = RenderPixels(dc, size, [&](HDC target) { draw(target, DI_MASK); });
+    if (!pixels || !mask)
         return std::nullopt;
-    for (std::size_t index = 0; index < covered.size(); ++index)
-        covered[index] = (open->values[index] & 0xFFFFFF) == 0;
-    return CoveredPixels{std::move(*colors), std::move(covered)};
+    CoverAllBut(*pixels, open);
+    for (std::size_t index = 0; index < mask->values.size(); ++index) {
+        if ((mask->values[index] & ~covered) != 0)
+            pixels->values[index] = 0;
+    }
+    return pixels;
 }
 
-void OpenMaskColor(CoveredPixels& picture, std::uint32_t mask)
+/// The pixels of a picture, with those marked that are seen.
+std::optional<Pixels> Render(HDC dc, const host::Picture& picture, POINT place, const PictureLook& look)
 {
-    for (std::size_t index = 0; index < picture.covered.size(); ++index) {
-        if ((picture.colors.values[index] & 0xFFFFFF) == mask)
-            picture.covered[index] = false;
-    }
+    const std::uint32_t open = look.hasMask ? AsPixel(GetNearestColor(dc, look.mask)) : noColor;
+    if (picture.GetType() == host::PictureType::Icon)
+        return RenderIcon(dc, picture, place, open);
+    std::optional<Pixels> pixels = ReadBitmap(dc, picture.Bitmap(), picture.Size());
+    if (pixels)
+        CoverAllBut(*pixels, open);
+    return pixels;
 }
 
 }  // namespace
@@ -97,11 +87,9 @@ void PaintButtonPicture(Canvas& canvas, const ButtonStyle& style, const ButtonLo
     if (size.cx <= 0 || size.cy <= 0)
         return;
     const POINT place = PlacePicture(canvas.Width(), canvas.Height(), size, picture.align, style.margin, look.IsPressed());
-    std::optional<CoveredPixels> pixels = Render(canvas.Dc(), *chosen, place);
+    std::optional<Pixels> pixels = Render(canvas.Dc(), *chosen, place, picture);
     if (!pixels)
         return;
-    if (picture.hasMask)
-        OpenMaskColor(*pixels, AsPixel(GetNearestColor(canvas.Dc(), picture.mask)));
 
     const bool lifted = look.IsHot() && style.Has(LiftsHotPicture);
     const LONG lift = lifted ? 1 : 0;

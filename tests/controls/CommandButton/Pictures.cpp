@@ -113,8 +113,9 @@ TEST(PictureEffects, AreWholeNumbers)
     const auto over = [](std::uint32_t picture, std::uint32_t beneath, const PictureEffect& effect) {
         Pixels under(1, 1);
         under.values = {beneath};
-        CoveredPixels pixels{Pixels(1, 1), {true}};
-        pixels.colors.values = {picture};
+        Pixels pixels(1, 1);
+        pixels.values = {picture};
+        CoverAllBut(pixels, noColor);
         Composite(under, 0, 0, pixels, effect);
         return under.values[0];
     };
