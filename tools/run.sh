@@ -54,12 +54,12 @@ run_for_person() {
     wine_in "$run_prefix" wine "$exe_name" </dev/null
 }
 
-# Starts a display of its own for this run's prefix; run_end ends it.
+# Starts a display of its own for this run's prefix, of `display_size`; run_end ends it.
 virtual_display() {
     command -v Xvfb >/dev/null && command -v import >/dev/null || { echo "no display, and no Xvfb and ImageMagick to make a picture with" >&2; return 1; }
     local number=471
     while [ -e "/tmp/.X11-unix/X$number" ] || [ -e "/tmp/.X$number-lock" ]; do number=$((number + 1)); done
-    Xvfb ":$number" -screen 0 800x700x24 -nolisten tcp </dev/null >/dev/null 2>&1 &
+    Xvfb ":$number" -screen 0 "${display_size:-800x700}x24" -nolisten tcp </dev/null >/dev/null 2>&1 &
     run_started+=($!)
     export DISPLAY=":$number"
     local tries

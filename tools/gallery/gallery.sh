@@ -1,5 +1,5 @@
-# The pictures in docs/, made anew.
-# Renews the pictures in docs/ from the real exe under Wine, on a virtual display
+# The controls to play with, and the pictures in docs/.
+# the controls live, with their properties; without a display renews the pictures in docs/; --draw, --sheet: see tools/gallery/Gallery.h
 . tools/run.sh
 
 # import_window <file> <geometry>: the window and what stands over it.
@@ -17,7 +17,7 @@ pose() { wine_in "$run_prefix" wine gallery.exe "$@" </dev/null 2>/dev/null | tr
 
 close_window() { pose close && wait "${run_started[-1]}"; }
 
-gallery_main() {
+prepare() {
     wine_make_prefix
     step "build windows" build_preset windows utility agent gallery
     run_folder="$root/build/gallery-run"
@@ -27,6 +27,18 @@ gallery_main() {
     wine_clone "$run_prefix"
     run_started=()
     trap run_end EXIT
+}
+
+live() {
+    prepare
+    use_display Y
+    cd "$run_folder"
+    wine_in "$run_prefix" wine gallery.exe </dev/null
+}
+
+pictures() {
+    prepare
+    display_size=1024x768
     virtual_display
     cd "$run_folder"
 
@@ -44,6 +56,10 @@ gallery_main() {
     sleep 1
     import_window "$root/docs/frames-themed.png" "$place"
     close_window
+    pose --sheet 0 18 113x33 caption=Install cut=0xF0F0F0 buttons.png
+    convert buttons.png -strip "$root/docs/buttons.png"
+    open_window gallery.exe
+    import -window "The controls" "$root/docs/gallery.png"
     ls -l "$root"/docs/*.png
 }
 
@@ -65,5 +81,5 @@ draw() {
 case "${1:-}" in
 --native) shift && draw native "$@" ;;
 --draw | --sheet) draw windows "$@" ;;
-*) gallery_main ;;
+*) if [ -n "${DISPLAY:-}" ]; then live; else pictures; fi ;;
 esac

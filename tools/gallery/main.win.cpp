@@ -1,11 +1,13 @@
 // The gallery on Windows.
 //
+//     gallery             every control, live, with its properties to play with
 //     gallery themed      the utility's window with visual styles, until it is closed
 //     gallery hover 9 5   rests the mouse on a point of the running utility's window
 //     gallery close       closes the running utility
 //
 // and what Gallery.h lists.
 #include "tools/gallery/Gallery.h"
+#include "tools/gallery/Live.h"
 #include "tools/gallery/Poses.h"
 
 #include <cstdlib>
@@ -16,6 +18,8 @@ int main(int count, char** words)
     if (const std::optional<int> result = gallery::Draw(std::vector<std::string_view>(words + 1, words + count)))
         return *result;
     const std::string_view verb = count > 1 ? words[1] : "";
+    if (verb.empty())
+        return gallery::ShowLive();
     if (verb == "themed")
         return gallery::ShowThemed();
     const HWND window = FindWindowW(nullptr, TEXT("Velmora Setup Utility"));
