@@ -8,6 +8,8 @@
 #include "controls/ThemeState.h"
 #include "controls/TranslateOleColor.h"
 
+#include "tests/controls/CommandButton/ButtonPaper.h"
+
 #include <gtest/gtest.h>
 
 #include <uxtheme.h>
@@ -50,6 +52,30 @@ TEST(Gradient, Ramp_DividesWholeNumbers)
     EXPECT_EQ(controls::ColorRamp(0x000000, 0x00000A, 3), expected);
     EXPECT_EQ(controls::ColorRamp(0x00000A, 0x000000, 3).at(1), 0x000007U) << "towards zero, also downwards";
     EXPECT_EQ(controls::ColorRamp(0x000000, 0x000004, 0), std::vector<COLORREF>{0x000002});
+}
+
+TEST(Gradient, Directions_LayTheRampOut)
+{
+    using Rows = std::vector<std::vector<int>>;
+    const Rows diagonal{{20, 30, 40, 50, 60}, {10, 20, 30, 40, 50}, {0, 10, 20, 30, 40}};
+    const std::pair<int, Rows> cases[] = {{1, diagonal},
+                                          {2, Rows(3, {0, 15, 30, 45, 60})},
+                                          {3, Rows(3, {0, 60, 60, 30, 0})},
+                                          {4, {std::vector(5, 0), std::vector(5, 30), std::vector(5, 60)}},
+                                          {5, {std::vector(5, 30), std::vector(5, 60), std::vector(5, 0)}},
+                                          {6, diagonal},
+                                          {7, diagonal},
+                                          {0, diagonal}};
+    for (const auto& [direction, rows] : cases) {
+        const ButtonPaper paper(7, 5);
+        controls::DrawGradient(paper.Dc(), 1, 1, 5, 3, RGB(0, 0, 0), RGB(60, 0, 0), direction);
+        for (int y = 0; y < 5; ++y)
+            for (int x = 0; x < 7; ++x) {
+                const bool isInside = x >= 1 && x <= 5 && y >= 1 && y <= 3;
+                EXPECT_EQ(GetRValue(paper.At(x, y)), isInside ? rows[static_cast<std::size_t>(y - 1)][static_cast<std::size_t>(x - 1)] : 0)
+                    << direction << " at " << x << ", " << y;
+            }
+    }
 }
 
 TEST(TranslateOleColor, SystemColors_AreResolved)

@@ -209,10 +209,13 @@ TEST_F(TextBox, Arrows_MoveOnAtTheEndsOfTheText)
 {
     Box().ForwardFocusRight(&Other());
     Box().ForwardFocusDown(&Other());
+    Box().KeyDown.Connect([&](std::int16_t& code, std::int16_t&) { Note("down " + std::to_string(code)); });
     Box().SetFocus();
     Box().SelStart(3);
+    Take();
     Press(VK_RIGHT);
     EXPECT_EQ(Focused(), "Box");
+    EXPECT_EQ(Take(), Lines{"down 39"});
     Box().SelStart(5);
     Press(VK_RIGHT);
     EXPECT_EQ(Focused(), "Other");
@@ -222,6 +225,7 @@ TEST_F(TextBox, Arrows_MoveOnAtTheEndsOfTheText)
     Press(VK_DOWN);
     EXPECT_EQ(Focused(), "Other");
     EXPECT_EQ(Other().SelStart(), 2) << "no further than the text";
+    EXPECT_EQ(Take(), Lines{}) << "a key that has moved the focus is done with";
 }
 
 TEST_F(TextBox, Tab_RaisesNoKeyDownAndTypesNothing)
