@@ -31,9 +31,16 @@ void Canvas::Outline(const RECT& box, COLORREF color)
 
 void Canvas::Bevel(const RECT& box, COLORREF topLeft, COLORREF bottomRight)
 {
-    Outline(box, bottomRight);
-    Fill({box.left, box.top, box.right - 1, box.top + 1}, topLeft);
-    Fill({box.left, box.top, box.left + 1, box.bottom - 1}, topLeft);
+    const auto lines = [this](const RECT& first, const RECT& second, COLORREF color) {
+        const base::BrushHandle brush(CreateSolidBrush(color));
+        if (!brush)
+            return;
+        FillRect(dc_, &first, brush.Get());
+        FillRect(dc_, &second, brush.Get());
+    };
+    const auto [left, top, right, bottom] = box;
+    lines({left, top, right - 1, top + 1}, {left, top, left + 1, bottom - 1}, topLeft);
+    lines({right - 1, top, right, bottom}, {left, bottom - 1, right, bottom}, bottomRight);
 }
 
 void Canvas::RoundOutline(const RECT& box, int diameter, COLORREF color)

@@ -68,7 +68,8 @@ TEST_F(Persistence, Keys_AreWrittenInTheirOrder)
          "BackColor ForeColor BorderStyle OLEDropMode Caption Enabled Appearance Font "},
         {"CommandButton", buttonStored,
          "CaptionHide CaptionUniChars Caption FontAutoSize ToolTipTextW ForceTrueType GradientDirection CaptionFx RoundedValue "
-         "ContourColor ContourStyle Picture PictureOver PictureDown PictureDisabled PictureDisabledStyle Style NonThemeStyle PictureAlign CaptionAlign Enabled ShowFocus USeCustomColors "
+         "ContourColor ContourStyle Picture PictureOver PictureDown PictureDisabled PictureDisabledStyle Style NonThemeStyle PictureAlign "
+         "CaptionAlign Enabled ShowFocus USeCustomColors "
          "BackColor BackColorDisabled HighlightColor FontColor FontHighlightColor Tooltiptitle ToolTipIcon TooltipBalloon ToolTipCentred "
          "ToolTipWidth ToolTipBackColor ToolTipForeColor Font ButtonType Value MaskColor MaskColorEnabled MousePointer "
          "RoundedBordersByTheme RightToLeft "},

@@ -30,7 +30,7 @@ struct SkinDot {
 
 struct ButtonSkin {
     ButtonShape shape = ButtonShape::Rectangle;
-    COLORREF outside = 0;         // what the shape leaves out, should anything show it
+    COLORREF outside = 0;           // what the shape leaves out, should anything show it
     std::vector<SkinRim> rims{};    // from the border inwards
     std::vector<SkinBand> bands{};  // of the face inside the rims, from the top down
     std::vector<SkinDot> dots{};
