@@ -17,14 +17,14 @@ wine_available() {
 }
 
 # Keys that let tests run without a display (null driver), keep hiding a window fast without a window manager, turn a crash into an exit
-# code instead of a debugger, and give the window the one face that Wine has of its design: a bitmap face, which is drawn as wide as it is
-# measured (its Tahoma is not, at this size).
+# code instead of a debugger, and give the window's TrueType face, which only Windows has, one of the same width. Its other face, MS Sans
+# Serif, Wine has as bitmaps; they are drawn as wide as they are measured, which Tahoma is not at this size.
 wine_registry_text() {
     printf '%s\r\n' 'REGEDIT4' '' \
         '[HKEY_CURRENT_USER\Software\Wine\Drivers]' '"Graphics"="null"' '' \
         '[HKEY_CURRENT_USER\Software\Wine\X11 Driver]' '"Managed"="N"' '' \
         '[HKEY_LOCAL_MACHINE\Software\Microsoft\Windows NT\CurrentVersion\AeDebug]' '"Debugger"=""' '' \
-        '[HKEY_CURRENT_USER\Software\Wine\Fonts\Replacements]' '"Microsoft Sans Serif"="MS Sans Serif"' ''
+        '[HKEY_CURRENT_USER\Software\Wine\Fonts\Replacements]' '"Microsoft Sans Serif"="Tahoma"' ''
 }
 
 # Makes the template and the shared prefix unless they are there. Callers that come at the same time wait for the first one.
