@@ -67,7 +67,6 @@ using LPCREATESTRUCTW = CREATESTRUCTW*;
 
 ATOM WINAPI RegisterClassExW(const WNDCLASSEXW* windowClass);
 BOOL WINAPI UnregisterClassW(LPCWSTR className, HINSTANCE instance);
-BOOL WINAPI GetClassInfoExW(HINSTANCE instance, LPCWSTR className, WNDCLASSEXW* windowClass);
 int WINAPI GetClassNameW(HWND window, LPWSTR className, int capacity);
 UINT WINAPI RealGetWindowClassW(HWND window, LPWSTR className, UINT capacity);
 

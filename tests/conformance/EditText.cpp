@@ -204,56 +204,6 @@ TEST_F(Edit, ModifyFlag_IsSetByTheUserAndClearedBySettingText)
     EXPECT_FALSE(Is(edit, EM_GETMODIFY));
 }
 
-TEST_F(Edit, Arrows_MoveTheCaret)
-{
-    const struct {
-        LPCWSTR text;
-        INT from;
-        WPARAM key;
-        DWORD to;
-    } cases[] = {{TEXT("hello"), 2, VK_LEFT, 1},      {TEXT("hello"), 2, VK_END, 5},     {TEXT("hello"), 5, VK_RIGHT, 5},
-                 {TEXT("hello"), 2, VK_HOME, 0},      {TEXT("hello"), 0, VK_DOWN, 1},    {TEXT("one\r\ntwo\r\nlonger"), 10, VK_UP, 5},
-                 {TEXT("one\r\ntwo"), 5, VK_LEFT, 3}, {TEXT("one\r\ntwo"), 0, VK_END, 3}};
-    for (const auto& test : cases) {
-        const bool lines = base::StringView(test.text).find(TEXT('\n')) != base::StringView::npos;
-        const HWND edit = Add(ES_AUTOHSCROLL | (lines ? ES_MULTILINE | ES_AUTOVSCROLL : 0), test.text, 200, 80);
-        Select(edit, test.from, test.from);
-        Press(edit, test.key);
-        EXPECT_EQ(Selection(edit).first, test.to) << test.from << ", key " << test.key;
-        EXPECT_EQ(parent_.Codes(), Codes());
-    }
-    const HWND edit = Add(ES_AUTOHSCROLL, TEXT("hello"));
-    Press(edit, VK_DELETE);
-    EXPECT_EQ(TextOf(edit), TEXT("ello"));
-    EXPECT_EQ(parent_.Codes(), kChange);
-}
-
-TEST_F(Edit, CutAndPaste_GoThroughTheClipboard)
-{
-    const HWND edit = Add(ES_AUTOHSCROLL, TEXT("hello"));
-    Select(edit, 0, 2);
-    SendMessageW(edit, WM_CUT, 0, 0);
-    EXPECT_EQ(TextOf(edit), TEXT("llo"));
-    parent_.Codes();
-    Type(edit, TEXT("\x16"));  // Ctrl+V
-    EXPECT_EQ(TextOf(edit), TEXT("hello"));
-    EXPECT_EQ(parent_.Codes(), kChange);
-
-    const HWND password = Add(ES_AUTOHSCROLL | ES_PASSWORD, TEXT("secret"));
-    const auto standard = SendMessageW(password, EM_GETPASSWORDCHAR, 0, 0);
-    EXPECT_TRUE(standard == 0x25CF || standard == '*') << standard;
-    Select(password, 0, -1);
-    SendMessageW(password, WM_COPY, 0, 0);
-    SendMessageW(password, WM_CUT, 0, 0);
-    KNOWN_GAP("copies and cuts passwords when it is asked by message")
-    {
-        EXPECT_EQ(TextOf(password), TEXT("secret"));
-        SetWindowTextW(edit, TEXT(""));
-        SendMessageW(edit, WM_PASTE, 0, 0);
-        EXPECT_EQ(TextOf(edit), TEXT("he"));
-    }
-}
-
 TEST_F(Edit, ColorsAreAskedAsEditWhileItCanBeTypedInto)
 {
     const HWND edit = Add(ES_AUTOHSCROLL, TEXT("text"));

@@ -125,44 +125,4 @@ TEST_F(Texts, TheAccessKeyIsUnderlined_UnlessHidden)
     }
 }
 
-TEST_F(Texts, TextIsClippedToItsBox)
-{
-    RECT small{10, 10, 15, 16};
-    DrawTextW(paper_.Dc(), TEXT("HHHH"), -1, &small, DT_SINGLELINE);
-    EXPECT_LE(Ink().right, 15);
-    EXPECT_LE(Ink().bottom, 16);
-    DrawTextW(paper_.Dc(), TEXT("HHHH"), -1, &small, DT_SINGLELINE | DT_NOCLIP);
-    EXPECT_GT(Ink().right, 15);
-}
-
-TEST_F(Texts, OpaqueTextFillsItsCell)
-{
-    SetBkColor(paper_.Dc(), RGB(0, 0, 255));
-    RECT box{10, 10, kWidth, kHeight};
-    DrawTextW(paper_.Dc(), TEXT(" "), -1, &box, DT_SINGLELINE);
-    EXPECT_EQ(Ink().left, 10);
-    EXPECT_EQ(Ink().right, 10 + Extent(TEXT(" ")).cx);
-    Clear();
-    SetBkMode(paper_.Dc(), TRANSPARENT);
-    DrawTextW(paper_.Dc(), TEXT(" "), -1, &box, DT_SINGLELINE);
-    EXPECT_EQ(Ink().right, 0);
-}
-
-TEST_F(Texts, LargerAndBolderFontsAreLargerAndWider)
-{
-    const auto extent = [&](int height, int weight) {
-        LOGFONTW wanted{};
-        wanted.lfHeight = height;
-        wanted.lfWeight = weight;
-        wanted.lfCharSet = DEFAULT_CHARSET;
-        const base::FontHandle font(CreateFontIndirectW(&wanted));
-        const Select select(paper_.Dc(), font.Get());
-        return Extent(TEXT("Velmora Setup Utility"));
-    };
-    EXPECT_GT(extent(-22, FW_NORMAL).cx, extent(-11, FW_NORMAL).cx);
-    EXPECT_GT(extent(-22, FW_NORMAL).cy, extent(-11, FW_NORMAL).cy);
-    EXPECT_GT(extent(-11, FW_BOLD).cx, extent(-11, FW_NORMAL).cx);
-    EXPECT_EQ(extent(-11, FW_BOLD).cy, extent(-11, FW_NORMAL).cy);
-}
-
 }  // namespace

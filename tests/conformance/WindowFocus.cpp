@@ -8,43 +8,6 @@ using tests::MessageLog;
 constexpr DWORD kTop = WS_OVERLAPPEDWINDOW;
 constexpr DWORD kChild = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS;
 
-TEST(WindowFocus, ShownWindow_BecomesActiveBeforeItIsDone)
-{
-    MessageLog log;
-    const HWND window = log.Create("top", kTop);
-    log.Clear();
-    ShowWindow(window, SW_SHOW);
-    EXPECT_TRUE(log.Is({WM_SHOWWINDOW, WM_ACTIVATEAPP, WM_NCACTIVATE, WM_ACTIVATE, WM_SETFOCUS, WM_SIZE, WM_MOVE},
-                       {"top WM_SHOWWINDOW 1", "top WM_ACTIVATEAPP 1", "top WM_NCACTIVATE 1", "top WM_ACTIVATE 1", "top WM_SETFOCUS",
-                        "top WM_SIZE", "top WM_MOVE"}));
-    EXPECT_EQ(GetForegroundWindow(), window);
-    EXPECT_EQ(GetActiveWindow(), window);
-    EXPECT_EQ(GetFocus(), window);
-}
-
-TEST(WindowFocus, OtherWindowBecomesActive_TheOldOneIsToldFirst)
-{
-    MessageLog log;
-    const HWND one = log.Create("one", kTop | WS_VISIBLE);
-    const HWND other = log.Create("other", kTop | WS_VISIBLE);
-    const std::initializer_list<UINT> activation = {WM_NCACTIVATE, WM_ACTIVATE, WM_ACTIVATEAPP, WM_SETFOCUS, WM_KILLFOCUS};
-    log.Clear();
-    EXPECT_TRUE(SetForegroundWindow(one));
-    EXPECT_TRUE(log.Is(activation, {"other WM_NCACTIVATE 0", "other WM_ACTIVATE 0", "one WM_NCACTIVATE 1", "one WM_ACTIVATE 1",
-                                    "other WM_KILLFOCUS", "one WM_SETFOCUS"}));
-    SetForegroundWindow(other);
-    log.Clear();
-    ShowWindow(other, SW_HIDE);
-    EXPECT_EQ(GetActiveWindow(), one) << "the next one takes over";
-    EXPECT_TRUE(log.Is({WM_SHOWWINDOW, WM_ACTIVATE}, {"other WM_SHOWWINDOW 0", "other WM_ACTIVATE 0", "one WM_ACTIVATE 1"}));
-    ShowWindow(other, SW_RESTORE);
-    EXPECT_TRUE(log.Is({WM_SHOWWINDOW, WM_ACTIVATE}, {"other WM_SHOWWINDOW 1", "one WM_ACTIVATE 0", "other WM_ACTIVATE 1"}));
-    EXPECT_TRUE(ShowWindow(one, SW_SHOW));
-    EXPECT_TRUE(log.Is({})) << "it is shown already";
-    SetWindowPos(one, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER);
-    EXPECT_EQ(GetActiveWindow(), one) << "unless SWP_NOACTIVATE is asked for";
-}
-
 TEST(WindowFocus, SetFocus_ActivatesTheWindowAboveAndTellsBothSides)
 {
     MessageLog log;

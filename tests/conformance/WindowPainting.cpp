@@ -91,20 +91,6 @@ TEST_F(Painting, DeviceContext_IsClippedToWhatCanBeSeen)
     EXPECT_EQ(PixelOf(behind, 40, 5), kRed);
 }
 
-TEST_F(Painting, HiddenWindow_IsNotPaintedUntilItIsShown)
-{
-    ShowWindow(child_, SW_HIDE);
-    tests::PumpMessages(20);
-    log_.Clear();
-    InvalidateRect(child_, nullptr, TRUE);
-    EXPECT_FALSE(GetUpdateRect(child_, nullptr, FALSE));
-    tests::PumpMessages(20);
-    EXPECT_TRUE(log_.Is({WM_PAINT}, {}));
-    ShowWindow(child_, SW_SHOW);
-    tests::PumpMessages(20);
-    EXPECT_TRUE(log_.Is({WM_PAINT}, {"child WM_PAINT"}));
-}
-
 TEST_F(Painting, HidingAndMoving_ExposeTheParent)
 {
     Fill(top_, kRed);
@@ -116,22 +102,6 @@ TEST_F(Painting, HidingAndMoving_ExposeTheParent)
     ShowWindow(child_, SW_HIDE);
     tests::PumpMessages(20);
     EXPECT_EQ(PixelOf(top_, 130, 30), GetSysColor(COLOR_BTNFACE));
-}
-
-TEST_F(Painting, PaintStruct_TellsTheAreaAndTheBackground)
-{
-    static PAINTSTRUCT seen;
-    log_.Answer(WM_ERASEBKGND, FALSE);
-    log_.On(WM_PAINT, [](HWND window) {
-        BeginPaint(window, &seen);
-        EndPaint(window, &seen);
-    });
-    const RECT part{100, 10, 110, 20};
-    InvalidateRect(top_, &part, TRUE);
-    UpdateWindow(top_);
-    EXPECT_EQ(seen.rcPaint.left, 100);
-    EXPECT_EQ(seen.rcPaint.bottom, 20);
-    EXPECT_TRUE(seen.fErase) << "WM_ERASEBKGND was answered with FALSE";
 }
 
 }  // namespace

@@ -74,22 +74,4 @@ TEST(WindowPlacement, Points_AreMappedBetweenWindows)
     EXPECT_EQ(moved.top, 220);
 }
 
-TEST(WindowPlacement, Style_TellsBeforeAndAfterAndIsCompleted)
-{
-    MessageLog log;
-    const HWND top = log.Create("top", WS_OVERLAPPED);
-    EXPECT_EQ(GetWindowLongW(top, GWL_STYLE), static_cast<LONG>(WS_CAPTION | WS_CLIPSIBLINGS));
-    EXPECT_EQ(GetWindowLongW(top, GWL_EXSTYLE), static_cast<LONG>(WS_EX_WINDOWEDGE));
-    const HWND child = log.Create("child", WS_CHILD, top);
-    log.Clear();
-    EXPECT_EQ(SetWindowLongW(child, GWL_STYLE, static_cast<LONG>(WS_CHILD | WS_BORDER)), static_cast<LONG>(WS_CHILD));
-    EXPECT_TRUE(log.Is({"child WM_STYLECHANGING", "child WM_STYLECHANGED"}));
-    RECT client;
-    GetClientRect(child, &client);
-    EXPECT_EQ(client.right, 200) << "the frame changes only when it is calculated anew";
-    SetWindowPos(child, nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_FRAMECHANGED);
-    GetClientRect(child, &client);
-    EXPECT_EQ(client.right, 200 - 2 * GetSystemMetrics(SM_CXBORDER));
-}
-
 }  // namespace

@@ -6,24 +6,6 @@ namespace {
 using tests::MessageLog;
 using Text = std::basic_string<WCHAR>;
 
-TEST(WindowSearch, Relations_TellParentOwnerAndRoot)
-{
-    MessageLog log;
-    const HWND top = log.Create("top", WS_OVERLAPPEDWINDOW);
-    const HWND child = log.Create("child", WS_CHILD, top);
-    const HWND popup = log.Create("popup", WS_POPUP, child);
-    const HWND owned = log.Create("owned", WS_OVERLAPPED, top);
-    EXPECT_EQ(GetParent(child), top);
-    EXPECT_EQ(GetWindow(popup, GW_OWNER), top) << "a child cannot own; its top-level window does";
-    EXPECT_EQ(GetParent(popup), top);
-    EXPECT_EQ(GetParent(owned), nullptr);
-    EXPECT_EQ(GetWindow(owned, GW_OWNER), top);
-    EXPECT_EQ(GetAncestor(popup, GA_ROOT), popup);
-    EXPECT_EQ(GetAncestor(popup, GA_ROOTOWNER), top);
-    EXPECT_TRUE(IsChild(top, child));
-    EXPECT_FALSE(IsChild(top, popup));
-}
-
 TEST(WindowText, IsKeptCutAndCounted)
 {
     MessageLog log;

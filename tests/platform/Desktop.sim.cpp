@@ -71,25 +71,6 @@ TEST(OtherProcess, HandlesSentMessagesAtOnceAndPostedOnesWhenItRuns)
     EXPECT_EQ(exitCode, 6);
 }
 
-TEST(OtherProcess, ItsWindowsAreReadFromOutsideButNotChanged)
-{
-    const HWND window = OpenAgentWindow();
-    WCHAR text[16];
-    EXPECT_EQ(GetWindowTextW(window, text, 16), 5);
-    const auto denied = [](auto call) {
-        SetLastError(0);
-        EXPECT_FALSE(call());
-        EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_ACCESS_DENIED));
-    };
-    denied([&] { return DestroyWindow(window); });
-    denied([&] { return SetWindowLongPtrW(window, GWLP_USERDATA, 1) != 0; });
-    denied([&] { return GetWindowLongPtrW(window, GWLP_WNDPROC) != 0; });
-    denied([&] { return SetFocus(window) != nullptr; });
-    WNDCLASSEXW windowClass{};
-    windowClass.cbSize = sizeof windowClass;
-    EXPECT_FALSE(GetClassInfoExW(nullptr, TEXT("AgentWindow"), &windowClass)) << "classes belong to their process";
-}
-
 TEST(OtherProcess, TakesTheForegroundUnlessItIsLocked)
 {
     MessageLog log;
@@ -157,20 +138,6 @@ TEST(Timer, Advance_RunsThroughEveryPeriod)
     EXPECT_EQ(Screen().TimersOf(SimPc::Own().process), 0u);
 }
 
-TEST(UserHands, TypingReachesTheFocusWithShiftAndStrangeCharacters)
-{
-    MessageLog log;
-    Pump();
-    log.Create("top", WS_POPUP | WS_VISIBLE);
-    log.Clear();
-    Screen().Type(u"aB\u20AC;");
-    EXPECT_TRUE(log.Is({WM_CHAR}, {"top WM_CHAR 97", "top WM_CHAR 66", "top WM_CHAR 8364", "top WM_CHAR 59"}));
-    Screen().Press(VK_F5, platform::kAlt);
-    EXPECT_TRUE(log.Is({"top WM_SYSKEYDOWN", "top WM_SYSKEYDOWN", "top WM_SYSKEYUP", "top WM_KEYUP"}));
-    Screen().Press('C', platform::kControl);
-    EXPECT_TRUE(log.Is({WM_CHAR}, {"top WM_CHAR 3"}));
-}
-
 TEST(UserHands, WindowThatGoesFromUnderTheMouse_LeavesItToTheNextOne)
 {
     MessageLog log;
@@ -185,22 +152,6 @@ TEST(UserHands, WindowThatGoesFromUnderTheMouse_LeavesItToTheNextOne)
     ShowWindow(child, SW_HIDE);
     Pc().Settle();
     EXPECT_TRUE(log.Is({WM_MOUSELEAVE, WM_MOUSEMOVE}, {"child WM_MOUSELEAVE", "top WM_MOUSEMOVE"}));
-}
-
-TEST(Picture, SnapshotShowsFrameClientAndChildren)
-{
-    MessageLog log;
-    const HWND top = log.Create("top", WS_CAPTION | WS_SYSMENU | WS_VISIBLE, nullptr, {10, 10, 210, 160});
-    const HWND child = log.Create("child", WS_CHILD | WS_VISIBLE | WS_BORDER, top, {0, 0, 20, 20});
-    tests::PumpMessages();
-    const auto picture = Screen().Snapshot(top);
-    EXPECT_EQ(picture.width, 200);
-    EXPECT_EQ(picture.height, 150);
-    const auto shown = [](int color) { return platform::SwapRedBlue(GetSysColor(color)); };
-    EXPECT_EQ(picture.At(60, 5), shown(COLOR_ACTIVECAPTION));
-    EXPECT_EQ(picture.At(100, 100), shown(COLOR_BTNFACE));
-    EXPECT_EQ(picture.At(3, 26), shown(COLOR_WINDOWFRAME)) << "the child's border in the corner of the client area";
-    EXPECT_EQ(Screen().Snapshot(child).width, 20);
 }
 
 TEST(Leaks, WindowsIconsAndDeviceContextsAreNamed)

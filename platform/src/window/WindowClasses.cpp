@@ -96,27 +96,6 @@ BOOL WINAPI UnregisterClassW(LPCWSTR className, HINSTANCE)
     return TRUE;
 }
 
-BOOL WINAPI GetClassInfoExW(HINSTANCE instance, LPCWSTR className, WNDCLASSEXW* windowClass)
-{
-    SIM_NOTE(instance, className);
-    SimPc& pc = SimPc::Current();
-    const auto found = Classes().Find(className, pc.CurrentActor().process);
-    if (!found)
-        return pc.Fail(ERROR_CLASS_DOES_NOT_EXIST, FALSE);
-    windowClass->style = found->style;
-    windowClass->lpfnWndProc = found->procedure;
-    windowClass->cbClsExtra = found->classExtra;
-    windowClass->cbWndExtra = found->windowExtra;
-    windowClass->hInstance = found->process == 0 ? nullptr : instance;
-    windowClass->hIcon = found->icon;
-    windowClass->hCursor = found->cursor;
-    windowClass->hbrBackground = found->background;
-    windowClass->lpszMenuName = found->menuName;
-    windowClass->lpszClassName = className;
-    windowClass->hIconSm = found->smallIcon;
-    return found->atom;
-}
-
 int WINAPI GetClassNameW(HWND window, LPWSTR className, int capacity)
 {
     SIM_CALL(0, ERROR_INVALID_WINDOW_HANDLE, window, capacity);
