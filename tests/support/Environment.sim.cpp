@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <limits>
 #include <memory>
@@ -68,10 +69,15 @@ void FaultSweep(const Scenario& scenario)
     constexpr std::uint64_t quickRuns = 40;
     const std::uint64_t calls = Run(scenario, std::numeric_limits<std::uint64_t>::max()).calls;
     const std::uint64_t step = std::getenv("VELMORA_FULL_SWEEP") ? 1 : std::max<std::uint64_t>(calls / quickRuns, 1);
-    for (std::uint64_t n = 1;; n += step) {
+    std::uint64_t struck = 0;
+    for (std::uint64_t n = 1;; n += step, ++struck) {
         const Outcome outcome = Run(scenario, n);
-        if (outcome.struck.empty())
+        if (outcome.struck.empty()) {
+            std::printf("             %llu of %llu calls struck\n", static_cast<unsigned long long>(struck),
+                        static_cast<unsigned long long>(calls));
+            EXPECT_GT(struck, 0u) << "the scenario makes no call that can fail";
             return;
+        }
         if (testing::Test::HasFailure()) {
             ADD_FAILURE() << "while call " << n << " of " << calls << " failed: " << outcome.struck;
             return;
