@@ -71,40 +71,6 @@ TEST_F(Edit, TypingAndReplacing_IsToldByBothKinds)
     }
 }
 
-TEST_F(Edit, Limit_HoldsForTypingAndReplacingButNotForSetting)
-{
-    const HWND edit = Add(ES_AUTOHSCROLL);
-    EXPECT_EQ(SendMessageW(edit, EM_GETLIMITTEXT, 0, 0), 30000);
-    SendMessageW(edit, EM_SETLIMITTEXT, 3, 0);
-    Type(edit, TEXT("abc"));
-    Select(edit, 1, 2);
-    Type(edit, TEXT("x"));
-    EXPECT_EQ(TextOf(edit), TEXT("axc")) << "what is typed over makes room";
-    parent_.Codes();
-    Select(edit, 0, 2);
-    Replace(edit, TEXT("12345"));
-    EXPECT_EQ(TextOf(edit), TEXT("12c"));
-    EXPECT_EQ(parent_.Codes(), (Codes{EN_MAXTEXT, EN_UPDATE, EN_CHANGE}));
-    SetWindowTextW(edit, TEXT("longer than three"));
-    EXPECT_EQ(TextOf(edit), TEXT("longer than three"));
-    SendMessageW(edit, EM_SETLIMITTEXT, 0, 0);
-    EXPECT_EQ(SendMessageW(edit, EM_GETLIMITTEXT, 0, 0), 0x7FFFFFFE);
-
-    const HWND multi = Add(ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL);
-    SendMessageW(multi, EM_SETLIMITTEXT, 4, 0);
-    Type(multi, TEXT("a\r"));
-    EXPECT_EQ(TextOf(multi), TEXT("a\r\n"));
-    Type(multi, TEXT("\b"));
-    EXPECT_EQ(TextOf(multi), TEXT("a")) << "backspace takes both characters of a line break";
-    SendMessageW(multi, EM_SETLIMITTEXT, 1, 0);
-    parent_.Codes();
-    Type(multi, TEXT("b"));
-    KNOWN_GAP("tells of an update and a change although the text stayed")
-    {
-        EXPECT_EQ(parent_.Codes(), Codes{EN_MAXTEXT});
-    }
-}
-
 TEST_F(Edit, Styles_DecideWhatTypingLeaves)
 {
     const struct {
@@ -125,38 +91,6 @@ TEST_F(Edit, Styles_DecideWhatTypingLeaves)
     SetWindowLongW(number, GWL_STYLE, GetWindowLongW(number, GWL_STYLE) & ~ES_NUMBER);
     Type(number, TEXT("a"));
     EXPECT_EQ(TextOf(number), TEXT("ax")) << "setting is free, and the style can be switched at any time";
-}
-
-TEST_F(Edit, ReadOnly_TakesNoTypingButReplacements)
-{
-    const HWND edit = Add(ES_AUTOHSCROLL, TEXT("abc"));
-    SendMessageW(edit, EM_SETREADONLY, TRUE, 0);
-    EXPECT_TRUE(GetWindowLongW(edit, GWL_STYLE) & ES_READONLY);
-    Type(edit, TEXT("x\b"));
-    Press(edit, VK_DELETE);
-    EXPECT_EQ(TextOf(edit), TEXT("abc"));
-    EXPECT_EQ(parent_.Codes(), Codes());
-    Replace(edit, TEXT("x"));
-    EXPECT_EQ(TextOf(edit), TEXT("xabc"));
-    SendMessageW(edit, EM_SETREADONLY, FALSE, 0);
-    Type(edit, TEXT("y"));
-    EXPECT_EQ(TextOf(edit), TEXT("xyabc"));
-}
-
-TEST_F(Edit, Selection_IsOrderedAndHeldInsideTheText)
-{
-    const HWND edit = Add(ES_AUTOHSCROLL, TEXT("hello"));
-    Select(edit, 3, 1);
-    EXPECT_EQ(Selection(edit), (std::pair<DWORD, DWORD>(1, 3)));
-    Select(edit, 0, -1);
-    EXPECT_EQ(Selection(edit), (std::pair<DWORD, DWORD>(0, 5)));
-    Select(edit, -1, 0);
-    EXPECT_EQ(Selection(edit), (std::pair<DWORD, DWORD>(5, 5))) << "the caret stays where it was";
-    Select(edit, 2, 99);
-    EXPECT_EQ(Selection(edit), (std::pair<DWORD, DWORD>(2, 5)));
-    EXPECT_EQ(SendMessageW(edit, EM_GETSEL, 0, 0), MAKELONG(2, 5));
-    SetWindowTextW(edit, TEXT("new"));
-    EXPECT_EQ(Selection(edit), (std::pair<DWORD, DWORD>(0, 0)));
 }
 
 TEST_F(Edit, Undo_TakesBackARunOfTypingAndThenItself)
@@ -189,19 +123,6 @@ TEST_F(Edit, Undo_TakesBackARunOfTypingAndThenItself)
     {
         EXPECT_EQ(parent_.Codes(), kChange);
     }
-}
-
-TEST_F(Edit, ModifyFlag_IsSetByTheUserAndClearedBySettingText)
-{
-    const HWND edit = Add(ES_AUTOHSCROLL);
-    Type(edit, TEXT("b"));
-    EXPECT_TRUE(Is(edit, EM_GETMODIFY));
-    SendMessageW(edit, EM_SETMODIFY, FALSE, 0);
-    EXPECT_FALSE(Is(edit, EM_GETMODIFY));
-    Replace(edit, TEXT("c"));
-    EXPECT_TRUE(Is(edit, EM_GETMODIFY));
-    SetWindowTextW(edit, TEXT("d"));
-    EXPECT_FALSE(Is(edit, EM_GETMODIFY));
 }
 
 TEST_F(Edit, ColorsAreAskedAsEditWhileItCanBeTypedInto)
