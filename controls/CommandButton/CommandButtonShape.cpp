@@ -90,12 +90,14 @@ base::RegionHandle ShapeRegion(const ButtonOutline& outline)
 
 void WindowShape::Cut(HWND window, base::RegionHandle region)
 {
-    if (!window || !region || (inForce_ && EqualRgn(region.Get(), inForce_.Get())))
+    const bool isCutSo = window == window_ && inForce_ && region && EqualRgn(region.Get(), inForce_.Get());
+    if (!window || !region || isCutSo)
         return;
     base::RegionHandle copy(CreateRectRgn(0, 0, 0, 0));
     if (!copy || CombineRgn(copy.Get(), region.Get(), nullptr, RGN_COPY) == ERROR)
         return;
     // Windows owns a region that a window has accepted. The messages that it sends meanwhile may draw, so what is in force is told first.
+    window_ = window;
     base::RegionHandle former = std::move(inForce_);
     inForce_ = std::move(copy);
     if (SetWindowRgn(window, region.Get(), TRUE))

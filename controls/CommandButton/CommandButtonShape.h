@@ -35,6 +35,7 @@ public:
     void Cut(HWND window, base::RegionHandle region);
 
 private:
+    HWND window_ = nullptr;
     base::RegionHandle inForce_;
 };
 
