@@ -2,7 +2,7 @@
 
 # Debian packages, each with a file or command that shows it is there.
 packages_needed=(
-    g++:g++ cmake:cmake ninja-build:ninja python3:python3 git:git clang-format:clang-format libgtest-dev:/usr/src/googletest/CMakeLists.txt
+    g++:g++ g++-multilib:/usr/lib/gcc/x86_64-linux-gnu/12/32/libstdc++.a cmake:cmake ninja-build:ninja python3:python3 git:git clang-format:clang-format libgtest-dev:/usr/src/googletest/CMakeLists.txt
     g++-mingw-w64-x86-64:x86_64-w64-mingw32-g++-posix g++-mingw-w64-i686:i686-w64-mingw32-g++-posix
     wine:wine wine64:/usr/lib/wine/wine64 fonts-wine:/usr/share/wine/fonts/tahoma.ttf xvfb:Xvfb imagemagick:import
 )
@@ -36,6 +36,7 @@ setup_packages() {
 }
 
 can_build_native() { command -v g++ >/dev/null && command -v cmake >/dev/null && [ -e /usr/include/gtest/gtest.h ]; }
+can_build_native_32() { can_build_native && echo 'int main() {}' | g++ -m32 -x c++ - -o build/can-build-32 2>/dev/null && build/can-build-32; }
 can_build_windows() { command -v x86_64-w64-mingw32-g++-posix >/dev/null && command -v cmake >/dev/null; }
 can_build_x86() { command -v i686-w64-mingw32-g++-posix >/dev/null && command -v cmake >/dev/null; }
 

@@ -1,4 +1,5 @@
-# The whole test run: what this machine can do is done, what it can't is said. Sourced by ./dev.
+# The whole test run: what this machine can do is done, what it can't is said. Of each fault scenario about forty Windows calls fail, one at a
+# time; ./dev sweep lets all of them fail. Sourced by ./dev.
 
 # run_tests <preset> [ctest options...]
 run_tests() {
@@ -20,6 +21,13 @@ test_main() {
         part "build native-asan" build_preset native-asan && part "test native-asan" run_tests native-asan || true
     else
         left_out+=("native suite: g++, cmake or libgtest-dev is not here")
+    fi
+    if can_build_native_32; then
+        # What is 32 bits wide shows in records, paths, rights and numbers: the rooms that deal in those, and the facts about Windows.
+        part "build native-32" build_preset native-32 test_app test_toolkit test_conformance &&
+            part "test native-32" run_tests native-32 --tests-regex '^test_(app|toolkit|conformance)$' || true
+    else
+        left_out+=("native suite with 32 bits: g++-multilib is not here")
     fi
     if can_build_windows; then
         if part "build windows" build_preset windows && part "dist x64" dist_folder windows x64; then
@@ -43,7 +51,7 @@ test_main() {
 
     echo
     local suite log
-    for suite in native native-asan windows e2e; do
+    for suite in native native-asan native-32 windows e2e; do
         log="build/log/test-$suite.log"
         [ "$log" -nt build/log/.start ] && sed -n "s/^.*tests passed.*/$suite: &/p; s/^Total Test time/$suite: &/p" "$log"
     done

@@ -190,19 +190,22 @@ TEST_F(TaskManLight, Figures_AreNeitherCutNorMixedUp)
     pc.Get<Machine>().Processors(200);
     EXPECT_EQ(tools.GetCPUCount(), 200);
 
-    pc.Get<Machine>().Processors(40);
+    // More than half of the bits that an address has.
+    constexpr int processors = sizeof(DWORD_PTR) * 5;
+    pc.Get<Machine>().Processors(processors);
     const DWORD process = processes.Launch(u"C:\\a.exe");
-    const DWORD_PTR high = (DWORD_PTR{1} << 39) | 1;
+    const DWORD_PTR high = (DWORD_PTR{1} << (processors - 1)) | 1;
     DWORD_PTR own = 0, available = 0;
     EXPECT_EQ(tools.SetAffinityMaskFromPID(process, high), 1);
     EXPECT_EQ(tools.GetAffinityMaskFromPID(process, own, available), 1);
     EXPECT_EQ(own, high);
-    EXPECT_EQ(available, (DWORD_PTR{1} << 40) - 1);
-    processes.Find(process)->workingSet = 0x123456789A;
+    EXPECT_EQ(available, (DWORD_PTR{1} << processors) - 1);
+    constexpr SIZE_T workingSet = SIZE_T{0x123456} << (sizeof(SIZE_T) * 2);
+    processes.Find(process)->workingSet = workingSet;
     SIZE_T sizes[8] = {};
     DWORD faults = 0;
     tools.GetMemoryUsageFromPID(process, sizes[0], sizes[1], faults, sizes[2], sizes[3], sizes[4], sizes[5], sizes[6], sizes[7]);
-    const SIZE_T expected[] = {0x123456789A, 0x700000, 0x20000, 0x21000, 0x10000, 0x11000, 0x300000, 0x400000};
+    const SIZE_T expected[] = {workingSet, 0x700000, 0x20000, 0x21000, 0x10000, 0x11000, 0x300000, 0x400000};
     EXPECT_TRUE(std::equal(sizes, sizes + 8, expected));
     EXPECT_EQ(faults, 1501u);
 }

@@ -7,9 +7,6 @@
 
 using namespace platform;
 
-static_assert(sizeof(HELPINFO) == 40);
-static_assert(sizeof(MSGBOXPARAMSW) == 80 && offsetof(MSGBOXPARAMSW, lpszIcon) == 48 && offsetof(MSGBOXPARAMSW, dwLanguageId) == 72);
-
 namespace {
 
 std::u16string NameOf(LPCWSTR name)

@@ -1,15 +1,17 @@
 // TooltipTools: the tools that a tooltip knows, its texts, colours and delays.
 #include "platform/sim/Theme.h"
 #include "platform/src/classes/Tooltip.h"
+#include "platform/src/core/Widths.h"
 
 #include <algorithm>
 #include <cstddef>
 
 namespace platform {
 
-static_assert(TTTOOLINFOW_V1_SIZE == 56 && TTTOOLINFOW_V2_SIZE == 64 && TTTOOLINFOW_V3_SIZE == 72);
-static_assert(offsetof(TTTOOLINFOW, rect) == 24 && offsetof(TTTOOLINFOW, hinst) == 40 && offsetof(TTTOOLINFOW, lpszText) == 48);
-static_assert(sizeof(INITCOMMONCONTROLSEX) == 8 && sizeof(NMHDR) == 24);
+static_assert(TTTOOLINFOW_V1_SIZE == Wide(56, 40) && TTTOOLINFOW_V2_SIZE == Wide(64, 44) && TTTOOLINFOW_V3_SIZE == Wide(72, 48));
+static_assert(offsetof(TTTOOLINFOW, rect) == Wide(24, 16) && offsetof(TTTOOLINFOW, hinst) == Wide(40, 32) &&
+              offsetof(TTTOOLINFOW, lpszText) == Wide(48, 36));
+static_assert(sizeof(INITCOMMONCONTROLSEX) == 8);
 
 namespace {
 

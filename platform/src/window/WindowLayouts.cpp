@@ -1,30 +1,27 @@
-// The records of windows, messages and input have the sizes and the places of fields that they have on 64-bit Windows.
+// The records of windows, messages and input have the sizes and the places of fields that they have on Windows.
+#include "platform/src/core/Widths.h"
+
 #include <windows.h>
 
 #include <cstddef>
 
-namespace {
+using platform::Wide;
 
-template <std::size_t PointerSize>
-constexpr bool LayoutsFit()
-{
-    if constexpr (PointerSize == 8) {
-        static_assert(sizeof(MSG) == 48 && offsetof(MSG, lParam) == 24 && offsetof(MSG, pt) == 36);
-        static_assert(sizeof(WNDCLASSEXW) == 80 && offsetof(WNDCLASSEXW, lpfnWndProc) == 8 && offsetof(WNDCLASSEXW, lpszClassName) == 64);
-        static_assert(sizeof(CREATESTRUCTW) == 80 && offsetof(CREATESTRUCTW, cy) == 32 && offsetof(CREATESTRUCTW, lpszName) == 56);
-        static_assert(sizeof(WINDOWPOS) == 40 && offsetof(WINDOWPOS, flags) == 32);
-        static_assert(sizeof(NCCALCSIZE_PARAMS) == 56);
-        static_assert(sizeof(MINMAXINFO) == 40);
-        static_assert(sizeof(STYLESTRUCT) == 8);
-        static_assert(sizeof(NMHDR) == 24 && offsetof(NMHDR, code) == 16);
-        static_assert(sizeof(PAINTSTRUCT) == 72 && offsetof(PAINTSTRUCT, rcPaint) == 12);
-        static_assert(sizeof(TRACKMOUSEEVENT) == 24 && offsetof(TRACKMOUSEEVENT, hwndTrack) == 8);
-        static_assert(sizeof(MOUSEINPUT) == 32 && sizeof(KEYBDINPUT) == 24 && sizeof(INPUT) == 40 && offsetof(INPUT, mi) == 8);
-        static_assert(sizeof(NONCLIENTMETRICSW) == 504 && offsetof(NONCLIENTMETRICSW, lfMessageFont) == 408);
-        static_assert(sizeof(HELPINFO) == 40 && sizeof(MSGBOXPARAMSW) == 80);
-    }
-    return true;
-}
-static_assert(LayoutsFit<sizeof(void*)>());
-
-}  // namespace
+static_assert(sizeof(MSG) == Wide(48, 28) && offsetof(MSG, lParam) == Wide(24, 12) && offsetof(MSG, pt) == Wide(36, 20));
+static_assert(sizeof(WNDCLASSEXW) == Wide(80, 48) && offsetof(WNDCLASSEXW, lpfnWndProc) == 8 &&
+              offsetof(WNDCLASSEXW, lpszClassName) == Wide(64, 40));
+static_assert(sizeof(CREATESTRUCTW) == Wide(80, 48) && offsetof(CREATESTRUCTW, cy) == Wide(32, 16) &&
+              offsetof(CREATESTRUCTW, lpszName) == Wide(56, 36));
+static_assert(sizeof(WINDOWPOS) == Wide(40, 28) && offsetof(WINDOWPOS, flags) == Wide(32, 24));
+static_assert(sizeof(NCCALCSIZE_PARAMS) == Wide(56, 52));
+static_assert(sizeof(MINMAXINFO) == 40);
+static_assert(sizeof(STYLESTRUCT) == 8);
+static_assert(sizeof(NMHDR) == Wide(24, 12) && offsetof(NMHDR, code) == Wide(16, 8));
+static_assert(sizeof(PAINTSTRUCT) == Wide(72, 64) && offsetof(PAINTSTRUCT, rcPaint) == Wide(12, 8));
+static_assert(sizeof(TRACKMOUSEEVENT) == Wide(24, 16) && offsetof(TRACKMOUSEEVENT, hwndTrack) == 8);
+static_assert(sizeof(MOUSEINPUT) == Wide(32, 24) && sizeof(KEYBDINPUT) == Wide(24, 16) && sizeof(INPUT) == Wide(40, 28) &&
+              offsetof(INPUT, mi) == Wide(8, 4));
+static_assert(sizeof(NONCLIENTMETRICSW) == 504 && offsetof(NONCLIENTMETRICSW, lfMessageFont) == 408);
+static_assert(sizeof(HELPINFO) == Wide(40, 28));
+static_assert(sizeof(MSGBOXPARAMSW) == Wide(80, 40) && offsetof(MSGBOXPARAMSW, lpszIcon) == Wide(48, 24) &&
+              offsetof(MSGBOXPARAMSW, dwLanguageId) == Wide(72, 36));
