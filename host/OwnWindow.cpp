@@ -44,6 +44,9 @@ LRESULT CALLBACK OwnWindow::Procedure(HWND window, UINT message, WPARAM wParam, 
     if (message == WM_NCCREATE) {
         auto* const creator = static_cast<OwnWindow*>(reinterpret_cast<const CREATESTRUCTW*>(lParam)->lpCreateParams);
         SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(creator));
+        // A window that does not lead to its object would be seen and never heard of.
+        if (GetWindowLongPtrW(window, GWLP_USERDATA) != reinterpret_cast<LONG_PTR>(creator))
+            return FALSE;
         creator->handle_ = window;
     }
     auto* const self = reinterpret_cast<OwnWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));

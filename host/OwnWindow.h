@@ -38,7 +38,11 @@ public:
 protected:
     /// Makes the window; false (and no window) when Windows refuses.
     bool Make(const WindowShape& shape);
-    void Destroy() { window_.Reset(); }
+    void Destroy()
+    {
+        window_.Reset();
+        handle_ = nullptr;
+    }
     /// From WM_NCCREATE until WM_NCDESTROY, NULL before and after.
     [[nodiscard]] HWND Handle() const { return handle_; }
 

@@ -44,11 +44,13 @@ TEST_P(ControlFaults, Creation)
     FaultSweep([this](const auto& arm) {
         host::Form form;
         arm();
-        if (Load(form)) {
-            form.Show();
-            platform::SimPc::Current().Settle();
-        }
+        const bool isLoaded = Load(form);
+        EXPECT_EQ(isLoaded, form.LoadError().empty()) << form.LoadError();
+        EXPECT_EQ(isLoaded, IsWindow(form.hWnd()) != FALSE);
+        form.Show();
+        platform::SimPc::Current().Settle();
         form.Unload();
+        EXPECT_EQ(form.hWnd(), nullptr);
     });
 }
 

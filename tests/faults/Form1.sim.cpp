@@ -41,7 +41,16 @@ TEST(Form1Faults, Ticks)
         ASSERT_TRUE(scene.Open());
         arm();
         scene.pc.Advance(2000);
-        EXPECT_TRUE(scene.IsOpen());
+        ASSERT_TRUE(scene.IsOpen());
+        const auto isTrue = [&] {
+            return scene.Button(TEXT("cmdInstall")).Caption() == TEXT("Uninstall Service") && scene.Enabled(TEXT("cmdInstall")) &&
+                   scene.Enabled(TEXT("cmdStart")) && scene.Enabled(TEXT("CommandStartVelmora")) && !scene.Enabled(TEXT("ComboStartup")) &&
+                   !scene.Enabled(TEXT("CommandCloseVelmora"));
+        };
+        // One call fails, so of two looks at the machine one shows what is there.
+        if (!isTrue())
+            scene.pc.Advance(2000);
+        EXPECT_TRUE(isTrue());
         scene.Close();
         ExpectWholeSettings(scene);
     });
