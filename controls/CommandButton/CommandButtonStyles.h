@@ -10,7 +10,7 @@
 namespace controls {
 
 /// Draws a face. It may ask the system for its colours, and for nothing else.
-using ButtonPainter = void (*)(Canvas&, const ButtonLook&);
+using ButtonPainter = void(Canvas&, const ButtonLook&);
 
 /// When a style cuts the window while it draws, even as the style that stands in for the themed one.
 enum class Recut : std::uint8_t { Never, WhenDrawn, WithContour };
@@ -24,7 +24,7 @@ enum Trait : std::uint8_t {
 struct ButtonStyle {
     std::int32_t number;
     const char* name;
-    ButtonPainter painter;
+    ButtonPainter& painter;  // a row without one does not compile
     std::int8_t margin;      // pixels kept free between border and content
     std::int8_t focusInset;  // of the focus rectangle; negative for none
     ButtonShape shape;
