@@ -11,15 +11,32 @@ bool struck = false;
 
 }  // namespace
 
-void* operator new(std::size_t size)
+// Every form of the two is replaced, so that what one gives another can take, also under the sanitizers, which bring their own.
+
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
     if (left > 0 && --left == 0) {
         struck = true;
-        throw std::bad_alloc();
+        return nullptr;
     }
-    if (void* const memory = std::malloc(size != 0 ? size : 1))
+    return std::malloc(size != 0 ? size : 1);
+}
+
+void* operator new(std::size_t size)
+{
+    if (void* const memory = operator new(size, std::nothrow))
         return memory;
     throw std::bad_alloc();
+}
+
+void* operator new[](std::size_t size)
+{
+    return operator new(size);
+}
+
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
+{
+    return operator new(size, std::nothrow);
 }
 
 void operator delete(void* memory) noexcept
@@ -28,6 +45,21 @@ void operator delete(void* memory) noexcept
 }
 
 void operator delete(void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void* memory, const std::nothrow_t&) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete[](void* memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete[](void* memory, std::size_t) noexcept
 {
     std::free(memory);
 }
