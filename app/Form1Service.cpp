@@ -149,10 +149,8 @@ void Form1::chkSystem_Click()
         txtPassword->Text(String());
 }
 
-/// The button is off while it works and would lose the focus to "Start Velmora", where the next press of Space starts the agent.
 void Form1::cmdInstall_Click()
 {
-    const bool hadFocus = ActiveControl() == cmdInstall;
     RefreshServicePanel();
     if (cmdInstall->Enabled()) {
         cmdInstall->Enabled(false);
@@ -168,8 +166,6 @@ void Form1::cmdInstall_Click()
     // The layout for a missing service was shown before, so the refresh leaves the button as it is.
     if (!ServiceInstalled)
         SetEnabled(*cmdInstall, true);
-    if (hadFocus)
-        cmdInstall->SetFocus();
 }
 
 void Form1::cmdStart_Click()

@@ -46,6 +46,8 @@ void HostedControl::Enabled(bool enabled)
     if (!enabled)
         ParentForm().PassFocusOn(*this);
     EnableWindow(hosted_.Window(), enabled);
+    if (enabled)
+        ParentForm().GiveFocusBack(*this);
     PropertyChanged(TEXT("Enabled"));
 }
 

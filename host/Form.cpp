@@ -103,6 +103,7 @@ void Form::Unload()
 void Form::TearDown()
 {
     active_ = nullptr;
+    passedOnFrom_ = nullptr;
     for (auto control = controls_.rbegin(); control != controls_.rend(); ++control)
         (*control)->Unload();
     Destroy();

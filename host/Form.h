@@ -100,8 +100,12 @@ public:
 
     /// Changes the active control: the former one gets LostFocus and ExitFocus, this one EnterFocus. Null leaves none.
     void Activate(Control* control);
-    /// The active control can't keep the focus (it was hidden or disabled): the next in tab order gets it.
+    /// The active control can't keep the focus (it was hidden or disabled): the next in tab order gets it, as a guest.
     void PassFocusOn(Control& from);
+    /// A control is enabled again: it gets back the focus that was passed on from it, if nobody has moved it since.
+    void GiveFocusBack(Control& to);
+    /// The user has pressed a key or a mouse button: whoever has the focus keeps it.
+    void SettleFocus() { passedOnFrom_ = nullptr; }
     /// A window that is no one's to type in got the keyboard focus: the active control gets it, or the first that can take it.
     void RestoreFocus();
     void OnPropertyChanged(Control& control, base::StringView name);
@@ -134,6 +138,7 @@ private:
     Control* Site(base::StringView kind, base::StringView name, Container& container, const ControlFactory& factory);
     void ReadProperties(const PropertyBag& bag);
     void TearDown();
+    void MoveFocusTo(Control* control);
     void Ambient(base::StringView name);
     FormNode Describe(Control& control) const;
     void Fill(HDC target) const;
@@ -156,6 +161,7 @@ private:
     OleColor foreColor_ = SystemColor(COLOR_BTNTEXT);
     std::vector<std::unique_ptr<Control>> controls_;
     Control* active_ = nullptr;
+    const Control* passedOnFrom_ = nullptr;
     std::map<base::String, Routine, std::less<>> routines_;
     std::map<UINT_PTR, std::function<void()>> timers_;
     UINT_PTR nextTimer_ = 1;

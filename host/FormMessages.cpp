@@ -78,6 +78,7 @@ void Form::Activate(Control* control)
 {
     if (active_ == control || !IsLoaded())
         return;
+    passedOnFrom_ = nullptr;
     Control* const former = std::exchange(active_, control);
     if (former != nullptr) {
         former->LostFocus();
@@ -99,15 +100,28 @@ void Form::RestoreFocus()
         control->SetFocus();
 }
 
+/// Another window of the program, or another program, keeps the focus; the form's next activation then gives it to this control.
+void Form::MoveFocusTo(Control* control)
+{
+    if (control != nullptr && GetActiveWindow() == hWnd())
+        control->SetFocus();
+    else
+        Activate(control);
+}
+
 void Form::PassFocusOn(Control& from)
 {
     if (active_ != &from || !IsLoaded())
         return;
-    Control* const next = NextInTabOrder(*this, from.GetExtender().TabIndex(), false, &from);
-    if (next != nullptr && GetActiveWindow() == hWnd())
-        next->SetFocus();
-    else
-        Activate(next);
+    const Control* const first = passedOnFrom_ != nullptr ? passedOnFrom_ : &from;
+    MoveFocusTo(NextInTabOrder(*this, from.GetExtender().TabIndex(), false, &from));
+    passedOnFrom_ = first;
+}
+
+void Form::GiveFocusBack(Control& to)
+{
+    if (passedOnFrom_ == &to && IsLoaded() && CanGetFocusNow(to))
+        MoveFocusTo(&to);
 }
 
 bool Form::HandleKey(UINT message, WPARAM& wParam)

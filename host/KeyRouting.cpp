@@ -142,12 +142,15 @@ bool RouteMessage(MSG& message)
     switch (message.message) {
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
+            form->SettleFocus();
             LeaveActiveControl(*form, message.hwnd);
             return false;
         case WM_SYSCHAR:
             return PressAccessKey(*form, static_cast<WCHAR>(message.wParam));
         case WM_KEYDOWN:
         case WM_SYSKEYDOWN:
+            form->SettleFocus();
+            return RouteKey(*form, message);
         case WM_KEYUP:
         case WM_SYSKEYUP:
         case WM_CHAR:

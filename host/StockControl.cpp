@@ -130,6 +130,8 @@ LRESULT StockControl::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM
         case WM_ENABLE:
             if (wParam == FALSE)
                 ParentForm().PassFocusOn(*this);
+            else
+                ParentForm().GiveFocusBack(*this);
             break;
         default:
             break;

@@ -58,6 +58,8 @@ LRESULT UserControl::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
         case WM_ENABLE:
             if (wParam == FALSE)
                 ParentForm().PassFocusOn(*this);
+            else
+                ParentForm().GiveFocusBack(*this);
             break;
         case WM_COMMAND:
             if (Control* const control = ParentForm().ControlOf(reinterpret_cast<HWND>(lParam)); control != nullptr && control != this)

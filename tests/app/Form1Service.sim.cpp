@@ -208,7 +208,9 @@ TEST_F(Form1Service, StartAndStop_SaveThePasswordAndShowThePendingState)
     WriteSettings("[Settings]\r\nPwd=broken\r\n");
     Installed();
     ASSERT_TRUE(Open());
+    Button(TEXT("cmdStart")).SetFocus();
     const auto press = [this](const WCHAR* caption, DWORD state) {
+        EXPECT_EQ(Form().ActiveControl(), &Button(TEXT("cmdStart"))) << "once it is enabled again";
         Button(TEXT("cmdStart")).Click.Raise();
         EXPECT_EQ(The<Services>().Find(name)->state, state);
         ExpectInstalled(false, false, caption);

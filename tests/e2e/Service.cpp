@@ -104,6 +104,7 @@ TEST_F(EndToEnd, Service_StartedAndStoppedByItsButton)
     EXPECT_EQ(tests::BytesOf(settings_), "[Settings]\r\nPwd=AYWJj\r\n");
     EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "running"; }, SERVICE_TICK));
     EXPECT_EQ(tests::BytesOf(log_), "service running\r\n");
+    EXPECT_TRUE(Eventually([&] { return utility.HasFocus("cmdStart"); })) << utility.Situation();
 
     utility.Click("cmdStart");
     ASSERT_TRUE(Eventually([&] { return ServiceState() == SERVICE_STOPPED; })) << utility.Situation();

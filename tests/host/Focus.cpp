@@ -65,6 +65,32 @@ TEST_F(Focus, DisabledOrHiddenControl_PassesItOn)
     EXPECT_EQ(ActiveName(), "none");
 }
 
+TEST_F(Focus, ControlThatIsEnabledAgain_GetsItBackUnlessTheUserHasMovedIt)
+{
+    const std::pair<std::function<void()>, const char*> meanwhile[] = {{[] {}, "First"},
+                                                                       {[&] { ProbeNamed(TEXT("Second")).Enabled(false); }, "First"},
+                                                                       {[&] { SetFocus(nullptr); }, "First"},
+                                                                       {[&] { ProbeNamed(TEXT("Skipped")).SetFocus(); }, "Skipped"},
+                                                                       {[&] {
+                                                                            PostMessageW(WindowOf(TEXT("Second")), WM_LBUTTONDOWN,
+                                                                                         MK_LBUTTON, 0);
+                                                                            host::MessageLoop::RunPending();
+                                                                        },
+                                                                        "Second"},
+                                                                       {[&] { Press(VK_SPACE); }, "Second"}};
+    Open(four);
+    for (const auto& [act, holder] : meanwhile) {
+        ProbeNamed(TEXT("Second")).Enabled(true);
+        ProbeNamed(TEXT("First")).SetFocus();
+        ProbeNamed(TEXT("First")).Enabled(false);
+        ASSERT_EQ(ActiveName(), "Second");
+        act();
+        ProbeNamed(TEXT("First")).Enabled(true);
+        EXPECT_EQ(ActiveName(), holder);
+        EXPECT_EQ(GetFocus(), WindowOf(form->ActiveControl()->GetExtender().Name()));
+    }
+}
+
 TEST_F(Focus, SetFocus_InAnEventOfTheMove_Wins)
 {
     Open(four);
