@@ -14,6 +14,9 @@ namespace {
 
 constexpr const char16_t* runKey = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
 
+const std::u16string servicePanel =
+    u"FrameService cmdInstall cmdStart lblAccount txtAccount lblPassword txtPassword chkSystem lblStartup ComboStartup tmrCheck";
+
 class Form1Settings : public testing::Test, protected tests::UtilityScene {
 protected:
     void ExpectAutoStart(int autoStart, int hide, int sound)
@@ -151,9 +154,7 @@ TEST_F(Form1Settings, ConfiguredAutoStart_LocksTheServicePanel)
     The<Services>().Install(u"Velmora", u"C:\\Tools\\Velmora.exe");
     ASSERT_TRUE(Open());
     pc.Advance(3000);
-    EXPECT_EQ(Disabled(),
-              u"FrameService cmdInstall cmdStart lblAccount txtAccount lblPassword txtPassword chkSystem lblStartup ComboStartup tmrCheck"
-              u" CommandCloseVelmora");
+    EXPECT_EQ(Disabled(), servicePanel + u" CommandCloseVelmora");
     EXPECT_EQ(Button(TEXT("cmdInstall")).Caption(), TEXT("Install Service"));
     ExpectAutoStart(1, 0, 0);
 }
@@ -165,11 +166,13 @@ TEST_F(Form1Settings, Ok_WritesTheChosenSwitchesAndRemovesTheValueThatIsUnticked
         Check(name).Value(1);
     Click(TEXT("CommandOk"));
     EXPECT_EQ(AutoStart(), u"\"C:\\Tools\\Velmora.exe\" /Hidden /SoundStart");
+    EXPECT_EQ(Disabled(), servicePanel + u" CommandCloseVelmora");
     ASSERT_TRUE(Open());
     Check(TEXT("CheckAutoStart")).Value(0);
     ExpectAutoStart(0, 1, 1);
     Click(TEXT("CommandOk"));
     EXPECT_EQ(AutoStart(), std::nullopt);
+    EXPECT_EQ(Disabled(), u"CheckHideTrayIcon CheckSoundStart CommandCloseVelmora");
     ASSERT_TRUE(Open());
     Click(TEXT("CommandOk"));
     EXPECT_FALSE(IsOpen()) << "there is nothing to remove";

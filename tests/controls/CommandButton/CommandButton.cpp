@@ -277,15 +277,23 @@ TEST_F(CommandButton, ZedOrder_GoesToTheTopToTheBottomOrBehindAWindow)
 
 TEST_F(CommandButton, Refresh_BringsTheWindowToItsPlace)
 {
-    // Somebody moved the window behind the container's back; the first refresh takes the container's place, later ones only what changes.
-    SetWindowPos(Button().hWnd(), nullptr, 77, 55, 40, 20, SWP_NOZORDER | SWP_NOACTIVATE);
-    Button().GetExtender().Left(300);
-    Button().Refresh();
-    RECT place{};
-    GetWindowRect(Button().hWnd(), &place);
-    MapWindowPoints(nullptr, form->hWnd(), reinterpret_cast<POINT*>(&place), 2);
-    EXPECT_EQ(place.left, 20);
-    EXPECT_EQ(Button().GetSurface().ScaleWidth(), place.right - place.left);
+    host::Extender& extender = Button().GetExtender();
+    extender.Width(900);
+    const std::tuple<std::function<void()>, RECT, const char*> cases[] = {
+        {[&] { extender.Left(300); }, {20, 0, 80, 30}, "only the left edge has changed"},
+        {[&] { extender.Top(150); }, {20, 10, 80, 40}, "only the top edge has changed"},
+        {[&] { extender.Height(300); }, {77, 55, 117, 75}, "neither has"}};
+    for (const auto& [change, expected, what] : cases) {
+        change();
+        // Somebody moves the window behind the container's back.
+        SetWindowPos(Button().hWnd(), nullptr, 77, 55, 40, 20, SWP_NOZORDER | SWP_NOACTIVATE);
+        Button().Refresh();
+        RECT place{};
+        GetWindowRect(Button().hWnd(), &place);
+        MapWindowPoints(nullptr, form->hWnd(), reinterpret_cast<POINT*>(&place), 2);
+        EXPECT_TRUE(EqualRect(&place, &expected)) << what << ": " << place.left << " " << place.top << " " << place.right;
+        EXPECT_EQ(Button().GetSurface().ScaleWidth(), place.right - place.left);
+    }
 }
 
 TEST_F(CommandButton, RoundedValue_TellsBeforeItChanges)

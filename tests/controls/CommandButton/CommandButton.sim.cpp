@@ -93,6 +93,9 @@ TEST_F(CommandButtonCalls, Window_IsCutOnlyWhenItsShapeChanges)
     EXPECT_EQ(cuts([&] { Button().RoundedValue(13); }), 1U);
     EXPECT_EQ(cuts([&] { Button().ContourStyle(controls::ContourNone); }), 1U);
     EXPECT_EQ(cuts([&] { Button().Style(17); }), 1U);
+    Button().GetExtender().Visible(false);
+    EXPECT_EQ(cuts([&] { Button().GetExtender().Width(1500); }), 1U) << "nothing is drawn, and the shape is right when it is shown";
+    Button().GetExtender().Visible(true);
     EXPECT_EQ(cuts([&] { Button().UseClassicTheme(true); }), 1U);
     EXPECT_EQ(cuts([&] { Button().NonThemeStyle(10); }), 0U);
     EXPECT_EQ(cuts([&] { Button().Style(7); }), 1U) << "the theme's own";
