@@ -10,7 +10,9 @@
 
 #include <algorithm>
 #include <charconv>
+#include <fstream>
 #include <functional>
+#include <iterator>
 #include <map>
 
 namespace gallery {
@@ -54,14 +56,37 @@ const std::map<std::string, std::function<void(Face&, std::int64_t)>, std::less<
         {"gradientdirection", to([](Face & face) -> auto& { return face.look.gradientDirection; })},
         {"roundedvalue", to([](Face & face) -> auto& { return face.look.roundedValue; })},
         {"captionalign", to([](Face & face) -> auto& { return face.captionAlign; })},
+        {"righttoleft", to([](Face& face) -> bool& { return face.rightToLeft; })},
         {"captionfx", to([](Face & face) -> auto& { return face.captionFx; })},
         {"fontcolor", to([](Face & face) -> auto& { return face.fontColor; })},
         {"fonthighlightcolor", to([](Face & face) -> auto& { return face.fontHighlightColor; })},
+        {"picturealign", to([](Face & face) -> auto& { return face.pictureAlign; })},
+        {"picturedisabledstyle", to([](Face & face) -> auto& { return face.pictureDisabledStyle; })},
+        {"maskcolorenabled", to([](Face& face) -> bool& { return face.maskColorEnabled; })},
+        {"maskcolor", to([](Face & face) -> auto& { return face.maskColor; })},
         {"nonthemestyle", to([](Face & face) -> auto& { return face.nonThemeStyle; })},
         {"theme", to([](Face& face) -> bool& { return face.themed; })},
         {"cut", [](Face& face, std::int64_t color) { face.backdrop = static_cast<COLORREF>(color); }},
     };
     return setters;
+}
+
+/// The picture in a .bmp or an .ico file; null when the file holds neither.
+std::shared_ptr<host::Picture> ReadPicture(const std::string& file)
+{
+    std::ifstream stream(file, std::ios::binary);
+    host::PictureDescription description{host::PictureType::Bitmap, {std::istreambuf_iterator<char>(stream), {}}};
+    if (!description.bytes.empty() && description.bytes[0] == 0)
+        description.type = host::PictureType::Icon;
+    return host::Picture::Of(description);
+}
+
+/// The picture of this name; null for what is a number.
+std::shared_ptr<host::Picture>* PictureNamed(Face& face, std::string_view name)
+{
+    constexpr std::string_view names[] = {"picture", "pictureover", "picturedown", "picturedisabled"};
+    const auto* const found = std::ranges::find(names, name);
+    return found == std::end(names) ? nullptr : &face.pictures[static_cast<std::size_t>(found - names)];
 }
 
 bool Set(Face& face, std::string_view word)
@@ -76,6 +101,10 @@ bool Set(Face& face, std::string_view word)
     if (name == "caption") {
         face.caption.assign(value.begin(), value.end());
         return true;
+    }
+    if (std::shared_ptr<host::Picture>* const picture = PictureNamed(face, name)) {
+        *picture = ReadPicture(std::string(value));
+        return *picture != nullptr;
     }
     const auto setter = Setters().find(name);
     const auto number = Number(value);
@@ -97,10 +126,12 @@ void PaintCaption(controls::Canvas& canvas, const controls::ButtonStyle& style, 
 {
     const int width = canvas.Width(), height = canvas.Height();
     RECT block = controls::CaptionStart(width, height);
-    DrawTextW(canvas.Dc(), face.caption.c_str(), static_cast<int>(face.caption.size()), &block, DT_CALCRECT | DT_WORDBREAK);
-    controls::PaintButtonCaption(canvas, look,
-                                 {face.caption, controls::PlaceCaption(width, height, block, face.captionAlign, style.margin, false),
-                                  face.captionFx, host::ToRgb(face.fontColor), host::ToRgb(face.fontHighlightColor)});
+    DrawTextW(canvas.Dc(), face.caption.c_str(), static_cast<int>(face.caption.size()), &block,
+              DT_CALCRECT | DT_WORDBREAK | (face.rightToLeft ? DT_RTLREADING : 0));
+    controls::PaintButtonCaption(
+        canvas, look,
+        {face.caption, controls::PlaceCaption(width, height, block, face.captionAlign, style.margin, face.rightToLeft), face.captionFx,
+         host::ToRgb(face.fontColor), host::ToRgb(face.fontHighlightColor)});
 }
 
 /// Everything outside the shape of the window gets the backdrop's colour.
@@ -170,6 +201,8 @@ std::optional<platform::Image> DrawFace(const Face& face)
     PaintStyle(canvas, drawn, face, look);
     if (look.hasFocus)
         controls::PaintButtonFocus(canvas, *drawn, look);
+    controls::PaintButtonPicture(canvas, *drawn, look,
+                                 {face.pictures, face.pictureAlign, face.pictureDisabledStyle, face.maskColorEnabled, face.maskColor});
     if (!face.caption.empty())
         PaintCaption(canvas, *drawn, face, look);
 

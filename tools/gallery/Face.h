@@ -3,6 +3,7 @@
 
 #include "base/String.h"
 #include "controls/CommandButton/CommandButtonLook.h"
+#include "controls/CommandButton/CommandButtonPicture.h"
 #include "platform/sim/Image.h"
 
 #include <optional>
@@ -19,9 +20,15 @@ struct Face {
     controls::ButtonColors colors;
     base::String caption;
     std::int32_t captionAlign = controls::AlignCentre;
+    bool rightToLeft = false;
     std::int32_t captionFx = controls::CaptionFxNone;
     host::OleColor fontColor = host::SystemColor(COLOR_BTNTEXT);
     host::OleColor fontHighlightColor = host::SystemColor(COLOR_BTNTEXT);
+    controls::ButtonPictures pictures;
+    std::int32_t pictureAlign = controls::AlignCentre;
+    std::int32_t pictureDisabledStyle = controls::DisabledPictureUnchanged;
+    bool maskColorEnabled = false;
+    COLORREF maskColor = 0;
     std::int32_t nonThemeStyle = controls::ClassicStyle;
     bool themed = true;
     /// What shows beside the window's shape. Without it the corners are shown as they are drawn, uncut.

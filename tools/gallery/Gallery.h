@@ -1,7 +1,8 @@
 // Gallery: its verbs.
 //
 //     gallery --draw STYLE STATE WIDTHxHEIGHT [name=value ...] FILE.png
-//                         one face of a button; names are those of the properties, and toggled, default, focus, own, theme, caption
+//                         one face of a button; names are those of the properties (a picture's value is a .bmp or .ico file), and
+//                         toggled, default, focus, own, theme, cut, caption
 //     gallery --sheet FIRST LAST WIDTHxHEIGHT [name=value ...] FILE.png
 //                         a row a style, a column a state
 #pragma once

@@ -37,7 +37,7 @@ std::string FormText(const std::string& name, const std::string& caption, SIZE s
 }
 
 /// Three buttons a style, to play with, switched on and disabled, and three in colours of their own.
-std::string FacesText()
+std::string ButtonsText()
 {
     std::string contents;
     int tabIndex = 0;
@@ -60,16 +60,57 @@ std::string FacesText()
             }
         }
     }
+    return contents;
+}
+
+/// A row of frames, one of check boxes and one of text boxes.
+std::string OthersText(LONG top)
+{
+    struct Kind {
+        const char* name;
+        SIZE size;
+        LONG pace;
+        std::vector<const char*> each;
+    };
+    const Kind kinds[] = {
+        {"Frame",
+         {108, 46},
+         54,
+         {"Caption = \"A &frame\"", "Caption = \"Disabled\" Enabled = 0", "Caption = \"Classic\" UseClassicTheme = 1",
+          "Caption = \"Round\" UseClassicTheme = 1 BorderRound = 12", "Caption = \"Own\" UseClassicTheme = 1 BorderColorDark = 0x00804000",
+          "Caption = \"No border\" BorderStyle = 0"}},
+        {"CheckBox",
+         {108, 20},
+         24,
+         {"Caption = \"&Clear\"", "Caption = \"&Ticked\" Value = 1", "Caption = \"&Grey\" Value = 2",
+          "Caption = \"Disabled\" Value = 1 Enabled = 0", "Caption = \"Classic\" UseClassicTheme = 1 Value = 1",
+          "Caption = \"Right\" Alignment = 1"}},
+        {"TextBox",
+         {108, 36},
+         40,
+         {"Text = \"text\"", "Text = \"text\" Enabled = 0", "Text = \"secret\" UseSystemPasswordChar = 1",
+          "Text = \"classic\" UseClassicTheme = 1", "Text = \"several lines of text\" MultiLine = 1",
+          "Text = \"12\" AllowOnlyNumbers = 1"}},
+    };
+    std::string contents;
+    int tabIndex = 200;
+    for (const Kind& kind : kinds) {
+        LONG left = 8;
+        for (const char* const properties : kind.each) {
+            const std::string index = std::to_string(++tabIndex);
+            contents +=
+                Place(kind.name, "Other" + index, {left, top, kind.size.cx, kind.size.cy}, "TabIndex = " + index + " " + properties);
+            left += kind.size.cx + 8;
+        }
+        top += kind.pace;
+    }
+    return contents;
+}
+
+std::string FacesText()
+{
     const LONG top = 8 + 19 * 32;
-    contents += Place("Frame", "Etched", {8, top, 130, 60}, "Caption = \"A &frame\"");
-    contents += Place("Frame", "Round", {146, top, 130, 60},
-                      "Caption = \"Round\" UseClassicTheme = 1 BorderRound = 12 BorderColorDark = 0x00804000");
-    contents += Place("CheckBox", "Check", {320, top + 4, 130, 20}, "Caption = \"A &check box\" Value = 1 TabIndex = 90");
-    contents +=
-        Place("CheckBox", "Classic", {320, top + 30, 130, 20}, "Caption = \"&Classic\" UseClassicTheme = 1 Value = 2 TabIndex = 91");
-    contents += Place("TextBox", "Text", {500, top + 4, 130, 22}, "Text = \"text\" TabIndex = 92");
-    contents += Place("TextBox", "Password", {500, top + 32, 130, 22}, "Text = \"secret\" UseSystemPasswordChar = 1 TabIndex = 93");
-    return FormText("Faces", "The controls", {702, top + 70}, contents);
+    return FormText("Faces", "The controls", {704, top + 54 + 24 + 40}, ButtonsText() + OthersText(top));
 }
 
 std::shared_ptr<host::Picture> SamplePicture(int which)
@@ -127,6 +168,8 @@ const Choice choices[] = {
     {"Picture place", {"Centre", "Left", "Right", "Top", "Bottom"}, 1, [](CommandButton& b, int n) { b.PictureAlign(n); }},
     {"Disabled picture", {"Unchanged", "Faded", "Grey"}, 0, [](CommandButton& b, int n) { b.PictureDisabledStyle(n); }},
     {"Focus", {"Hidden", "Shown"}, 0, [](CommandButton& b, int n) { b.ShowFocus(n == 1); }},
+    {"Reading order", {"Left to right", "Right to left"}, 0, [](CommandButton& b, int n) { b.RightToLeft(n == 1); }},
+    {"Themed corners", {"Cut away", "Kept"}, 0, [](CommandButton& b, int n) { b.RoundedBordersByTheme(n == 0); }},
 };
 constexpr int choiceCount = static_cast<int>(std::size(choices));
 
@@ -172,18 +215,17 @@ public:
             Connect("C" + std::to_string(index), choices[index].first, [this, index](int) { Apply(index); });
         Connect("Themes", 1, [this](int on) {
             controls::ThemeState::OfProcess().AskVersionWith([on] { return static_cast<DWORD>(on == 1 ? 6 : 5); });
-            faces_->Each([](CommandButton& button) { button.DrawControl(); });
+            // What Windows sends to every window.
+            EnumChildWindows(
+                faces_->hWnd(), [](HWND window, LPARAM) { return SendMessageW(window, WM_THEMECHANGED, 0, 0), TRUE; }, 0);
         });
         Connect("Mode", 0, [this](int mode) { ShowFaces(mode == 0); });
         ShowFaces(true);
         Show();
-        const auto move = [](const Form& form, LONG left) {
-            SetWindowPos(form.hWnd(), nullptr, left, 4, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-        };
-        move(*this, 4);
+        Move(*this, {4, 4});
         RECT place{};
         GetWindowRect(hWnd(), &place);
-        move(*faces_, place.right + 8);
+        Move(*faces_, {place.right + 8, 4});
         return true;
     }
 
@@ -199,10 +241,17 @@ private:
     {
         faces_->Each([&](CommandButton& button) { choices[index].apply(button, boxes_[static_cast<std::size_t>(index)]->ListIndex()); });
     }
+    static void Move(const Form& form, POINT corner)
+    {
+        SetWindowPos(form.hWnd(), nullptr, corner.x, corner.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
     void ShowFaces(bool userMode)
     {
-        if (faces_)
+        RECT place{};
+        if (faces_) {
+            GetWindowRect(faces_->hWnd(), &place);
             faces_->Unload();
+        }
         auto faces = std::make_unique<Faces>();
         faces->UserMode(userMode);
         if (!faces->Load(FacesText(), factory_))
@@ -211,6 +260,7 @@ private:
         for (int index = 0; index < choiceCount; ++index)
             Apply(index);
         faces_->Show();
+        Move(*faces_, {place.left, place.top});
     }
     void Form_Unload() override
     {

@@ -264,6 +264,9 @@ TEST_F(Frame, DragDropEnabled_AcceptsFiles)
     EXPECT_TRUE(accepts());
     Box().DragDropEnabled(false);
     EXPECT_FALSE(accepts());
+    form = std::make_unique<KeyForm>();
+    Open(R"(Frame Box { Width = 4500 Height = 3000 DragDropEnabled = 1 })");
+    EXPECT_TRUE(accepts());
 }
 
 TEST_F(Frame, MouseAndContextMenu_RaiseEvents)
