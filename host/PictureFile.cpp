@@ -61,7 +61,7 @@ bool IsKnown(const BITMAPINFOHEADER& header)
 {
     const WORD bits = header.biBitCount;
     const bool hasKnownBits = bits == 1 || bits == 4 || bits == 8 || bits == 24 || bits == 32;
-    return header.biSize >= sizeof header && header.biCompression == BI_RGB && hasKnownBits && header.biWidth > 0 &&
+    return header.biSize >= sizeof header && header.biPlanes == 1 && header.biCompression == BI_RGB && hasKnownBits && header.biWidth > 0 &&
            header.biWidth <= greatestSide && header.biHeight != 0 && header.biHeight >= -greatestSide && header.biHeight <= greatestSide;
 }
 

@@ -124,6 +124,18 @@ TEST_F(ToolTip, TextOfTheContainer_IsTakenOver)
     EXPECT_EQ(Button().GetExtender().ToolTipText(), TEXT(""));
 }
 
+TEST_F(ToolTip, TextOfTheContainer_IsTakenOverByWhatIsShownExceptInADesigner)
+{
+    for (const char* const kind : {"Frame", "CommandButton", "CheckBox", "TextBox"})
+        for (const bool userMode : {true, false}) {
+            form = std::make_unique<KeyForm>();
+            Open(std::string(kind) + " C { Width = 1500 Height = 450 ToolTipText = \"plain\" }", userMode);
+            const base::StringView own = dynamic_cast<const controls::ToolTip&>(Any("C")).ToolTipTextW();
+            EXPECT_EQ(own, userMode ? TEXT("plain") : TEXT("")) << kind;
+            EXPECT_EQ(Any("C").GetExtender().ToolTipText(), userMode ? TEXT("") : TEXT("plain")) << kind;
+        }
+}
+
 TEST_F(ToolTip, Changes_AreToldByTheNamesThatTheButtonUses)
 {
     form->PropertyChanged.Connect([&](host::Control&, base::StringView name) { Note(Narrow(name)); });

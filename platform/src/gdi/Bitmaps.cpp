@@ -41,7 +41,7 @@ HBITMAP WINAPI CreateDIBSection(HDC dc, const BITMAPINFO* info, UINT usage, VOID
     const BITMAPINFOHEADER& header = info->bmiHeader;
     if (header.biWidth <= 0 || header.biHeight == 0)
         return pc.Fail(ERROR_INVALID_PARAMETER, HBITMAP{});
-    if (header.biBitCount != 32 || header.biCompression != BI_RGB || section) {
+    if (header.biPlanes != 1 || header.biBitCount != 32 || header.biCompression != BI_RGB || section) {
         pc.Unsupported("CreateDIBSection: bits per pixel " + std::to_string(header.biBitCount));
         return nullptr;
     }
@@ -101,7 +101,7 @@ int WINAPI GetDIBits(HDC dc, HBITMAP bitmap, UINT firstRow, UINT rowCount, LPVOI
     const Image& image = *found->image;
     const bool isWhole = firstRow == 0 && header.biWidth == image.width && static_cast<int>(rowCount) == image.height &&
                          std::abs(header.biHeight) == image.height;
-    if (header.biBitCount != 32 || header.biCompression != BI_RGB || !bits || !isWhole) {
+    if (header.biPlanes != 1 || header.biBitCount != 32 || header.biCompression != BI_RGB || !bits || !isWhole) {
         pc.Unsupported("GetDIBits: a part of a bitmap, or bits per pixel " + std::to_string(header.biBitCount));
         return 0;
     }

@@ -39,7 +39,8 @@ std::optional<Image> DecodeDib(const BITMAPINFO& info, const void* bits)
 {
     const BITMAPINFOHEADER& header = info.bmiHeader;
     const int bitCount = header.biBitCount;
-    if (header.biCompression != BI_RGB || (bitCount != 1 && bitCount != 4 && bitCount != 8 && bitCount != 24 && bitCount != 32))
+    if (header.biPlanes != 1 || header.biCompression != BI_RGB ||
+        (bitCount != 1 && bitCount != 4 && bitCount != 8 && bitCount != 24 && bitCount != 32))
         return std::nullopt;
     Image image(header.biWidth, std::abs(header.biHeight));
     const auto* const bytes = static_cast<const BYTE*>(bits);

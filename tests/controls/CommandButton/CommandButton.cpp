@@ -124,9 +124,14 @@ TEST_F(CommandButton, StyleAndClassicTheme_KeepEachOtherInLine)
 
 TEST_F(CommandButton, UnicodeCodes_BecomeTheCaption)
 {
-    const std::pair<const WCHAR*, base::String> cases[] = {
-        {TEXT("41,E8,20AC"), TEXT("A\u00E8\u20AC")}, {TEXT("48 49,,4A"), TEXT("HIJ")}, {TEXT("48,0,49"), TEXT("H")}, {TEXT(""), TEXT("")},
-        {TEXT("48;49:zz 4A"), TEXT("HI")},           {TEXT("41,12345,42"), TEXT("A")}};
+    const std::pair<const WCHAR*, base::String> cases[] = {{TEXT("41,E8,20AC"), TEXT("A\u00E8\u20AC")},
+                                                           {TEXT("48 49,,4A"), TEXT("HIJ")},
+                                                           {TEXT("48,0,49"), TEXT("H")},
+                                                           {TEXT(""), TEXT("")},
+                                                           {TEXT("48;49:zz 4A"), TEXT("HI")},
+                                                           {TEXT("41,12345,42"), TEXT("A")},
+                                                           {TEXT("41G1,42"), TEXT("AB")},
+                                                           {TEXT("41,100000042,43"), TEXT("A")}};
     for (const auto& [codes, caption] : cases) {
         Button().CaptionUniChars(codes);
         EXPECT_EQ(Button().Caption(), caption);
@@ -293,6 +298,20 @@ TEST_F(CommandButton, Refresh_BringsTheWindowToItsPlace)
         MapWindowPoints(nullptr, form->hWnd(), reinterpret_cast<POINT*>(&place), 2);
         EXPECT_TRUE(EqualRect(&place, &expected)) << what << ": " << place.left << " " << place.top << " " << place.right;
         EXPECT_EQ(Button().GetSurface().ScaleWidth(), place.right - place.left);
+    }
+}
+
+TEST_F(CommandButton, DefaultMark_ShowsAtOnceInADesignerAndWithTheNextDrawingElsewhere)
+{
+    for (const bool userMode : {true, false}) {
+        form = std::make_unique<KeyForm>();
+        Open("CommandButton B { Width = 1500 Height = 450 Style = 0 ContourStyle = 0 }", userMode);
+        const COLORREF before = GetPixel(Button().GetSurface().Dc(), 0, 0);
+        EXPECT_NE(before, 0U);
+        Button().GetExtender().Default(true);
+        EXPECT_EQ(GetPixel(Button().GetSurface().Dc(), 0, 0), userMode ? before : 0U);
+        Button().DrawControl();
+        EXPECT_EQ(GetPixel(Button().GetSurface().Dc(), 0, 0), 0U);
     }
 }
 

@@ -104,6 +104,30 @@ TEST_F(CommandButtonCalls, Window_IsCutOnlyWhenItsShapeChanges)
     EXPECT_EQ(cuts([&] { Button().DrawControl(); }), 1U) << "themes are gone, and style 10 stands in";
 }
 
+TEST_F(CommandButtonCalls, Theme_DrawsTheStateAndTheFocusAsDefaulted)
+{
+    Show("");
+    controls::ThemeState::OfProcess().AskVersionWith([] { return DWORD{6}; });
+    Button().Style(7);
+    const auto drawn = [&] {
+        auto& trace = Pc().Trace();
+        trace.Start();
+        Button().DrawControl();
+        trace.Stop();
+        const std::string arguments = trace.Of("DrawThemeBackground").front().arguments;
+        return arguments.substr(arguments.find(", 1, ") + 5, 1);
+    };
+    ASSERT_EQ(form->ActiveControl(), &Button());
+    EXPECT_EQ(drawn(), "5");
+    form->Activate(nullptr);
+    EXPECT_EQ(drawn(), "1");
+    Button().SetFocus();
+    SendMessageW(Button().hWnd(), WM_MOUSEMOVE, 0, MAKELPARAM(5, 6));
+    EXPECT_EQ(drawn(), "2");
+    Button().Enabled(false);
+    EXPECT_EQ(drawn(), "4");
+}
+
 TEST_F(CommandButtonCalls, Checkerboard_IsOneLineARow)
 {
     Show("ButtonType = 1 Value = 1 ContourStyle = 0");
