@@ -315,6 +315,16 @@ TEST_F(CommandButton, DefaultMark_ShowsAtOnceInADesignerAndWithTheNextDrawingEls
     }
 }
 
+TEST_F(CommandButton, ToggleThatIsOnAndDisabled_LooksDisabled)
+{
+    form = std::make_unique<KeyForm>();
+    Open(
+        "CommandButton B { Width = 1500 Height = 450 Style = 0 ButtonType = 1 Value = 1 Enabled = 0 BackColor = 0x00123456 "
+        "USeCustomColors = 1 }");
+    for (const int x : {10, 11})
+        EXPECT_EQ(GetPixel(Button().GetSurface().Dc(), x, 10), 0x123456U) << "a toggle button that is on has a checkerboard";
+}
+
 TEST_F(CommandButton, RoundedValue_TellsBeforeItChanges)
 {
     form->PropertyChanged.Connect(

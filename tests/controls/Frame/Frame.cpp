@@ -11,6 +11,8 @@
 #include <uxtheme.h>
 #include <vsstyle.h>
 
+#include <functional>
+
 namespace tests {
 
 class Frame : public FormFixture {
@@ -254,6 +256,23 @@ TEST_F(Frame, TopRow_IsPaintedOverOnceMoreAfterAPaint)
     DispatchMessageW(&message);
     Sleep(30);
     EXPECT_FALSE(PeekMessageW(&message, Box().hWnd(), WM_TIMER, WM_TIMER, PM_REMOVE)) << "once only";
+}
+
+TEST_F(Frame, CaptionAndEnabled_EndWithARepaintOfTheWholeWindow)
+{
+    controls::DSubclass watch;
+    watch.WndProc.Connect([&](HWND, UINT message, WPARAM wParam, LPARAM, LRESULT&, bool&) {
+        if (message == WM_NCPAINT || message == WM_PAINT)
+            Note((message == WM_PAINT ? "paint " : "frame ") + std::to_string(wParam));
+    });
+    watch.Enable(Box().hWnd());
+    for (const std::function<void()>& change :
+         {std::function<void()>([&] { Box().Caption(TEXT("x")); }), {[&] { Box().Enabled(false); }}}) {
+        change();
+        const Lines lines = Take();
+        ASSERT_GE(lines.size(), 2U);
+        EXPECT_EQ(Lines(lines.end() - 2, lines.end()), (Lines{"frame 1", "paint 0"}));
+    }
 }
 
 TEST_F(Frame, DragDropEnabled_AcceptsFiles)
