@@ -65,10 +65,11 @@ TEST(Gradient, Directions_LayTheRampOut)
                                           {5, {std::vector(5, 30), std::vector(5, 60), std::vector(5, 0)}},
                                           {6, diagonal},
                                           {7, diagonal},
-                                          {0, diagonal}};
+                                          {0, diagonal},
+                                          {8, Rows(3, std::vector(5, 60))}};
     for (const auto& [direction, rows] : cases) {
         const ButtonPaper paper(7, 5);
-        controls::DrawGradient(paper.Dc(), 1, 1, 5, 3, RGB(0, 0, 0), RGB(60, 0, 0), direction);
+        controls::DrawGradient(paper.Dc(), 1, 1, 5, 3, direction == 8 ? RGB(60, 0, 0) : 0, RGB(60, 0, 0), direction);
         for (int y = 0; y < 5; ++y)
             for (int x = 0; x < 7; ++x) {
                 const bool isInside = x >= 1 && x <= 5 && y >= 1 && y <= 3;

@@ -242,6 +242,18 @@ TEST_F(FrameBorder, Themed_IsTheGroupBoxOfTheTheme)
     EXPECT_EQ(At(0, top_ + 4), GetSysColor(COLOR_BTNSHADOW)) << "common controls that are too old";
 }
 
+TEST_F(Frame, Border_FollowsTheSize)
+{
+    form = std::make_unique<KeyForm>();
+    Open("Frame Box { Width = 1500 Height = 900 UseClassicTheme = 1 BorderColorDark = 0x00123456 BorderColorLight = 0x00123456 }");
+    const auto at = [this](int x, int y) { return GetPixel(Box().GetSurface().Dc(), x, y); };
+    EXPECT_EQ(at(0, 30), 0x123456U);
+    Box().GetExtender().Width(2250);
+    EXPECT_EQ(at(149, 30), 0x123456U);
+    Box().GetExtender().Height(1500);
+    EXPECT_EQ(at(50, 99), 0x123456U);
+}
+
 TEST_F(Frame, TopRow_IsPaintedOverOnceMoreAfterAPaint)
 {
     SendMessageW(Box().hWnd(), WM_PAINT, 0, 0);
