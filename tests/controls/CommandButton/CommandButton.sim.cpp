@@ -128,6 +128,21 @@ TEST_F(CommandButtonCalls, Theme_DrawsTheStateAndTheFocusAsDefaulted)
     EXPECT_EQ(drawn(), "4");
 }
 
+TEST_F(CommandButtonCalls, EveryStyle_HasItsMargin)
+{
+    constexpr int margins[] = {3, 3, 3, 3, 6, 3, 3, 3, 7, 7, 6, 4, 6, 3, 4, 3, 6, 4, 4};
+    Show("");
+    controls::ThemeState::OfProcess().AskVersionWith([] { return DWORD{6}; });
+    for (int style = 0; style < 19; ++style) {
+        Button().Style(style);
+        Button().Refresh();  // laid out with the margin of the style that was drawn
+        auto& graphics = Pc().Get<platform::Graphics>();
+        graphics.ForgetTexts();
+        Button().DrawControl();
+        EXPECT_EQ(graphics.Texts().back().cell.left, margins[style]) << style;
+    }
+}
+
 TEST_F(CommandButtonCalls, Checkerboard_IsOneLineARow)
 {
     Show("ButtonType = 1 Value = 1 ContourStyle = 0");

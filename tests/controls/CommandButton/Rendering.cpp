@@ -101,18 +101,50 @@ TEST_F(Rendering, ThemeStyle_FallsBackWithoutThemes)
     controls::ThemeState::OfProcess().AskVersionWith([] { return DWORD{5}; });
     SendMessageW(Button().hWnd(), WM_THEMECHANGED, 0, 0);
     EXPECT_EQ(Pixel(50, 0), frame);
+    for (const std::int32_t unknown : {19, -1, 70000}) {
+        Button().NonThemeStyle(unknown);
+        EXPECT_EQ(Pixel(50, 0), GetSysColor(COLOR_BTNFACE)) << unknown << " is drawn as nothing";
+    }
 }
 
-TEST_F(Rendering, FocusRectangle_ComesWithFocusAndShowFocus)
+TEST_F(Rendering, FocusRectangle_ComesWithFocusAndShowFocusAtTheStylesInset)
 {
-    Button().Style(controls::SoftRoundStyle);
-    Button().SetFocus();
-    const COLORREF without = Pixel(2, 10);
+    constexpr int none = -1;
+    constexpr int insets[] = {4, 4, 4, 3, 4, 4, 4, 2, 6, 6, 2, 3, none, 4, 4, 2, 4, 4, 4};
+    Button().ButtonType(controls::ToggleButton);
+    const auto pixels = [this] {
+        std::vector<COLORREF> all;
+        for (int i = 0; i < width * height; ++i)
+            all.push_back(Pixel(i % width, i / width));
+        return all;
+    };
+    for (int style = 0; style < 19; ++style)
+        for (const int on : {0, 1}) {
+            Button().Style(style);
+            Button().Value(on);
+            Get<controls::CommandButton>("Other").SetFocus();
+            Button().ShowFocus(true);
+            Button().SetFocus();
+            const auto with = pixels();
+            Button().ShowFocus(false);
+            const auto without = pixels();
+            RECT changed{width, height, 0, 0};
+            for (int i = 0; i < width * height; ++i) {
+                const LONG x = i % width, y = i / width;
+                if (with[static_cast<std::size_t>(i)] != without[static_cast<std::size_t>(i)])
+                    changed = {std::min(changed.left, x), std::min(changed.top, y), std::max(changed.right, x),
+                               std::max(changed.bottom, y)};
+            }
+            const int inset = insets[style], last = on == 1 ? 1 : 2;
+            const RECT expected =
+                inset == none ? RECT{width, height, 0, 0} : RECT{inset, inset, width - last - inset, height - last - inset};
+            EXPECT_TRUE(EqualRect(&changed, &expected)) << style << (on == 1 ? " on" : " off") << ": " << changed.left << " " << changed.top
+                                                        << " to " << changed.right << " " << changed.bottom;
+        }
     Button().ShowFocus(true);
-    EXPECT_TRUE(Pixel(2, 10) != without || Pixel(2, 11) != without);
-    EXPECT_EQ(controls::ButtonStyleOf(controls::SoftRoundStyle).focusInset, 2);
+    const auto with = pixels();
     Get<controls::CommandButton>("Other").SetFocus();
-    EXPECT_EQ(Pixel(2, 10), without);
+    EXPECT_NE(pixels(), with);
 }
 
 TEST(CommandButtonLayout, Caption_StandsWhereItsAlignmentSays)

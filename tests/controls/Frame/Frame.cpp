@@ -105,6 +105,11 @@ TEST_F(Frame, BorderRound_StaysBetween0And20)
     Box().BorderRound(-3);
     EXPECT_EQ(Box().BorderRound(), 0);
     EXPECT_FALSE(Box().TabStop());
+    for (const auto& [stored, kept] : {std::pair("25", 20), {"-3", 0}}) {
+        form = std::make_unique<KeyForm>();
+        Open("Frame Box { Width = 1500 Height = 900 BorderRound = " + std::string(stored) + " }");
+        EXPECT_EQ(Box().BorderRound(), kept);
+    }
 }
 
 class FrameBorder : public FormFixture {
