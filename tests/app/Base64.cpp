@@ -30,19 +30,21 @@ TEST(Base64, PrefixedForm_TellsNarrowFromWide)
     EXPECT_EQ(Base64Encode(TEXT("abc"), 7), TEXT("AYWJj")) << "every other mode is the prefixed one";
     EXPECT_EQ(Base64Encode(euro, Base64Narrow), TEXT("Pw==")) << "a question mark";
     EXPECT_EQ(Base64Encode(TEXT("a"), Base64Wide), TEXT("YQA="));
-    for (const String& text : {String(TEXT("abc")), umlaut, euro, String(TEXT("a")) + euro + TEXT("b")}) {
-        EXPECT_EQ(Base64Decode(Base64Encode(text, Base64Prefixed), Base64Prefixed), text);
-        EXPECT_EQ(Base64Decode(Base64Encode(text, Base64Wide), Base64Wide), text);
-    }
+    EXPECT_EQ(Base64Decode(TEXT("AYWJj"), Base64Prefixed), TEXT("abc"));
+    EXPECT_EQ(Base64Decode(TEXT("A/w=="), Base64Prefixed), umlaut);
+    EXPECT_EQ(Base64Decode(TEXT("WYQCsIGIA"), Base64Prefixed), TEXT("a") + euro + TEXT("b"));
+    EXPECT_EQ(Base64Decode(TEXT("rCA="), Base64Wide), euro);
 }
 
-TEST(Base64, AllBytes_ComeBack)
+TEST(Base64, Alphabet_IsTheUsualOne)
 {
-    std::vector<std::uint8_t> bytes;
-    for (int i = 0; i < 256; ++i) {
-        bytes.push_back(static_cast<std::uint8_t>(i * 7));
-        EXPECT_EQ(Base64DecodeBytes(Base64EncodeBytes(bytes)), bytes);
-    }
+    const std::vector<std::uint8_t> bytes = {0x00, 0x10, 0x83, 0x10, 0x51, 0x87, 0x20, 0x92, 0x8B, 0x30, 0xD3, 0x8F,
+                                             0x41, 0x14, 0x93, 0x51, 0x55, 0x97, 0x61, 0x96, 0x9B, 0x71, 0xD7, 0x9F,
+                                             0x82, 0x18, 0xA3, 0x92, 0x59, 0xA7, 0xA2, 0x9A, 0xAB, 0xB2, 0xDB, 0xAF,
+                                             0xC3, 0x1C, 0xB3, 0xD3, 0x5D, 0xB7, 0xE3, 0x9E, 0xBB, 0xF3, 0xDF, 0xBF};
+    const String text = TEXT("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/");
+    EXPECT_EQ(Base64EncodeBytes(bytes), text);
+    EXPECT_EQ(Base64DecodeBytes(text), bytes);
     EXPECT_EQ(Base64EncodeBytes(bytes, 1), TEXT("AA=="));
     EXPECT_EQ(Base64EncodeBytes(bytes, 0), TEXT(""));
 }

@@ -247,6 +247,10 @@ TEST_F(Form1Service, TickWithoutChange_LeavesTheControlsAlone)
     EXPECT_GT(pc.Trace().Count("QueryServiceStatus"), 1u);
     for (const char* function : {"EnableWindow", "SetWindowTextW", "InvalidateRect", "RedrawWindow"})
         EXPECT_EQ(pc.Trace().Count(function), 0u) << function;
+    The<Services>().SetState(name, SERVICE_RUNNING);
+    pc.Advance(1000);
+    for (const char* function : {"EnableWindow", "InvalidateRect"})
+        EXPECT_GT(pc.Trace().Count(function), 0u) << function;
 }
 
 TEST_F(Form1Service, BusyManager_IsAskedAgain)

@@ -312,18 +312,4 @@ TEST(DSubclass, ExceptionOfAHandler_NeverGetsIntoWindows)
     subclass.WndProc.Connect({});
 }
 
-/// Handles and heaps that stay behind would run out, or be reported at the test's end on the stand-in PC.
-TEST(DSubclass, TenThousandTimes_LeaveNothing)
-{
-    const PlainWindow window;
-    std::string order;
-    for (int round = 0; round < 10000; ++round) {
-        const auto outer = Listener(window.Get(), order, 'a');
-        const auto inner = Listener(window.Get(), order, 'b');
-    }
-    EXPECT_EQ(window.Ask(), 11);
-    EXPECT_EQ(order, "");
-    EXPECT_EQ(Published(window.Get()), TEXT("00000000"));
-}
-
 }  // namespace tests

@@ -47,6 +47,10 @@ TEST_F(HostedControl, ClickOnADisabledOne_ChangesNothing)
     EXPECT_EQ(Get<controls::TextBox>("Second").Text(), TEXT("two"));
     EXPECT_EQ(Get<controls::CheckBox>("Tick").Value(), 0);
     EXPECT_EQ(Take(), Lines{});
+    Any("Tick").Enabled(true);
+    Point("Tick");
+    ClickMouse();
+    EXPECT_EQ(Take(), Lines{"Tick"}) << "on again";
 }
 
 TEST_F(HostedControl, FocusOnTheWindowBehindADisabledOne_GoesOnWithTab)

@@ -107,19 +107,6 @@ TEST_F(LibraryControl, Font_IsCopiedAndToldAndNeverNone)
     }
 }
 
-TEST_F(LibraryControl, NoFontThenForceTrueType_IsSafe)
-{
-    Get<controls::Frame>("Frame1").Font(nullptr);
-    Get<controls::Frame>("Frame1").ForceTrueType(true);
-    Get<controls::CheckBox>("CheckBox1").Font(nullptr);
-    Get<controls::CheckBox>("CheckBox1").ForceTrueType(true);
-    Get<controls::TextBox>("TextBox1").Font(nullptr);
-    Get<controls::TextBox>("TextBox1").ForceTrueType(true);
-    Get<controls::CommandButton>("CommandButton1").Font(nullptr);
-    Get<controls::CommandButton>("CommandButton1").ForceTrueType(true);
-    OnEach([](controls::LibraryControl& control) { EXPECT_NE(control.Font(), nullptr); });
-}
-
 TEST_F(LibraryControl, Container_CanBeChanged)
 {
     auto& box = Get<controls::Frame>("Box");

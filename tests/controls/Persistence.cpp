@@ -108,12 +108,14 @@ TEST_F(Persistence, FrameAndItsSurface_ShareAKey)
 
 TEST_F(Persistence, Designer_MakesWindowsButWatchesNone)
 {
-    Open("CheckBox C { Width = 1500 Height = 300 Caption = \"c\" }", false);
-    auto& box = Get<controls::CheckBox>("C");
-    EXPECT_NE(box.hWnd(), nullptr);
-    SendMessageW(box.hWnd(), WM_MOUSEMOVE, 0, 0);
-    SendMessageW(box.hWnd(), WM_LBUTTONUP, 0, 0);
-    EXPECT_EQ(box.Value(), 0);
+    for (const bool userMode : {true, false}) {
+        form = std::make_unique<KeyForm>();
+        Open("CheckBox C { Width = 1500 Height = 300 Caption = \"c\" }", userMode);
+        auto& box = Get<controls::CheckBox>("C");
+        Click(box.hWnd());
+        EXPECT_EQ(GetFocus(), box.hWnd()) << "the button itself has heard of it";
+        EXPECT_EQ(box.Value(), userMode);
+    }
 }
 
 }  // namespace tests

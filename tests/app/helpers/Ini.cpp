@@ -100,7 +100,7 @@ TEST_F(Ini, Writing_MakesTheFileButNotTheFolder)
 {
     const String file = scratch.Expect(TEXT("new.ini"));
     EXPECT_NE(WriteIniString(file, TEXT("Settings"), TEXT("Pwd"), TEXT("AYWJj")), 0);
-    EXPECT_EQ(ReadIniString(file, TEXT("Settings"), TEXT("Pwd"), TEXT("")), TEXT("AYWJj"));
+    EXPECT_EQ(tests::BytesOf(file), "[Settings]\r\nPwd=AYWJj\r\n");
     EXPECT_EQ(WriteIniString(scratch.Path() + TEXT("missing\\new.ini"), TEXT("Settings"), TEXT("Pwd"), TEXT("x")), 0);
     EXPECT_EQ(WriteIniString(TEXT("new.ini"), TEXT("Settings"), TEXT("Pwd"), TEXT("x")), 0) << "Windows would put it into its own folder";
 }

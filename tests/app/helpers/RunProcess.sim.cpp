@@ -74,7 +74,8 @@ TEST_F(RunningProcess, Waiting_EndsWhenWaitingFails)
 {
     AddProgram(u"C:\\a.exe", 500);
     pc.GetFaults().FailAlways("MsgWaitForMultipleObjects", ERROR_INVALID_HANDLE);
-    EXPECT_NE(RunProcess(TEXT("C:\\a.exe"), {}, true, true, 0), 0u);
+    const DWORD process = RunProcess(TEXT("C:\\a.exe"), {}, true, true, 0);
+    EXPECT_TRUE(processes.IsRunning(process));
 }
 
 TEST_F(RunningProcess, Pump_LeavesTheQuitMessageToTheProgram)
@@ -88,7 +89,6 @@ TEST_F(RunningProcess, Pump_LeavesTheQuitMessageToTheProgram)
     EXPECT_TRUE(PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE));
     EXPECT_EQ(message.message, static_cast<UINT>(WM_QUIT));
     EXPECT_EQ(message.wParam, 3u);
-    helpers::PumpMessages(false);
     DestroyWindow(window);
 }
 

@@ -143,19 +143,6 @@ TEST_F(CommandButtonCalls, EveryStyle_HasItsMargin)
     }
 }
 
-TEST_F(CommandButtonCalls, Checkerboard_IsOneLineARow)
-{
-    Show("ButtonType = 1 Value = 1 ContourStyle = 0");
-    Button().Style(0);
-    auto& trace = Pc().Trace();
-    trace.Start();
-    Button().DrawControl();
-    trace.Stop();
-    EXPECT_EQ(trace.Count("ExtCreatePen"), 1U);
-    EXPECT_EQ(trace.Count("LineTo"), 30U);
-    EXPECT_EQ(trace.Count("SetPixelV"), 0U);
-}
-
 TEST_F(CommandButtonCalls, ZedOrder_MovesNothingElse)
 {
     Show("");

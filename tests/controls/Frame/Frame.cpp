@@ -120,11 +120,17 @@ protected:
     void SetUp() override
     {
         Open(R"(Frame Box { Width = 210 Height = 600 Caption = "" UseClassicTheme = 1 BackColor = 0x00FFFFFF })");
-        top_ = controls::MeasureFrameCaption(Box().GetSurface().Dc(), TEXT(" ")).cy / 2;
+        top_ = Measure(TEXT(" ")).cy / 2;
         Box().GetExtender().Height(static_cast<float>(15 * (top_ + 9)));
     }
     controls::Frame& Box() { return Get<controls::Frame>("Box"); }
     [[nodiscard]] COLORREF At(int x, int y) { return GetPixel(Box().GetSurface().Dc(), x, y); }
+    [[nodiscard]] SIZE Measure(const base::String& text)
+    {
+        SIZE size{};
+        GetTextExtentPoint32W(Box().GetSurface().Dc(), text.c_str(), static_cast<int>(text.size()), &size);
+        return size;
+    }
     /// The whole frame from the middle of the caption's row down, 14 by 9 pixels: '.' the background, 'D' and 'L' the border's colours.
     Rows Picture()
     {
@@ -213,7 +219,7 @@ TEST_F(FrameBorder, Caption_InterruptsIt)
     Box().Appearance(0);
     // A caption that leaves no mark of its own.
     const base::String blanks = TEXT("   ");
-    const LONG length = controls::MeasureFrameCaption(Box().GetSurface().Dc(), blanks).cx;
+    const LONG length = Measure(blanks).cx;
     for (const bool classic : {true, false}) {
         Box().UseClassicTheme(classic);
         Box().Caption(blanks);
@@ -271,7 +277,16 @@ TEST_F(Frame, TopRow_IsPaintedOverOnceMoreAfterAPaint)
             Sleep(5);
     }
     ASSERT_TRUE(fired);
+    Box().BackColor(0x00123456);
+    const HDC dc = GetWindowDC(Box().hWnd());
+    for (const int row : {0, 1})
+        for (int x = 0; x < 300; ++x)
+            SetPixel(dc, x, row, 0);
     DispatchMessageW(&message);
+    for (int x = 0; x < 300; ++x)
+        EXPECT_EQ(GetPixel(dc, x, 0), 0x00123456u) << x;
+    EXPECT_EQ(GetPixel(dc, 150, 1), 0u) << "the row below is left alone";
+    ReleaseDC(Box().hWnd(), dc);
     Sleep(30);
     EXPECT_FALSE(PeekMessageW(&message, Box().hWnd(), WM_TIMER, WM_TIMER, PM_REMOVE)) << "once only";
 }

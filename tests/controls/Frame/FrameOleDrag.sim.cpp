@@ -146,8 +146,9 @@ TEST_F(FrameOleDragging, ControlsMayGoInTheMidstOfIt)
                                           [this] { To().OLEDropMode(0); }};
     for (const auto& end : ends) {
         for (const char* const moment : {"start", "between", "over", "drop"}) {
+            int times = 0;
             const auto at = [&](const char* which) {
-                if (std::string(moment) == which)
+                if (std::string(moment) == which && ++times == 1)
                     end();
             };
             From().OLEStartDrag.Connect([&](DataObject& data, std::int32_t& allowed) {
@@ -165,6 +166,8 @@ TEST_F(FrameOleDragging, ControlsMayGoInTheMidstOfIt)
             between.meanwhile = [&] { at("between"); };
             User().Plan({{inTo}, between, {inTo}, {inTo, 0}});
             From().OLEDrag();
+            EXPECT_EQ(times, 1) << moment;
+            EXPECT_EQ(GetCapture(), nullptr) << moment;
             User().Plan({});
             form = std::make_unique<KeyForm>();
             SetUp();
