@@ -1,6 +1,5 @@
 #include "host/Extender.h"
 
-#include "host/Units.h"
 #include "tests/host/Probe.h"
 
 namespace tests {
@@ -22,24 +21,21 @@ TEST_F(Extender, Twips_MoveTheWindowAtOnce)
 {
     Open("Form F { ClientWidth = 4500 ClientHeight = 3000 Probe P { Left = 30 Top = 45 Width = 900 Height = 300 TabIndex = 0 } }");
     auto& extender = ExtenderOf(TEXT("P"));
-    const auto expectPlace = [&] {
+    const auto isAt = [&](const RECT& expected) {
         const RECT place = PlaceOf(TEXT("P"));
-        EXPECT_EQ(place.left, host::TwipsToPixelsX(extender.Left()));
-        EXPECT_EQ(place.top, host::TwipsToPixelsY(extender.Top()));
-        EXPECT_EQ(place.right - place.left, host::TwipsToPixelsX(extender.Width()));
-        EXPECT_EQ(place.bottom - place.top, host::TwipsToPixelsY(extender.Height()));
+        return EqualRect(&place, &expected) != FALSE;
     };
-    expectPlace();
+    EXPECT_TRUE(isAt({2, 3, 62, 23}));
     extender.Left(150);
     extender.Top(75);
     EXPECT_EQ(log.Take(), Lines{});
     extender.Width(1500);
     extender.Height(450);
-    EXPECT_EQ(log.Take().size(), 2U);
-    expectPlace();
+    EXPECT_EQ(log.Take(), (Lines{"P.Resize 100x20", "P.Resize 100x30"}));
+    EXPECT_TRUE(isAt({10, 5, 110, 35}));
     extender.Move(30, 30, 300, 150);
-    expectPlace();
-    EXPECT_EQ(log.Take().size(), 1U);
+    EXPECT_TRUE(isAt({2, 2, 22, 12}));
+    EXPECT_EQ(log.Take(), Lines{"P.Resize 20x10"});
 }
 
 TEST_F(Extender, FormInPixels_PlacesItsOwnControlsInPixelsAndInnerOnesInTwips)
@@ -50,7 +46,7 @@ TEST_F(Extender, FormInPixels_PlacesItsOwnControlsInPixelsAndInnerOnesInTwips)
     const RECT outer = PlaceOf(TEXT("P")), inner = PlaceOf(TEXT("Q"));
     EXPECT_EQ(outer.left, 7);
     EXPECT_EQ(outer.bottom, 59);
-    EXPECT_EQ(inner.left, host::TwipsToPixelsX(300));
+    EXPECT_EQ(inner.left, 20);
     EXPECT_EQ(ProbeNamed(TEXT("Q")).ContainerScale(), host::ScaleMode::twips);
     EXPECT_NE(form->Write().find("ScaleMode = 3\n"), std::string::npos);
 }
@@ -62,7 +58,7 @@ TEST_F(Extender, ZOrder_RaisesAndLowersTheWindow)
         {TEXT("B"), 0, TEXT("B")}, {TEXT("C"), 0, TEXT("C")}, {TEXT("C"), 1, TEXT("B")}};
     for (const auto& [moved, place, topmost] : moves) {
         ExtenderOf(moved).ZOrder(place);
-        EXPECT_EQ(form->ControlOf(GetWindow(form->hWnd(), GW_CHILD))->GetExtender().Name(), topmost);
+        EXPECT_EQ(GetWindow(form->hWnd(), GW_CHILD), WindowOf(topmost));
     }
 }
 

@@ -91,7 +91,7 @@ TEST_F(Focus, ControlThatIsEnabledAgain_GetsItBackUnlessTheUserHasMovedIt)
     }
 }
 
-TEST_F(Focus, SetFocus_InAnEventOfTheMove_Wins)
+TEST_F(Focus, SetFocus_InAnEventOfTheMove_LeavesKeysAndActiveControlTogether)
 {
     Open(four);
     log.on["First.ExitFocus"] = [&] { ProbeNamed(TEXT("Skipped")).SetFocus(); };

@@ -1,7 +1,6 @@
 #include "host/Form.h"
 
 #include "host/MessageLoop.h"
-#include "host/Units.h"
 #include "tests/host/Probe.h"
 #include "tests/support/ControlParent.h"
 
@@ -25,8 +24,8 @@ TEST_F(Form, Window_IsAsDesignedAndInTheMiddle)
     GetClientRect(form->hWnd(), &client);
     GetWindowRect(form->hWnd(), &window);
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-    EXPECT_EQ(client.right, host::TwipsToPixelsX(4830));
-    EXPECT_EQ(client.bottom, host::TwipsToPixelsY(3000));
+    EXPECT_EQ(client.right, 322);
+    EXPECT_EQ(client.bottom, 200);
     EXPECT_NEAR(window.left - area.left, area.right - window.right, 1);
     EXPECT_NEAR(window.top - area.top, area.bottom - window.bottom, 1);
     const auto style = static_cast<DWORD>(GetWindowLongW(form->hWnd(), GWL_STYLE));
@@ -86,11 +85,14 @@ TEST_F(Form, UnloadFromInsideAnyEvent_IsSafe)
 TEST_F(Form, ExceptionsInHandlers_EndAtTheWindow)
 {
     Open(small);
+    int thrown = 0;
     for (const char* event : {"A.MouseDown 1 0 0,0", "A.MouseUp 1 0 0,0", "A.KeyDown 65", "A.GotFocus", "Form.Unload"})
-        log.on[event] = [] { throw std::bad_alloc(); };
+        log.on[event] = [&] { throw ++thrown; };
+    SetFocus(nullptr);
     ClickAt(WindowOf(TEXT("A")), 0, 0);
     Press('A');
     SendMessageW(form->hWnd(), WM_CLOSE, 0, 0);
+    EXPECT_EQ(thrown, 5);
     EXPECT_FALSE(form->IsLoaded());
     EXPECT_EQ(log.lines.back(), "A.Terminate");
 }

@@ -68,8 +68,11 @@ protected:
 
 TEST_F(OleDrag, Files_ComeOutOfADropRecordOfEitherWidth)
 {
-    const Paths paths = {TEXT("C:\\one.txt"), TEXT("D:\\a b\\\u00E9")};
-    const Bytes wide = host::EncodeFiles(paths);
+    const Paths paths = {TEXT("C:\\b"), TEXT("\u00E9")};
+    // The head: where the list begins, no point, a wide list.
+    const Bytes wide = {20, 0, 0,   0, 0,   0, 0,    0, 0,   0, 0, 0, 0,    0, 0, 0, 1, 0,
+                        0,  0, 'C', 0, ':', 0, '\\', 0, 'b', 0, 0, 0, 0xE9, 0, 0, 0, 0, 0};
+    EXPECT_EQ(host::EncodeFiles(paths), wide);
     EXPECT_EQ(host::DecodeFiles(wide), paths);
     EXPECT_EQ(host::DecodeFiles({wide.begin(), wide.end() - 4}), paths) << "a list without its end ends with the block";
 

@@ -34,14 +34,19 @@ TEST_F(StockControls, Label_ShowsItsCaptionInItsFont)
     EXPECT_EQ(label.AccessKey(), TEXT("b"));
     EXPECT_EQ(GetParent(label.hWnd()), WindowOf(TEXT("Group")));
     EXPECT_FALSE(IsWindowEnabled(label.hWnd()));
-    EXPECT_EQ(reinterpret_cast<HFONT>(Ask(TEXT("Caption"), WM_GETFONT)), label.Font()->Handle());
+    const auto font = [&] {
+        LOGFONTW shown{};
+        GetObjectW(reinterpret_cast<HFONT>(Ask(TEXT("Caption"), WM_GETFONT)), sizeof shown, &shown);
+        return std::pair(base::String(shown.lfFaceName), shown.lfWeight);
+    };
+    EXPECT_EQ(font(), std::pair(base::String(TEXT("Arial")), LONG{FW_BOLD}));
     label.Enabled(true);
     label.Caption(TEXT("Plain &&"));
     label.Font(std::make_shared<host::Font>());
     EXPECT_TRUE(IsWindowEnabled(label.hWnd()));
     EXPECT_EQ(label.AccessKey(), TEXT(""));
     EXPECT_EQ(TextOf(label.hWnd()), TEXT("Plain &&"));
-    EXPECT_EQ(reinterpret_cast<HFONT>(Ask(TEXT("Caption"), WM_GETFONT)), label.Font()->Handle());
+    EXPECT_EQ(font(), std::pair(base::String(TEXT("MS Sans Serif")), LONG{FW_NORMAL}));
 }
 
 TEST_F(StockControls, Combo_RaisesClickWhenTheSelectionChanges)
