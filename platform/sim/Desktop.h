@@ -54,9 +54,6 @@ public:
     /// Clicks the close box of a top-level window.
     void ClickCloseBox(HWND window);
 
-    /// Called when the program waits for a message and there is none. Feeds something in and returns true, or returns false when
-    /// nothing will ever come: then the wait fails. Without it, waiting turns the clock to the next thing that falls due.
-    std::function<bool()> OnIdle;
     /// Called when a thread of another process takes WM_QUIT from its queue: its message loop has ended.
     std::function<void(Actor thread, int exitCode)> OnQuit;
 

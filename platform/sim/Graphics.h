@@ -41,8 +41,6 @@ public:
     bool CloseDc(HDC dc);
     /// A window was moved, sized, covered or uncovered: its open device contexts follow. What the program selected and set stays.
     void MoveDc(HDC dc, std::shared_ptr<Image> pixels, POINT origin, const Region& visible);
-    /// Device contexts that are open for a window, oldest first.
-    [[nodiscard]] std::vector<HDC> DcsOf(HWND window) const;
     /// The window of a device context; NULL for memory ones and unknown ones.
     [[nodiscard]] HWND WindowOf(HDC dc) const;
     /// What the device context draws on, empty when it is not open.
@@ -108,7 +106,6 @@ private:
     std::map<int, HGDIOBJ> stock_;
     std::vector<Family> families_;
     std::vector<DrawnText> texts_;
-    std::vector<std::pair<HWND, HDC>> windowDcs_;
 };
 
 /// Draws past the gate: what the system itself draws (captions, system controls). Coordinates are those of the device context.

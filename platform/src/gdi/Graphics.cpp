@@ -79,9 +79,7 @@ Graphics::~Graphics() = default;
 
 HDC Graphics::OpenDc(std::shared_ptr<Image> pixels, POINT origin, const Region& visible, HWND window)
 {
-    const HDC dc = OpenObject<HDC>(std::make_shared<DeviceContext>(*this, std::move(pixels), origin, visible, window));
-    windowDcs_.emplace_back(window, dc);
-    return dc;
+    return OpenObject<HDC>(std::make_shared<DeviceContext>(*this, std::move(pixels), origin, visible, window));
 }
 
 bool Graphics::CloseDc(HDC dc)
@@ -91,7 +89,6 @@ bool Graphics::CloseDc(HDC dc)
         return false;
     // Somebody who still draws may keep the device context alive; what it holds is free from now on.
     found->state = {};
-    std::erase_if(windowDcs_, [dc](const auto& entry) { return entry.second == dc; });
     return pc_.Handles().Close<DeviceContext>(dc);
 }
 
@@ -99,15 +96,6 @@ void Graphics::MoveDc(HDC dc, std::shared_ptr<Image> pixels, POINT origin, const
 {
     if (const auto found = pc_.Handles().Find<DeviceContext>(dc))
         found->Move(std::move(pixels), origin, visible);
-}
-
-std::vector<HDC> Graphics::DcsOf(HWND window) const
-{
-    std::vector<HDC> found;
-    for (const auto& [owner, dc] : windowDcs_)
-        if (owner == window)
-            found.push_back(dc);
-    return found;
 }
 
 HWND Graphics::WindowOf(HDC dc) const

@@ -1,6 +1,5 @@
 #include "platform/src/message/Waiting.h"
 
-#include "platform/sim/Desktop.h"
 #include "platform/src/core/Gate.h"
 #include "platform/src/message/MessageQueues.h"
 #include "platform/src/message/Retrieval.h"
@@ -15,9 +14,6 @@ bool LetSomethingHappen(std::uint64_t limit)
     SimPc& pc = SimPc::Current();
     if (Queues().RunOthers() || pc.Clock().RunOneDue())
         return true;
-    const auto& onIdle = pc.Get<Desktop>().OnIdle;
-    if (limit == kForever && onIdle && pc.CurrentActor() == SimPc::Own())
-        return onIdle();
     const std::uint64_t step = pc.Clock().UntilNext(limit);
     if (step == kForever)
         return false;

@@ -5,8 +5,8 @@
 
 namespace platform {
 
-/// Lets the next thing happen while a thread waits: other processes, what is due, what `Desktop::OnIdle` feeds in (only when the
-/// wait has no limit), else the clock turns, by `limit` milliseconds at the most. False when nothing will ever happen.
+/// Lets the next thing happen while a thread waits: other processes, what is due, else the clock turns, by `limit` milliseconds at the
+/// most. False when nothing will ever happen.
 bool LetSomethingHappen(std::uint64_t limit);
 /// A wait without a limit.
 inline constexpr std::uint64_t kForever = ~std::uint64_t{0} / 2;

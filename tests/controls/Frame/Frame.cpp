@@ -268,6 +268,7 @@ TEST_F(Frame, Border_FollowsTheSize)
 
 TEST_F(Frame, TopRow_IsPaintedOverOnceMoreAfterAPaint)
 {
+    Box().GetExtender().Move(300, 150, 4500, 3000);
     SendMessageW(Box().hWnd(), WM_PAINT, 0, 0);
     MSG message{};
     bool fired = false;
