@@ -51,6 +51,7 @@ TEST_F(EndToEnd, EscAltF5AndTheCloseBox_DropWhatWasTyped)
         Utility utility(exe_);
         ASSERT_TRUE(utility.Opened());
         utility.Enter("TextPassword", TEXT("other"));
+        ASSERT_TRUE(Eventually([&] { return SendMessageW(utility.Shown("TextPassword"), WM_GETTEXTLENGTH, 0, 0) == 5; }));
         if (way == 0)
             utility.Press({VK_ESCAPE});
         else if (way == 1)
