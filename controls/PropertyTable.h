@@ -22,46 +22,46 @@ public:
     virtual ~PropertyRow() = default;
     virtual void Read(Control& control, const host::PropertyBag& bag) const = 0;
     virtual void Write(Control& control, host::PropertyBag& bag) const = 0;
+    [[nodiscard]] base::StringView Key() const { return key_; }
 
 protected:
     const WCHAR* const key_;
     const WhenDefault whenDefault_;
 };
 
-/// The places of the rows in the order of `index + shift`.
-std::vector<std::size_t> OrderOfShifts(const std::vector<double>& shifts);
+/// A row's key, and the key of the row that it is written before; empty where it is written in its turn.
+struct WrittenRow {
+    base::StringView key;
+    base::StringView before;
+};
+/// The places of the rows in the order of writing. Throws std::invalid_argument for a key that no row has which is written in its turn.
+std::vector<std::size_t> WriteOrder(const std::vector<WrittenRow>& rows);
 
-/// The rows stand in the order in which they are read. Most are written in the same order; a row may say that it is written some
-/// rows earlier or later.
+/// The rows stand in the order in which they are read. Most are written in the same order; a row may say which one it is written before.
 template <class Control>
 class PropertyTable {
 public:
-    class Row {
-    public:
+    struct Row {
         explicit Row(std::shared_ptr<const PropertyRow<Control>> row) : property(std::move(row)) {}
-        Row WrittenEarlier(int rows) const { return Moved(-rows - 0.5); }
-        Row WrittenLater(int rows) const { return Moved(rows + 0.5); }
-
-        std::shared_ptr<const PropertyRow<Control>> property;
-        double shift = 0;
-
-    private:
-        Row Moved(double rows) const
+        Row WrittenBefore(base::StringView key) const
         {
             Row row = *this;
-            row.shift = rows;
+            row.before = key;
             return row;
         }
+
+        std::shared_ptr<const PropertyRow<Control>> property;
+        base::StringView before;
     };
 
     PropertyTable(std::initializer_list<Row> rows)
     {
-        std::vector<double> shifts;
+        std::vector<WrittenRow> written;
         for (const Row& row : rows) {
             rows_.push_back(row.property);
-            shifts.push_back(row.shift);
+            written.push_back({row.property->Key(), row.before});
         }
-        writeOrder_ = OrderOfShifts(shifts);
+        writeOrder_ = WriteOrder(written);
     }
 
     void Read(Control& control, const host::PropertyBag& bag) const

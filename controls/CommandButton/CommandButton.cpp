@@ -57,9 +57,9 @@ const PropertyTable<CommandButton>& CommandButton::Properties()
         StoredAs<B, int32_t>(TEXT("PictureDisabledStyle"), &B::pictureDisabledStyle_, DisabledPictureUnchanged),
         StoredAs<B, int32_t>(TEXT("Style"), &B::style_, ThemeStyle),
         StoredAs<B, uint8_t>(TEXT("UseClassicTheme"), &B::useClassicTheme_, 0),
-        StoredAs<B, int32_t>(TEXT("CaptionAlign"), &B::captionAlign_, AlignCentre).WrittenLater(1),
+        StoredAs<B, int32_t>(TEXT("CaptionAlign"), &B::captionAlign_, AlignCentre).WrittenBefore(TEXT("Enabled")),
         StoredAs<B, int32_t>(TEXT("PictureAlign"), &B::pictureAlign_, AlignLeft),
-        StoredAs<B, int32_t>(TEXT("NonThemeStyle"), &B::nonThemeStyle_, ClassicStyle).WrittenEarlier(3),
+        StoredAs<B, int32_t>(TEXT("NonThemeStyle"), &B::nonThemeStyle_, ClassicStyle).WrittenBefore(TEXT("UseClassicTheme")),
         StoredThrough<B, bool>(
             TEXT("Enabled"), [](B& button) { return button.Enabled(); }, [](B& button, bool on) { button.GetSurface().Enabled(on); }, true),
         StoredAs<B, uint8_t>(TEXT("ShowFocus"), &B::showFocus_, 0),
@@ -78,7 +78,7 @@ const PropertyTable<CommandButton>& CommandButton::Properties()
         StoredAs<B, uint32_t>(TEXT("ToolTipForeColor"), Tip<B, &Settings::foreColor>(), 0x80000017),
         StoredAs<B, int32_t>(TEXT("ButtonType"), &B::buttonType_, PushButton),
         StoredAs<B, int32_t>(TEXT("Value"), &B::value_, 0),
-        StoredAs<B, uint8_t>(TEXT("MaskColorEnabled"), &B::maskColorEnabled_, 0).WrittenLater(1),
+        StoredAs<B, uint8_t>(TEXT("MaskColorEnabled"), &B::maskColorEnabled_, 0).WrittenBefore(TEXT("MousePointer")),
         StoredAs<B, uint32_t>(TEXT("MaskColor"), &B::maskColor_, 0xC0C0C0),
         StoredThrough<B, std::int16_t>(
             TEXT("MousePointer"), [](B& button) { return button.MousePointer(); },
@@ -89,7 +89,7 @@ const PropertyTable<CommandButton>& CommandButton::Properties()
             TEXT("Font"), [](B& button) { return button.Font(); },
             [](B& button, const std::shared_ptr<host::Font>& font) { button.TakeFont(*font); },
             [](B& button) { return button.Ambient().Font(); }, whatever)
-            .WrittenEarlier(7),
+            .WrittenBefore(TEXT("ButtonType")),
     };
     return table;
 }

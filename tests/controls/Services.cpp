@@ -121,6 +121,7 @@ struct Settings {
     std::int32_t number = 1;
     bool flag = true;
     std::uint32_t color = 0xFF;
+    bool last = false;
 };
 
 std::string Keys(const host::PropertyBag& bag)
@@ -137,19 +138,20 @@ TEST(PropertyTable, Rows_AreWrittenInTheirOwnOrderAndReadWithDefaults)
 {
     using controls::StoredAs;
     const controls::PropertyTable<Settings> table{
-        StoredAs<Settings, std::int32_t>(TEXT("Number"), &Settings::number, 1).WrittenLater(1),
+        StoredAs<Settings, std::int32_t>(TEXT("Number"), &Settings::number, 1).WrittenBefore(TEXT("Last")),
         StoredAs<Settings, std::uint8_t>(TEXT("Flag"), &Settings::flag, 1, controls::WhenDefault::Stored),
-        StoredAs<Settings, std::uint32_t>(TEXT("Color"), &Settings::color, [](Settings&) { return 0xFFU; }).WrittenEarlier(2),
+        StoredAs<Settings, std::uint32_t>(TEXT("Color"), &Settings::color, [](Settings&) { return 0xFFU; }).WrittenBefore(TEXT("Flag")),
+        StoredAs<Settings, std::uint8_t>(TEXT("Last"), &Settings::last, 0, controls::WhenDefault::Stored),
     };
     Settings settings;
     host::PropertyBag defaults;
     table.Write(settings, defaults);
-    EXPECT_EQ(Keys(defaults), "Flag ");
+    EXPECT_EQ(Keys(defaults), "Flag Last ");
 
     settings = {7, false, 3};
     host::PropertyBag bag;
     table.Write(settings, bag);
-    EXPECT_EQ(Keys(bag), "Color Flag Number ");
+    EXPECT_EQ(Keys(bag), "Color Flag Number Last ");
     Settings read;
     table.Read(read, bag);
     EXPECT_EQ(read.number, 7);
@@ -158,6 +160,9 @@ TEST(PropertyTable, Rows_AreWrittenInTheirOwnOrderAndReadWithDefaults)
     table.Read(read, host::PropertyBag());
     EXPECT_TRUE(read.flag);
     EXPECT_EQ(read.color, 0xFFU);
+    EXPECT_THROW((controls::PropertyTable<Settings>{
+                     StoredAs<Settings, std::uint8_t>(TEXT("Flag"), &Settings::flag, 1).WrittenBefore(TEXT("Flagg"))}),
+                 std::invalid_argument);
 }
 
 }  // namespace tests
