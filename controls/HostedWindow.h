@@ -4,12 +4,15 @@
 #include "base/String.h"
 #include "controls/DSubclass.h"
 #include "controls/KeyForwarding.h"
-#include "controls/TabOrder.h"
+#include "host/TabOrder.h"
 #include "host/UserControl.h"
 
 #include <cstdint>
 
 namespace controls {
+
+using host::FocusDirection;
+using host::FocusScope;
 
 /// A window of a system class, a child of the control's container, that always covers the control's own window. It is made anew whenever
 /// a property needs another window style.

@@ -66,16 +66,8 @@ void HostedWindow::ControlGotFocus(bool enabled, FocusScope backward)
 
 void HostedWindow::MoveFocus(FocusDirection direction, FocusScope scope)
 {
-    if (!window_)
-        return;
-    const TabOrderSearch search{.tabIndex = control_.GetExtender().TabIndex(),
-                                .ownWindow = window_,
-                                .containerWindow = container_,
-                                .skipContainer = true,
-                                .direction = direction,
-                                .scope = scope};
-    if (host::Control* const next = FindTabStop(control_.ParentForm(), search))
-        next->SetFocus();
+    if (window_)
+        host::MoveFocus(control_, direction, scope);
 }
 
 /// Windows gives an activated form's focus to the form itself; the window that had it before takes it back here.

@@ -5,6 +5,7 @@ namespace controls {
 
 namespace {
 
+/// By host::KeyEvent.
 struct Kind {
     const WCHAR* routine;
     UINT message;
@@ -12,27 +13,13 @@ struct Kind {
 
 constexpr Kind kinds[] = {{TEXT("Form_KeyDown"), WM_KEYDOWN}, {TEXT("Form_KeyUp"), WM_KEYUP}, {TEXT("Form_KeyPress"), WM_CHAR}};
 
-std::size_t KindOf(UINT message)
-{
-    switch (message) {
-        case WM_KEYDOWN:
-        case WM_SYSKEYDOWN:
-            return 0;
-        case WM_KEYUP:
-        case WM_SYSKEYUP:
-            return 1;
-        default:
-            return 2;
-    }
-}
-
 }  // namespace
 
-void KeyForwarding::Forward(host::Form& form, UINT message, LPARAM lParam, std::int16_t& code, std::int16_t& shift)
+void KeyForwarding::Forward(host::Form& form, host::KeyEvent event, LPARAM lParam, std::int16_t& code, std::int16_t& shift)
 {
     if (!form.KeyPreview())
         return;
-    const std::size_t kind = KindOf(message);
+    const auto kind = static_cast<std::size_t>(event);
     Mode& mode = modes_[kind];
     const host::Form::Routine* const routine = mode == Mode::SendMessage ? nullptr : form.RoutineByName(kinds[kind].routine);
     mode = routine ? Mode::CallRoutine : Mode::SendMessage;

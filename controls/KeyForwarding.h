@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/Form.h"
+#include "host/KeyRouting.h"
 
 #include <array>
 #include <cstdint>
@@ -12,9 +13,8 @@ namespace controls {
 /// sent to its window. Which of the two it is, is found out once for each kind of event.
 class KeyForwarding {
 public:
-    /// `message` is WM_KEYDOWN, WM_KEYUP, WM_CHAR or the system-key form of these. The form may change `code` and `shift`. Nothing
-    /// happens unless the form previews keys.
-    void Forward(host::Form& form, UINT message, LPARAM lParam, std::int16_t& code, std::int16_t& shift);
+    /// The form may change `code` and `shift`. Nothing happens unless the form previews keys.
+    void Forward(host::Form& form, host::KeyEvent event, LPARAM lParam, std::int16_t& code, std::int16_t& shift);
 
 private:
     enum class Mode : std::uint8_t { NotYetTried, CallRoutine, SendMessage };

@@ -5,6 +5,7 @@
 #include "host/ControlFactory.h"
 #include "host/Event.h"
 #include "host/FormFile.h"
+#include "host/KeyRouting.h"
 #include "host/OwnWindow.h"
 #include "host/PropertyBag.h"
 
@@ -109,9 +110,8 @@ public:
     /// A window that is no one's to type in got the keyboard focus: the active control gets it, or the first that can take it.
     void RestoreFocus();
     void OnPropertyChanged(Control& control, base::StringView name);
-    /// Lets the form handle a key as its own: WM_KEYDOWN and WM_SYSKEYDOWN, ..KEYUP, WM_CHAR. False when the code became 0; else wParam
-    /// holds the code that goes on.
-    bool HandleKey(UINT message, WPARAM& wParam);
+    /// Lets the form handle a key as its own. False when the code became 0; else wParam holds the code that goes on.
+    bool HandleKey(KeyEvent event, WPARAM& wParam);
     /// Enters a control in the list of another container.
     static void MoveTo(Control& control, Container& from, Container& to);
     /// A number for a control's SetTimer on the form's window, and who ticks when it is due.

@@ -26,14 +26,6 @@ LRESULT Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
         case WM_SETFOCUS:
             RestoreFocus();
             return 0;
-        case WM_KEYDOWN:
-        case WM_SYSKEYDOWN:
-        case WM_KEYUP:
-        case WM_SYSKEYUP:
-        case WM_CHAR:
-            if (!HandleKey(message, wParam))
-                return 0;
-            break;
         case WM_TIMER:
             if (const auto timer = timers_.find(wParam); timer != timers_.end()) {
                 const std::function<void()> tick = timer->second;
@@ -49,7 +41,8 @@ LRESULT Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
             ForwardToControls(message, wParam, lParam);
             break;
         default:
-            break;
+            if (const auto event = KeyEventOf(message); event && !HandleKey(*event, wParam))
+                return 0;
     }
     return Default(message, wParam, lParam);
 }
@@ -95,7 +88,7 @@ void Form::RestoreFocus()
 {
     if (!IsLoaded())
         return;
-    Control* const control = active_ != nullptr && CanGetFocusNow(*active_) ? active_ : NextInTabOrder(*this, -1, false);
+    Control* const control = active_ != nullptr && CanGetFocusNow(*active_) ? active_ : NextInTabOrder(*this, -1, FocusDirection::Forward);
     if (control != nullptr)
         control->SetFocus();
 }
@@ -114,7 +107,7 @@ void Form::PassFocusOn(Control& from)
     if (active_ != &from || !IsLoaded())
         return;
     const Control* const first = passedOnFrom_ != nullptr ? passedOnFrom_ : &from;
-    MoveFocusTo(NextInTabOrder(*this, from.GetExtender().TabIndex(), false, &from));
+    MoveFocusTo(NextInTabOrder(from, FocusDirection::Forward));
     passedOnFrom_ = first;
 }
 
@@ -124,13 +117,13 @@ void Form::GiveFocusBack(Control& to)
         MoveFocusTo(&to);
 }
 
-bool Form::HandleKey(UINT message, WPARAM& wParam)
+bool Form::HandleKey(KeyEvent event, WPARAM& wParam)
 {
     auto code = static_cast<std::int16_t>(wParam);
     std::int16_t shift = ShiftState();
-    if (message == WM_CHAR)
+    if (event == KeyEvent::Press)
         Form_KeyPress(code);
-    else if (message == WM_KEYDOWN || message == WM_SYSKEYDOWN)
+    else if (event == KeyEvent::Down)
         Form_KeyDown(code, shift);
     else
         Form_KeyUp(code, shift);

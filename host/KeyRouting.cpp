@@ -17,6 +17,11 @@ int TabIndexOf(const Control* control)
     return control != nullptr ? control->GetExtender().TabIndex() : -1;
 }
 
+FocusDirection DirectionOf(std::int16_t shift)
+{
+    return (shift & shiftHeld) != 0 ? FocusDirection::Backward : FocusDirection::Forward;
+}
+
 bool AnswersTo(const Control& control, base::StringView key)
 {
     return control.Enabled() && control.OwnHandle() != nullptr && IsWindowVisible(control.OwnHandle()) &&
@@ -43,8 +48,8 @@ bool PressAccessKey(Form& form, WCHAR key)
         return false;
     if (control->CanGetFocus())
         control->SetFocus();
-    else if (Control* const next = NextInTabOrder(form, TabIndexOf(control), false))
-        next->SetFocus();
+    else
+        MoveFocus(*control, FocusDirection::Forward, FocusScope::AllContainers);
     if (form.IsLoaded())
         control->AccessKeyPress(static_cast<std::int16_t>(key));
     return true;
@@ -75,7 +80,7 @@ bool Navigate(const Form& form, const Control* focused, std::int16_t key)
             return PressButton(form, &Extender::Cancel, key);
         case VK_TAB:
             if (Control* const next =
-                    NextInTabOrder(form, TabIndexOf(focused != nullptr ? focused : form.ActiveControl()), (shift & shiftHeld) != 0))
+                    NextInTabOrder(form, TabIndexOf(focused != nullptr ? focused : form.ActiveControl()), DirectionOf(shift)))
                 next->SetFocus();
             return true;
         default:
@@ -84,21 +89,10 @@ bool Navigate(const Form& form, const Control* focused, std::int16_t key)
 }
 
 /// A push button keeps Tab within its own container; F6, the key that goes from pane to pane, leads out of it.
-bool GoToOtherContainer(const Form& form, const Control& focused)
+bool GoToOtherContainer(const Control& focused)
 {
     const std::int16_t shift = ShiftState();
-    if ((shift & (ctrlHeld | altHeld)) != 0)
-        return false;
-    Control* next = NextInTabOrder(form, TabIndexOf(&focused), (shift & shiftHeld) != 0);
-    Control* const first = next;
-    while (next != nullptr && next->ContainerWindow() == focused.ContainerWindow()) {
-        next = NextInTabOrder(form, TabIndexOf(next), (shift & shiftHeld) != 0);
-        if (next == first)
-            return false;
-    }
-    if (next != nullptr)
-        next->SetFocus();
-    return next != nullptr;
+    return (shift & (ctrlHeld | altHeld)) == 0 && MoveFocus(focused, DirectionOf(shift), FocusScope::OtherContainers);
 }
 
 bool RouteKey(Form& form, MSG& message)
@@ -107,13 +101,13 @@ bool RouteKey(Form& form, MSG& message)
     const Control* const control = form.ControlOf(message.hwnd);
     const bool isForHosted = control != nullptr && control->OwnHandle() != message.hwnd;
     if (isForHosted)
-        return message.message == WM_KEYDOWN && message.wParam == VK_F6 && GoToOtherContainer(form, *control);
+        return message.message == WM_KEYDOWN && message.wParam == VK_F6 && GoToOtherContainer(*control);
     if (!isForForm && control == nullptr)
         return false;
-    if (!isForForm && form.KeyPreview() && (!form.HandleKey(message.message, message.wParam) || !form.IsLoaded()))
+    if (!isForForm && form.KeyPreview() && (!form.HandleKey(*KeyEventOf(message.message), message.wParam) || !form.IsLoaded()))
         return true;
     if (control != nullptr && message.message == WM_KEYDOWN && message.wParam == VK_F6)
-        return GoToOtherContainer(form, *control);
+        return GoToOtherContainer(*control);
     return message.message == WM_KEYDOWN && Navigate(form, control, static_cast<std::int16_t>(message.wParam));
 }
 
@@ -127,6 +121,22 @@ void LeaveActiveControl(Form& form, HWND clicked)
 }
 
 }  // namespace
+
+std::optional<KeyEvent> KeyEventOf(UINT message)
+{
+    switch (message) {
+        case WM_KEYDOWN:
+        case WM_SYSKEYDOWN:
+            return KeyEvent::Down;
+        case WM_KEYUP:
+        case WM_SYSKEYUP:
+            return KeyEvent::Up;
+        case WM_CHAR:
+            return KeyEvent::Press;
+        default:
+            return {};
+    }
+}
 
 std::int16_t ShiftState()
 {
@@ -147,17 +157,13 @@ bool RouteMessage(MSG& message)
             return false;
         case WM_SYSCHAR:
             return PressAccessKey(*form, static_cast<WCHAR>(message.wParam));
-        case WM_KEYDOWN:
-        case WM_SYSKEYDOWN:
-            form->SettleFocus();
-            return RouteKey(*form, message);
-        case WM_KEYUP:
-        case WM_SYSKEYUP:
-        case WM_CHAR:
-            return RouteKey(*form, message);
         default:
-            return false;
+            break;
     }
+    const std::optional<KeyEvent> event = KeyEventOf(message.message);
+    if (event == KeyEvent::Down)
+        form->SettleFocus();
+    return event && RouteKey(*form, message);
 }
 
 }  // namespace host

@@ -4,11 +4,17 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <optional>
 
 namespace host {
 
 class Control;
 class Form;
+
+enum class KeyEvent { Down, Up, Press };
+
+/// What a message tells of a key, a system key included: pressed, released, or the character that it types. None for all other messages.
+[[nodiscard]] std::optional<KeyEvent> KeyEventOf(UINT message);
 
 /// Offers the message to the forms: a form with KeyPreview sees keys first (a code set to 0 ends the key's way), Alt with a letter goes to
 /// the control with that access key, Enter and Esc press the default and the cancel button, Tab moves the focus from stock controls, F6 (or

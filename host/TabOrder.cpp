@@ -5,6 +5,35 @@
 
 namespace host {
 
+namespace {
+
+/// Whether the place `index` comes before `best` for somebody at `own`: those ahead in the direction of travel win, among them the nearest.
+bool Beats(int index, int best, int own, FocusDirection direction)
+{
+    const bool forward = direction == FocusDirection::Forward;
+    const auto isAhead = [=](int place) { return forward ? place > own : place < own; };
+    if (isAhead(index) != isAhead(best))
+        return isAhead(index);
+    return forward ? index < best : index > best;
+}
+
+template <class Counts>
+Control* Next(const Form& form, int tabIndex, FocusDirection direction, Counts counts)
+{
+    Control* best = nullptr;
+    for (Control* const control : form.Controls()) {
+        const Extender& extender = control->GetExtender();
+        if (!extender.TabStop() || !control->Enabled() || !CanGetFocusNow(*control) || !IsWindowVisible(control->hWnd()) ||
+            !counts(*control))
+            continue;
+        if (best == nullptr || Beats(extender.TabIndex(), best->GetExtender().TabIndex(), tabIndex, direction))
+            best = control;
+    }
+    return best;
+}
+
+}  // namespace
+
 bool CanGetFocusNow(const Control& control)
 {
     const HWND window = control.OwnHandle();
@@ -17,23 +46,26 @@ bool CanGetFocusNow(const Control& control)
     return true;
 }
 
-Control* NextInTabOrder(const Form& form, int tabIndex, bool backward, const Control* except)
+Control* NextInTabOrder(const Form& form, int tabIndex, FocusDirection direction)
 {
-    const auto isAhead = [=](int index) { return backward ? index < tabIndex : index > tabIndex; };
-    Control* best = nullptr;
-    for (Control* const control : form.Controls()) {
-        if (control == except || !control->GetExtender().TabStop() || !control->Enabled() || !CanGetFocusNow(*control))
-            continue;
-        const int index = control->GetExtender().TabIndex();
-        if (best != nullptr) {
-            const int present = best->GetExtender().TabIndex();
-            const bool isNearer = backward ? index > present : index < present;
-            if (isAhead(index) != isAhead(present) ? !isAhead(index) : !isNearer)
-                continue;
-        }
-        best = control;
-    }
-    return best;
+    return Next(form, tabIndex, direction, [](const Control&) { return true; });
+}
+
+Control* NextInTabOrder(const Control& from, FocusDirection direction, FocusScope scope)
+{
+    return Next(from.ParentForm(), from.GetExtender().TabIndex(), direction, [&](const Control& control) {
+        const bool isBeside = control.ContainerWindow() == from.ContainerWindow();
+        return &control != &from && control.OwnHandle() != from.ContainerWindow() &&
+               (scope == FocusScope::AllContainers || isBeside == (scope == FocusScope::OwnContainer));
+    });
+}
+
+bool MoveFocus(const Control& from, FocusDirection direction, FocusScope scope)
+{
+    Control* const next = NextInTabOrder(from, direction, scope);
+    if (next != nullptr)
+        next->SetFocus();
+    return next != nullptr;
 }
 
 }  // namespace host

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/Control.h"
+#include "host/KeyRouting.h"
 #include "host/OwnWindow.h"
 #include "host/PropertyBag.h"
 #include "host/Surface.h"
@@ -98,7 +99,7 @@ private:
     void OnMouse(UINT message, WPARAM keys, POINT at);
     void ButtonDown(std::int16_t button, std::int16_t shift, POINT at);
     void ButtonUp(std::int16_t button, std::int16_t shift, POINT at, bool othersHeld);
-    bool OnKey(UINT message, WPARAM& key);
+    bool OnKey(KeyEvent event, WPARAM& key);
     void Paint();
 
     enum class Stage { Made, Loading, Loaded, Unloaded };

@@ -68,15 +68,9 @@ LRESULT UserControl::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
         case WM_CAPTURECHANGED:
             clickBegun_ = false;
             break;
-        case WM_KEYDOWN:
-        case WM_SYSKEYDOWN:
-        case WM_KEYUP:
-        case WM_SYSKEYUP:
-        case WM_CHAR:
-            if (!OnKey(message, wParam))
-                return 0;
-            break;
         default:
+            if (const auto event = KeyEventOf(message); event && !OnKey(*event, wParam))
+                return 0;
             if (message >= WM_MOUSEFIRST && message <= WM_MBUTTONDBLCLK)
                 OnMouse(message, wParam, {static_cast<SHORT>(LOWORD(lParam)), static_cast<SHORT>(HIWORD(lParam))});
     }
@@ -153,13 +147,13 @@ void UserControl::ButtonUp(std::int16_t button, std::int16_t shift, POINT at, bo
 }
 
 /// False when the code became 0; else `key` is the code that Windows goes on with.
-bool UserControl::OnKey(UINT message, WPARAM& key)
+bool UserControl::OnKey(KeyEvent event, WPARAM& key)
 {
     auto code = static_cast<std::int16_t>(key);
     std::int16_t shift = ShiftState();
-    if (message == WM_CHAR)
+    if (event == KeyEvent::Press)
         UserControl_KeyPress(code);
-    else if (message == WM_KEYDOWN || message == WM_SYSKEYDOWN)
+    else if (event == KeyEvent::Down)
         UserControl_KeyDown(code, shift);
     else
         UserControl_KeyUp(code, shift);

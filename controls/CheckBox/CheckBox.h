@@ -89,7 +89,7 @@ private:
 
     void SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled) override;
     void SubclassParent_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled) override;
-    void OnKeyDown(UINT message, WPARAM wParam, LPARAM lParam, bool& handled);
+    void OnKeyDown(WPARAM wParam, LPARAM lParam, bool& handled);
     void ActOnKey(std::int16_t keyCode);
 
     base::String caption_;

@@ -32,14 +32,14 @@ void CheckBox::SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam,
             break;
         case WM_KEYDOWN:
         case WM_SYSKEYDOWN:
-            OnKeyDown(message, wParam, lParam, handled);
+            OnKeyDown(wParam, lParam, handled);
             break;
         case WM_KEYUP:
         case WM_SYSKEYUP:
         case WM_CHAR: {
             auto code = static_cast<std::int16_t>(wParam);
             std::int16_t shift = host::ShiftState();
-            hosted_.Keys.Forward(ParentForm(), message, lParam, code, shift);
+            hosted_.Keys.Forward(ParentForm(), *host::KeyEventOf(message), lParam, code, shift);
             if (message == WM_CHAR)
                 KeyPress.Raise(code);
             else
@@ -58,7 +58,7 @@ void CheckBox::SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam,
     }
 }
 
-void CheckBox::OnKeyDown(UINT message, WPARAM wParam, LPARAM lParam, bool& handled)
+void CheckBox::OnKeyDown(WPARAM wParam, LPARAM lParam, bool& handled)
 {
     auto keyCode = static_cast<std::int16_t>(wParam);
     std::int16_t shift = host::ShiftState();
@@ -67,7 +67,7 @@ void CheckBox::OnKeyDown(UINT message, WPARAM wParam, LPARAM lParam, bool& handl
         handled = true;
         return;
     }
-    hosted_.Keys.Forward(ParentForm(), message, lParam, keyCode, shift);
+    hosted_.Keys.Forward(ParentForm(), host::KeyEvent::Down, lParam, keyCode, shift);
     ActOnKey(keyCode);
     KeyDown.Raise(keyCode, shift);
     handled = keyCode == 0;

@@ -7,8 +7,8 @@
 #include "controls/CommandButton/CommandButtonValues.h"
 #include "controls/DSubclass.h"
 #include "controls/LibraryControl.h"
-#include "controls/TabOrder.h"
 #include "host/Event.h"
+#include "host/TabOrder.h"
 
 #include <cstdint>
 #include <memory>
@@ -171,7 +171,7 @@ private:
     void ClickByKey();
     void HasFocus(bool has);
     void ShowState(std::int32_t state);
-    void MoveFocus(FocusDirection direction);
+    void MoveFocus(host::FocusDirection direction);
 
     template <class T>
     void Keep(T& field, T value, const WCHAR* name, After after);

@@ -8,6 +8,7 @@
 namespace controls {
 
 using base::StringView;
+using host::FocusDirection;
 
 void CommandButton::ShowState(std::int32_t state)
 {
@@ -127,13 +128,7 @@ void CommandButton::UserControl_AccessKeyPress(std::int16_t)
 
 void CommandButton::MoveFocus(FocusDirection direction)
 {
-    const TabOrderSearch search{.tabIndex = GetExtender().TabIndex(),
-                                .ownWindow = hWnd(),
-                                .containerWindow = ContainerWindow(),
-                                .direction = direction,
-                                .scope = FocusScope::OwnContainer};
-    if (host::Control* const next = FindTabStop(ParentForm(), search))
-        next->SetFocus();
+    host::MoveFocus(*this, direction, host::FocusScope::OwnContainer);
 }
 
 void CommandButton::SubclassControl_WndProc(HWND window, UINT message)

@@ -121,7 +121,7 @@ void TextBox::OnKeyDown(WPARAM wParam, LPARAM lParam, bool& handled)
             hosted_.MoveFocus((shift & 1) != 0 ? FocusDirection::Backward : FocusDirection::Forward, FocusScope::AllContainers);
         return;
     }
-    hosted_.Keys.Forward(ParentForm(), WM_KEYDOWN, lParam, keyCode, shift);
+    hosted_.Keys.Forward(ParentForm(), host::KeyEvent::Down, lParam, keyCode, shift);
     // The form may have gone by now, and the edit with it.
     if (hosted_.Window() && !hosted_.ContainerIsForm())
         PostToFormButtons(ParentForm(), keyCode);
@@ -133,7 +133,7 @@ void TextBox::OnOtherKey(UINT message, WPARAM wParam, LPARAM lParam, bool& handl
 {
     auto keyCode = static_cast<std::int16_t>(wParam);
     std::int16_t shift = host::ShiftState();
-    hosted_.Keys.Forward(ParentForm(), message, lParam, keyCode, shift);
+    hosted_.Keys.Forward(ParentForm(), *host::KeyEventOf(message), lParam, keyCode, shift);
     if (message == WM_SYSKEYDOWN)
         KeyDown.Raise(keyCode, shift);
     else
@@ -149,7 +149,7 @@ void TextBox::OnChar(HWND window, WPARAM wParam, LPARAM lParam, LRESULT& result,
     if (keyAscii == VK_TAB && (!tabKeyTextual_ || GetFocus() != window))
         return;
     std::int16_t shift = host::ShiftState();
-    hosted_.Keys.Forward(ParentForm(), WM_CHAR, lParam, keyAscii, shift);
+    hosted_.Keys.Forward(ParentForm(), host::KeyEvent::Press, lParam, keyAscii, shift);
     KeyPress.Raise(keyAscii);
     if (keyAscii != 0)
         result = hosted_.SubclassControl.CallOriginalProc(window, WM_CHAR, static_cast<WORD>(keyAscii), lParam, handled);

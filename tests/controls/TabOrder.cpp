@@ -1,4 +1,4 @@
-#include "controls/TabOrder.h"
+#include "host/TabOrder.h"
 
 #include "controls/CommandButton/CommandButton.h"
 #include "controls/TextBox/TextBox.h"
