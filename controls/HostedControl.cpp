@@ -1,27 +1,24 @@
-// HostedControl: the properties that both have.
+// HostedControl: properties, life and messages that both have.
 #include "controls/HostedControl.h"
 
-#include "controls/FontRule.h"
-#include "controls/ZedOrder.h"
 #include "host/Form.h"
 
 #include <uxtheme.h>
 
 namespace controls {
 
-HostedControl::HostedControl(ToolTipNames names) : LibraryControl(names)
+HostedControl::HostedControl(BorderStyleValue border, int foreColor, int backColor)
+    : borderStyle_(border), foreColor_(host::SystemColor(foreColor)), backColor_(host::SystemColor(backColor))
 {
     hosted_.SubclassControl.WndProc.Connect([this](auto&&... arguments) { SubclassControl_WndProc(arguments...); });
     hosted_.SubclassParent.WndProc.Connect([this](auto&&... arguments) { SubclassParent_WndProc(arguments...); });
-    hosted_.SubclassOwner.WndProc.Connect([this](HWND, UINT message, WPARAM wParam, LPARAM, LRESULT&, bool& handled) {
-        hosted_.FormMessage(message, wParam, enabled_, handled);
-    });
+    hosted_.SubclassOwner.WndProc.Connect(
+        [this](HWND, UINT message, WPARAM wParam, LPARAM, LRESULT&, bool& handled) { hosted_.FormMessage(message, wParam, handled); });
 }
 
 void HostedControl::Begin()
 {
-    if (forceTrueType_)
-        ApplyForceTrueType(*Font(), ForceTrueTypeChoice::MessageFontFirst);
+    KeepTrueType();
     UserControl_ContainerChanged();
 }
 
@@ -33,9 +30,38 @@ void HostedControl::UserControl_ContainerChanged()
 
 void HostedControl::UserControl_Show()
 {
-    if (IsRunTime())
-        AdoptExtenderToolTip();
+    LibraryControl::UserControl_Show();
     hosted_.ControlShown();
+}
+
+void HostedControl::CreateWindowAnew()
+{
+    const HostedWindow::Creation creation(hosted_);
+    ReleaseWindow();
+    const BorderBits border = BorderBitsOf(borderStyle_);
+    HostedWindow::Shape shape = Shape();
+    shape.style |= border.style;
+    shape.extendedStyle |= border.extendedStyle;
+    if (!hosted_.Create(shape))
+        return;
+    if (useClassicTheme_)
+        SetWindowTheme(hosted_.Window(), TEXT(""), TEXT(""));
+    WindowMade();
+}
+
+void HostedControl::ReleaseWindow()
+{
+    DestroyToolTip();
+    hosted_.Destroy();
+    shownFont_.reset();
+}
+
+void HostedControl::Follow(After after)
+{
+    if (after == After::NewWindow)
+        CreateWindowAnew();
+    else
+        Refresh();
 }
 
 void HostedControl::Enabled(bool enabled)
@@ -51,14 +77,6 @@ void HostedControl::Enabled(bool enabled)
     PropertyChanged(TEXT("Enabled"));
 }
 
-void HostedControl::ForceTrueType(bool force)
-{
-    forceTrueType_ = force;
-    PropertyChanged(TEXT("ForceTrueType"));
-    if (force)
-        ApplyForceTrueType(*Font(), ForceTrueTypeChoice::MessageFontFirst);
-}
-
 /// An empty name takes the window's visual style away, no name gives it back.
 void HostedControl::UseClassicTheme(bool classic)
 {
@@ -70,10 +88,18 @@ void HostedControl::UseClassicTheme(bool classic)
     Refresh();
 }
 
-void HostedControl::ZedOrder(HWND insertAfter)
+/// The window keeps using the font that it was given, so that one lives on until the window has another.
+void HostedControl::ShowFont()
 {
-    if (MoveInZOrder(hosted_.Window(), hosted_.Container(), insertAfter))
-        Refresh();
+    const std::shared_ptr<const base::FontHandle> font = Font()->Share();
+    hosted_.Send(WM_SETFONT, reinterpret_cast<WPARAM>(font ? font->Get() : nullptr), TRUE);
+    shownFont_ = font;
+}
+
+void HostedControl::ShowColors()
+{
+    GetSurface().ForeColor(foreColor_);
+    GetSurface().BackColor(backColor_);
 }
 
 bool HostedControl::WantsKey(std::int16_t keyCode) const
@@ -81,12 +107,92 @@ bool HostedControl::WantsKey(std::int16_t keyCode) const
     return keyCode != VK_TAB && LibraryControl::WantsKey(keyCode);
 }
 
-bool HostedControl::IsOver(HWND window, LPARAM position)
+bool HostedControl::IsOver(LPARAM position) const
 {
     RECT client{};
-    GetClientRect(window, &client);
+    GetClientRect(hosted_.Window(), &client);
     const LONG x = static_cast<SHORT>(LOWORD(position)), y = static_cast<SHORT>(HIWORD(position));
     return x >= 0 && y >= 0 && x < client.right && y < client.bottom;
+}
+
+void HostedControl::SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled)
+{
+    switch (message) {
+        case WM_MOUSEMOVE:
+            if (MouseMovedOver(window))
+                MouseEntered();
+            break;
+        case WM_MOUSELEAVE:
+            MouseLeft();
+            MouseGone();
+            break;
+        case WM_SETFOCUS:
+            hosted_.WindowFocused(true);
+            SetFocus();
+            break;
+        case WM_THEMECHANGED:
+        case WM_SYSCOLORCHANGE:
+            CreateWindowAnew();
+            break;
+        case WM_PAINT:
+            hosted_.Painted();
+            break;
+        default:
+            if (host::KeyEventOf(message))
+                OnKey(window, message, wParam, lParam, result, handled);
+            else
+                OnHostedMessage(message, wParam, lParam, handled);
+    }
+}
+
+void HostedControl::OnKey(HWND, UINT message, WPARAM wParam, LPARAM lParam, LRESULT&, bool& handled)
+{
+    auto code = static_cast<std::int16_t>(wParam);
+    TellKey(message, lParam, code);
+    handled = code == 0;
+}
+
+void HostedControl::TellKey(UINT message, LPARAM lParam, std::int16_t& code)
+{
+    const host::KeyEvent event = *host::KeyEventOf(message);
+    std::int16_t shift = host::ShiftState();
+    hosted_.Keys.Forward(ParentForm(), event, lParam, code, shift);
+    // The form may have gone by now, and the window with it.
+    if (event == host::KeyEvent::Down && hosted_.Window())
+        ActOnKey(message, code);
+    RaiseKey(event, code, shift);
+}
+
+void HostedControl::ActOnKey(UINT, std::int16_t keyCode)
+{
+    if (!hosted_.ContainerIsForm())
+        PostToFormButtons(ParentForm(), keyCode);
+}
+
+void HostedControl::SubclassParent_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled)
+{
+    if (hosted_.Window() && reinterpret_cast<HWND>(lParam) == hosted_.Window()) {
+        switch (message) {
+            case WM_COMMAND:
+                OnNotification(HIWORD(wParam));
+                break;
+            case WM_CTLCOLORBTN:
+            case WM_CTLCOLOREDIT:
+            case WM_CTLCOLORSTATIC: {
+                hosted_.SubclassParent.CallOriginalProc(window, message, wParam, lParam, handled);
+                const auto dc = reinterpret_cast<HDC>(wParam);
+                SetBkColor(dc, TranslateOleColor(CurrentBackColor()));
+                SetTextColor(dc, TranslateOleColor(foreColor_));
+                result = reinterpret_cast<LRESULT>(Background(dc));
+                handled = true;
+                break;
+            }
+            default:
+                break;
+        }
+    }
+    if (hosted_.ContainerIsForm())
+        hosted_.FormMessage(message, wParam, handled);
 }
 
 }  // namespace controls

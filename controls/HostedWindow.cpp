@@ -1,7 +1,6 @@
 // HostedWindow: making, placing and showing the window. The focus is in HostedWindowFocus.cpp.
 #include "controls/HostedWindow.h"
 
-#include "controls/ZedOrder.h"
 #include "host/Form.h"
 
 namespace controls {
@@ -39,7 +38,7 @@ bool HostedWindow::Create(const Shape& shape)
     DWORD style = WS_CHILD | WS_CLIPSIBLINGS | shape.style;
     if (extender.Visible())
         style |= WS_VISIBLE;
-    if (!shape.enabled)
+    if (!control_.Enabled())
         style |= WS_DISABLED;
     if (extender.TabStop())
         style |= WS_TABSTOP;
@@ -77,7 +76,7 @@ void HostedWindow::Destroy()
 
 LRESULT HostedWindow::Send(UINT message, WPARAM wParam, LPARAM lParam) const
 {
-    return SendMessageUnsubclassed(const_cast<DSubclass&>(SubclassControl), window_, message, wParam, lParam);
+    return SendMessageUnsubclassed(SubclassControl, window_, message, wParam, lParam);
 }
 
 void HostedWindow::SetStyleBits(DWORD mask, DWORD bits) const
@@ -90,38 +89,19 @@ void HostedWindow::SetStyleBits(DWORD mask, DWORD bits) const
 
 String HostedWindow::Text() const
 {
-    return WindowTextUnsubclassed(const_cast<DSubclass&>(SubclassControl), window_);
-}
-
-void HostedWindow::Cover()
-{
-    if (!window_)
-        return;
-    const host::Extender& extender = control_.GetExtender();
-    const RECT place = extender.PixelRect();
-    lastLeft_ = extender.Left();
-    lastTop_ = extender.Top();
-    SetWindowPos(window_, HWND_TOP, place.left, place.top, place.right - place.left, place.bottom - place.top,
-                 SWP_FRAMECHANGED | SWP_NOOWNERZORDER);
-}
-
-void HostedWindow::FollowControl()
-{
-    const host::Extender& extender = control_.GetExtender();
-    if (extender.Left() != lastLeft_ || extender.Top() != lastTop_)
-        Cover();
+    return WindowTextUnsubclassed(SubclassControl, window_);
 }
 
 void HostedWindow::Redraw()
 {
-    FollowControl();
+    place_.Follow(window_, control_.GetExtender());
     if (window_)
         RedrawAll(window_);
 }
 
 void HostedWindow::ControlPainted()
 {
-    FollowControl();
+    place_.Follow(window_, control_.GetExtender());
     ControlShown();
 }
 
@@ -152,13 +132,13 @@ void HostedWindow::Painted()
 BorderBits BorderBitsOf(std::uint8_t borderStyle)
 {
     switch (borderStyle) {
-        case 1:
+        case BorderSingle:
             return {WS_BORDER, 0};
-        case 2:
+        case BorderStatic:
             return {0, WS_EX_STATICEDGE};
-        case 3:
+        case BorderSunken:
             return {0, WS_EX_CLIENTEDGE};
-        case 4:
+        case BorderRaised:
             return {WS_DLGFRAME, WS_EX_WINDOWEDGE};
         default:
             return {0, 0};

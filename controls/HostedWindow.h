@@ -4,6 +4,7 @@
 #include "base/String.h"
 #include "controls/DSubclass.h"
 #include "controls/KeyForwarding.h"
+#include "controls/WindowPlace.h"
 #include "host/TabOrder.h"
 #include "host/UserControl.h"
 
@@ -26,9 +27,11 @@ public:
     HostedWindow& operator=(const HostedWindow&) = delete;
     ~HostedWindow() { Destroy(); }
 
-    DSubclass SubclassControl;
+    // Asking the window something pauses the first.
+    mutable DSubclass SubclassControl;
     DSubclass SubclassParent;
     DSubclass SubclassOwner;
+    KeyForwarding Keys;
 
     /// Notes container and form. Call it when the control begins its life.
     void Attach();
@@ -38,7 +41,6 @@ public:
         DWORD style;  // of the class; what all hosted windows have is added
         DWORD extendedStyle;
         base::String text;
-        bool enabled;
     };
     /// Stands around the destroying of one window and the making of the next: counts as creating, and brings the focus to the new window
     /// when the former one had it.
@@ -72,9 +74,7 @@ public:
 
     // Place and visibility.
 
-    void Cover();
-    /// Covers the control when it has moved since this was last asked.
-    void FollowControl();
+    void Cover() { place_.Cover(window_, control_.GetExtender()); }
     void Redraw();
     void ControlPainted();
     void ControlShown();
@@ -93,16 +93,16 @@ public:
     bool KeepsFocusLook();
     /// The control has got the focus. Enabled, it hands it to the window; disabled, it passes it on by the key that brought it, `backward`
     /// being where Left and Up go.
-    void ControlGotFocus(bool enabled, FocusScope backward);
+    void ControlGotFocus(FocusScope backward);
     void ControlLostFocus();
     /// Gives the window the keyboard focus without its own handler hearing of it.
     void TakeFocus();
     /// Moves the focus to the next control in tab order.
     void MoveFocus(FocusDirection direction, FocusScope scope);
+    /// The same for Tab, which goes through all containers, backward with Shift.
+    void TabOn(bool shift);
     /// Activation and deactivation of the form: the window loses its focus with the form and gets it back with it.
-    void FormMessage(UINT message, WPARAM wParam, bool enabled, bool& handled);
-
-    KeyForwarding Keys;
+    void FormMessage(UINT message, WPARAM wParam, bool& handled);
 
 private:
     host::UserControl& control_;
@@ -115,11 +115,12 @@ private:
     bool controlFocused_ = false;
     bool windowFocused_ = false;
     bool keptFocusLook_ = false;
-    float lastLeft_ = 0;
-    float lastTop_ = 0;
+    WindowPlace place_;
 };
 
-/// Border styles 0 to 4 (none, single line, static edge, sunken, raised) as window style and extended window style.
+enum BorderStyleValue : std::uint8_t { BorderNone, BorderSingle, BorderStatic, BorderSunken, BorderRaised };
+
+/// A border as window style and extended window style; what is no border style counts as none.
 struct BorderBits {
     DWORD style;
     DWORD extendedStyle;

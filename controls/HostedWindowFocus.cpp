@@ -47,16 +47,16 @@ void HostedWindow::ControlLostFocus()
     }
 }
 
-void HostedWindow::ControlGotFocus(bool enabled, FocusScope backward)
+void HostedWindow::ControlGotFocus(FocusScope backward)
 {
     controlFocused_ = true;
     if (creating_ > 0)
         return;
-    if (enabled) {
+    if (control_.Enabled()) {
         if (window_ && !WindowFocused())
             TakeFocus();
     } else if (IsDownNow(VK_TAB)) {
-        MoveFocus(IsDownNow(VK_SHIFT) ? FocusDirection::Backward : FocusDirection::Forward, FocusScope::AllContainers);
+        TabOn(IsDownNow(VK_SHIFT));
     } else if (IsDownNow(VK_RIGHT) || IsDownNow(VK_DOWN)) {
         MoveFocus(FocusDirection::Forward, FocusScope::OwnContainer);
     } else if (IsDownNow(VK_LEFT) || IsDownNow(VK_UP)) {
@@ -70,12 +70,17 @@ void HostedWindow::MoveFocus(FocusDirection direction, FocusScope scope)
         host::MoveFocus(control_, direction, scope);
 }
 
+void HostedWindow::TabOn(bool shift)
+{
+    MoveFocus(shift ? FocusDirection::Backward : FocusDirection::Forward, FocusScope::AllContainers);
+}
+
 /// Windows gives an activated form's focus to the form itself; the window that had it before takes it back here.
-void HostedWindow::FormMessage(UINT message, WPARAM wParam, bool enabled, bool& handled)
+void HostedWindow::FormMessage(UINT message, WPARAM wParam, bool& handled)
 {
     if (message != WM_ACTIVATE && message != WM_ACTIVATEAPP)
         return;
-    if (!controlFocused_ || !enabled || !shown_)
+    if (!controlFocused_ || !control_.Enabled() || !shown_)
         return;
     const HWND foreground = GetForegroundWindow();
     if (message == WM_ACTIVATE && !IsOfThisProcess(foreground))

@@ -1,9 +1,22 @@
-// LibraryControl: the font and the golden section.
+// LibraryControl: what a setter does, the font and the golden section.
 #include "controls/LibraryControl.h"
 
 #include "controls/GoldenSection.h"
+#include "controls/WindowPlace.h"
 
 namespace controls {
+
+void LibraryControl::UserControl_Show()
+{
+    if (IsRunTime())
+        AdoptExtenderToolTip();
+}
+
+void LibraryControl::ZedOrder(HWND insertAfter)
+{
+    if (MoveInZOrder(hWnd(), ContainerWindow(), insertAfter))
+        Refresh();
+}
 
 double LibraryControl::GetGoldenSection(std::int32_t In_SegmentLen, bool In_GetMaxSegment) const
 {
@@ -37,6 +50,18 @@ void LibraryControl::Font(const std::shared_ptr<host::Font>& font)
     TakeFont(*font);
     FontChanged();
     PropertyChanged(TEXT("Font"));
+}
+
+void LibraryControl::ForceTrueType(bool force)
+{
+    Keep(forceTrueType_, force, TEXT("ForceTrueType"));
+    KeepTrueType();
+}
+
+void LibraryControl::KeepTrueType()
+{
+    if (forceTrueType_)
+        ApplyForceTrueType(*Font(), trueTypeChoice_);
 }
 
 }  // namespace controls

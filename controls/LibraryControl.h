@@ -1,11 +1,14 @@
 // LibraryControl: what the four controls of the library have in common.
 #pragma once
 
+#include "controls/FontRule.h"
 #include "controls/ToolTip.h"
 #include "host/UserControl.h"
 
 #include <cstdint>
 #include <memory>
+#include <type_traits>
+#include <utility>
 
 namespace controls {
 
@@ -35,6 +38,8 @@ public:
     void Visible(bool visible) { GetExtender().Visible(visible); }
     /// 0 puts the control above its siblings, 1 below them.
     void ZOrder(int position = 0) { GetExtender().ZOrder(position); }
+    /// See `MoveInZOrder`.
+    void ZedOrder(HWND insertAfter);
 
     /// See `controls::GetGoldenSection`.
     [[nodiscard]] double GetGoldenSection(std::int32_t In_SegmentLen, bool In_GetMaxSegment) const;
@@ -46,14 +51,42 @@ public:
     [[nodiscard]] const std::shared_ptr<host::Font>& Font() const { return GetSurface().Font(); }
     /// Takes a copy, so that several controls may be given one font. No font at all is ignored.
     void Font(const std::shared_ptr<host::Font>& font);
+    /// Keeps the font a TrueType text font, see `ApplyForceTrueType`.
+    [[nodiscard]] bool ForceTrueType() const { return forceTrueType_; }
+    void ForceTrueType(bool force);
 
 protected:
-    explicit LibraryControl(ToolTipNames names = {}) : ToolTip(static_cast<host::UserControl&>(*this), names) {}
+    explicit LibraryControl(ToolTipNames names = {}, ForceTrueTypeChoice trueTypeChoice = ForceTrueTypeChoice::MessageFontFirst)
+        : ToolTip(static_cast<host::UserControl&>(*this), names), trueTypeChoice_(trueTypeChoice)
+    {
+    }
+
+    void UserControl_Show() override;
+
+    /// What a changed property asks of its control.
+    enum class After { Nothing, Redraw, Relayout, NewWindow };
+    virtual void Follow(After after) = 0;
+    /// What a setter does: keeps the value, tells the container, and then what follows from it.
+    template <class T>
+    void Keep(T& field, std::type_identity_t<T> value, const WCHAR* name, After after = After::Nothing)
+    {
+        field = std::move(value);
+        PropertyChanged(name);
+        if (after != After::Nothing)
+            Follow(after);
+    }
 
     /// Makes a copy of the font the control's own, without telling anybody.
     void TakeFont(const host::Font& font);
     /// The control's font is another one or has changed: show it.
     virtual void FontChanged() = 0;
+    /// Applies the rule to the present font when it is on.
+    void KeepTrueType();
+
+    bool forceTrueType_ = false;
+
+private:
+    const ForceTrueTypeChoice trueTypeChoice_;
 };
 
 }  // namespace controls

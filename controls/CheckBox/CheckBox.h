@@ -8,7 +8,6 @@
 #include "host/Event.h"
 
 #include <cstdint>
-#include <memory>
 
 namespace controls {
 
@@ -18,7 +17,8 @@ class PropertyTable;
 /// The system draws the box; it never toggles by itself. A click or Space makes it checked or unchecked; only code makes it grayed.
 class CheckBox final : public HostedControl {
 public:
-    ~CheckBox() override { ReleaseButton(); }
+    CheckBox() : HostedControl(BorderNone, COLOR_BTNTEXT, COLOR_BTNFACE) {}
+    ~CheckBox() override { ReleaseWindow(); }
 
     [[nodiscard]] base::StringView Kind() const override { return TEXT("CheckBox"); }
 
@@ -38,21 +38,18 @@ public:
     void Style(std::int32_t style);
     /// 0 own colours, 1 takes both from the container whenever the window is made.
     [[nodiscard]] std::int32_t BackStyle() const { return backStyle_; }
-    void BackStyle(std::int32_t style);
-    /// 0 none, 1 single, 2 static edge, 3 sunken, 4 raised.
-    [[nodiscard]] std::uint8_t BorderStyle() const { return borderStyle_; }
-    void BorderStyle(std::uint8_t style);
+    void BackStyle(std::int32_t style) { Keep(backStyle_, style, TEXT("BackStyle"), After::NewWindow); }
     /// The box stands to the right of the caption.
     [[nodiscard]] bool AlignRight() const { return alignRight_; }
-    void AlignRight(bool right);
+    void AlignRight(bool right) { Keep(alignRight_, right, TEXT("AlignRight"), After::NewWindow); }
     [[nodiscard]] bool MultiLine() const { return multiLine_; }
     void MultiLine(bool multiLine);
     /// Shows the container's background, as it was when it was first needed.
     [[nodiscard]] bool Transparent() const { return transparent_; }
-    void Transparent(bool transparent);
-    [[nodiscard]] OleColor ForeColor() const { return foreColor_; }
+    void Transparent(bool transparent) { Keep(transparent_, transparent, TEXT("Transparent"), After::Redraw); }
+    using HostedControl::BackColor;
+    using HostedControl::ForeColor;
     void ForeColor(OleColor color);
-    [[nodiscard]] OleColor BackColor() const { return backColor_; }
     void BackColor(OleColor color);
     /// The control is as wide as its caption needs. Excludes `FontAutoSize`.
     [[nodiscard]] bool AutoSize() const { return autoSize_; }
@@ -73,43 +70,38 @@ private:
     void UserControl_InitProperties() override;
     void UserControl_ReadProperties(const host::PropertyBag& bag) override;
     void UserControl_WriteProperties(host::PropertyBag& bag) override;
-    void UserControl_Terminate() override { ReleaseButton(); }
     void UserControl_Resize() override;
-    void UserControl_GotFocus() override { hosted_.ControlGotFocus(enabled_, FocusScope::OwnContainer); }
+    void UserControl_GotFocus() override { hosted_.ControlGotFocus(FocusScope::OwnContainer); }
 
-    void CreateWindowAnew() override;
-    void ReleaseButton();
+    HostedWindow::Shape Shape() override;
+    void WindowMade() override;
+    void ReleaseWindow() override;
+    void OnHostedMessage(UINT message, WPARAM wParam, LPARAM lParam, bool& handled) override;
+    void OnKey(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled) override;
+    void ActOnKey(UINT message, std::int16_t keyCode) override;
+    void RaiseKey(host::KeyEvent event, std::int16_t& code, std::int16_t& shift) override { RaiseKeyOf(*this, event, code, shift); }
+    HBRUSH Background(HDC dc) override;
+    void FontChanged() override;
+    void ShowFont() override;
+
     void Toggle();
     void ResizeToCaption();
-    void FontChanged() override;
-    void ShowFont();
     void FitFont();
-    void MakeBackgroundBrush();
     void MakeTransparencyBrush();
-
-    void SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled) override;
-    void SubclassParent_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled) override;
-    void OnKeyDown(WPARAM wParam, LPARAM lParam, bool& handled);
-    void ActOnKey(std::int16_t keyCode);
 
     base::String caption_;
     std::uint8_t value_ = Unchecked;
     std::int32_t alignment_ = TextLeft;
     std::int32_t style_ = 0;
     std::int32_t backStyle_ = 0;
-    std::uint8_t borderStyle_ = BorderNone;
     bool alignRight_ = false;
     bool multiLine_ = false;
     bool transparent_ = false;
-    OleColor foreColor_ = host::SystemColor(COLOR_BTNTEXT);
-    OleColor backColor_ = host::SystemColor(COLOR_BTNFACE);
     bool autoSize_ = false;
     bool fontAutoSize_ = false;
 
     WindowDc buttonDc_;
-    base::BrushHandle backgroundBrush_;
     base::BrushHandle transparencyBrush_;
-    std::shared_ptr<const base::FontHandle> shownFont_;
     base::FontHandle narrowedFont_;
 };
 

@@ -11,8 +11,6 @@ namespace controls {
 
 enum CheckBoxAlignment : std::int32_t { TextLeft, TextRight, TextCenter };
 
-enum CheckBoxBorder : std::uint8_t { BorderNone, BorderSingle, BorderStatic, BorderSunken, BorderRaised };
-
 enum CheckBoxValue : std::uint8_t { Unchecked, Checked, Grayed };
 
 /// The button style for an alignment; what is no alignment counts as left.

@@ -1,12 +1,69 @@
-// CheckBoxProperties: what setting a check box's properties does.
+// CheckBoxProperties: what a check box stores, and what setting its properties does.
 #include "controls/CheckBox/CheckBox.h"
 #include "controls/FontNarrowing.h"
+#include "controls/PropertyTable.h"
 
 #include <cmath>
 
 namespace controls {
 
 using base::String;
+using host::PropertyBag;
+
+const PropertyTable<CheckBox>& CheckBox::Properties()
+{
+    using C = CheckBox;
+    using std::int32_t;
+    using std::uint32_t;
+    using std::uint8_t;
+    static const PropertyTable<C> table{
+        StoredAs<C, int32_t>(TEXT("BackStyle"), &C::backStyle_, 0),
+        StoredAs<C, uint8_t>(TEXT("AlignRight"), &C::alignRight_, 0),
+        StoredAs<C, uint8_t>(TEXT("FontAutoSize"), &C::fontAutoSize_, 0),
+        StoredAs<C, uint8_t>(TEXT("BorderStyle"), &C::borderStyle_, BorderNone),
+        StoredAs<C, String>(TEXT("ToolTipTextW"), Tip<C, &Settings::text>(), String()),
+        StoredAs<C, String>(TEXT("Tooltiptitle"), Tip<C, &Settings::title>(), String()),
+        StoredAs<C, int32_t>(TEXT("ToolTipIcon"), Tip<C, &Settings::icon>(), 0),
+        StoredAs<C, uint8_t>(TEXT("TooltipBalloon"), Tip<C, &Settings::balloon>(), 0),
+        StoredAs<C, uint8_t>(TEXT("ToolTipCentred"), Tip<C, &Settings::centred>(), 0),
+        StoredAs<C, int32_t>(TEXT("ToolTipWidth"), Tip<C, &Settings::width>(), 0),
+        StoredAs<C, uint32_t>(TEXT("TooltipBackColor"), Tip<C, &Settings::backColor>(), 0x80000018),
+        StoredAs<C, uint32_t>(TEXT("ToolTipForeColor"), Tip<C, &Settings::foreColor>(), 0x80000017),
+        StoredAs<C, uint8_t>(TEXT("ForceTrueType"), &C::forceTrueType_, 0),
+        StoredAs<C, uint8_t>(TEXT("AutoSize"), &C::autoSize_, 0),
+        StoredAs<C, uint32_t>(TEXT("ForeColor"), &C::foreColor_, host::SystemColor(COLOR_BTNTEXT)),
+        StoredAs<C, uint32_t>(TEXT("BackColor"), &C::backColor_, host::SystemColor(COLOR_BTNFACE)),
+        StoredAs<C, uint8_t>(TEXT("MultiLine"), &C::multiLine_, 0),
+        StoredAs<C, uint8_t>(TEXT("Transparent"), &C::transparent_, 0),
+        StoredAs<C, int32_t>(TEXT("Style"), &C::style_, 0),
+        StoredAs<C, int32_t>(TEXT("Alignment"), &C::alignment_, TextLeft),
+        StoredThrough<C, String>(
+            TEXT("Caption"), [](C& box) { return box.Caption(); }, [](C& box, const String& caption) { box.caption_ = caption; },
+            [](C& box) { return box.Ambient().DisplayName(); }),
+        StoredThrough<C, uint8_t>(
+            TEXT("Value"), [](C& box) { return box.Value(); }, [](C& box, uint8_t value) { box.value_ = value; }, Unchecked),
+        StoredThrough<C, std::shared_ptr<host::Font>>(
+            TEXT("Font"), [](C& box) { return box.Font(); }, [](C& box, const std::shared_ptr<host::Font>& font) { box.TakeFont(*font); },
+            [](C& box) { return box.Ambient().Font(); }),
+        StoredAs<C, uint8_t>(TEXT("UseClassicTheme"), &C::useClassicTheme_, 0),
+        StoredThrough<C, bool>(
+            TEXT("Visible"), [](C& box) { return box.GetExtender().Visible(); },
+            [](C& box, bool visible) { box.GetExtender().Visible(visible); }, true),
+        StoredAs<C, uint8_t>(TEXT("Enabled"), &C::enabled_, 1),
+    };
+    return table;
+}
+
+void CheckBox::UserControl_ReadProperties(const PropertyBag& bag)
+{
+    Properties().Read(*this, bag);
+    Begin();
+}
+
+void CheckBox::UserControl_WriteProperties(PropertyBag& bag)
+{
+    Properties().Write(*this, bag);
+}
 
 std::uint8_t CheckBox::Value()
 {
@@ -53,76 +110,36 @@ void CheckBox::Caption(const String& caption)
 
 void CheckBox::Alignment(std::int32_t alignment)
 {
-    alignment_ = alignment;
     hosted_.SetStyleBits(BS_LEFT | BS_RIGHT | BS_CENTER, AlignmentBits(alignment));
-    Refresh();
-    PropertyChanged(TEXT("TextAlignment"));
+    Keep(alignment_, alignment, TEXT("TextAlignment"), After::Redraw);
 }
 
 void CheckBox::MultiLine(bool multiLine)
 {
-    multiLine_ = multiLine;
     hosted_.SetStyleBits(BS_MULTILINE, multiLine ? BS_MULTILINE : 0);
-    Refresh();
-    PropertyChanged(TEXT("MultiLine"));
+    Keep(multiLine_, multiLine, TEXT("MultiLine"), After::Redraw);
 }
 
 void CheckBox::Style(std::int32_t style)
 {
-    if (style == style_)
-        return;
-    style_ = style;
-    PropertyChanged(TEXT("Style"));
-    CreateWindowAnew();
-}
-
-void CheckBox::BackStyle(std::int32_t style)
-{
-    backStyle_ = style;
-    PropertyChanged(TEXT("BackStyle"));
-    CreateWindowAnew();
-}
-
-void CheckBox::BorderStyle(std::uint8_t style)
-{
-    borderStyle_ = style;
-    PropertyChanged(TEXT("BorderStyle"));
-    CreateWindowAnew();
-}
-
-void CheckBox::AlignRight(bool right)
-{
-    alignRight_ = right;
-    PropertyChanged(TEXT("AlignRight"));
-    CreateWindowAnew();
-}
-
-void CheckBox::Transparent(bool transparent)
-{
-    transparent_ = transparent;
-    Refresh();
-    PropertyChanged(TEXT("Transparent"));
+    if (style != style_)
+        Keep(style_, style, TEXT("Style"), After::NewWindow);
 }
 
 void CheckBox::ForeColor(OleColor color)
 {
     if (color == foreColor_)
         return;
-    foreColor_ = color;
     GetSurface().ForeColor(color);
-    PropertyChanged(TEXT("ForeColor"));
-    Refresh();
+    Keep(foreColor_, color, TEXT("ForeColor"), After::Redraw);
 }
 
 void CheckBox::BackColor(OleColor color)
 {
     if (color == backColor_)
         return;
-    backColor_ = color;
     GetSurface().BackColor(color);
-    MakeBackgroundBrush();
-    PropertyChanged(TEXT("BackColor"));
-    Refresh();
+    Keep(backColor_, color, TEXT("BackColor"), After::Redraw);
 }
 
 void CheckBox::FontChanged()
@@ -132,15 +149,12 @@ void CheckBox::FontChanged()
         ResizeToCaption();
 }
 
-/// The window keeps using the font that it was given, so that one lives on until the window has another.
 void CheckBox::ShowFont()
 {
-    const std::shared_ptr<const base::FontHandle> font = Font()->Share();
-    const HFONT handle = font ? font->Get() : nullptr;
-    if (buttonDc_.Get() && handle)
-        SelectObject(buttonDc_.Get(), handle);
-    hosted_.Send(WM_SETFONT, reinterpret_cast<WPARAM>(handle), TRUE);
-    shownFont_ = font;
+    const HFONT font = Font()->Handle();
+    if (buttonDc_.Get() && font)
+        SelectObject(buttonDc_.Get(), font);
+    HostedControl::ShowFont();
     narrowedFont_.Reset();
 }
 
@@ -164,8 +178,7 @@ void CheckBox::AutoSize(bool autoSize)
 {
     if (autoSize && fontAutoSize_)
         FontAutoSize(false);
-    autoSize_ = autoSize;
-    PropertyChanged(TEXT("AutoSize"));
+    Keep(autoSize_, autoSize, TEXT("AutoSize"));
     if (autoSize)
         ResizeToCaption();
 }
@@ -183,8 +196,7 @@ void CheckBox::FontAutoSize(bool fontAutoSize)
 {
     if (fontAutoSize && autoSize_)
         AutoSize(false);
-    fontAutoSize_ = fontAutoSize;
-    PropertyChanged(TEXT("FontAutoSize"));
+    Keep(fontAutoSize_, fontAutoSize, TEXT("FontAutoSize"));
 }
 
 }  // namespace controls

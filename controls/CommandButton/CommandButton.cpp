@@ -2,9 +2,7 @@
 #include "controls/CommandButton/CommandButton.h"
 
 #include "controls/AccessKey.h"
-#include "controls/FontRule.h"
 #include "controls/PropertyTable.h"
-#include "controls/ZedOrder.h"
 
 namespace controls {
 
@@ -94,7 +92,8 @@ const PropertyTable<CommandButton>& CommandButton::Properties()
     return table;
 }
 
-CommandButton::CommandButton() : LibraryControl({.icon = TEXT("TooltipIcon"), .backColor = TEXT("ToolTipBackColor")})
+CommandButton::CommandButton()
+    : LibraryControl({.icon = TEXT("TooltipIcon"), .backColor = TEXT("ToolTipBackColor")}, ForceTrueTypeChoice::FirstFamily)
 {
     subclassControl_.WndProc.Connect([this](HWND window, UINT message, auto&&...) { SubclassControl_WndProc(window, message); });
 }
@@ -115,8 +114,7 @@ void CommandButton::UserControl_ReadProperties(const PropertyBag& bag)
 {
     Properties().Read(*this, bag);
     state_ = StateNormal;
-    if (forceTrueType_)
-        ApplyForceTrueType(*Font(), ForceTrueTypeChoice::FirstFamily);
+    KeepTrueType();
     baseFontSize_ = Font()->Size();
     GetSurface().AccessKey(AccessKeyOf(caption_));
     if (Ambient().UserMode())
@@ -144,8 +142,7 @@ void CommandButton::UserControl_Terminate()
 void CommandButton::UserControl_Show()
 {
     shown_ = true;
-    if (Ambient().UserMode())
-        AdoptExtenderToolTip();
+    LibraryControl::UserControl_Show();
     Relayout();
 }
 
@@ -154,22 +151,9 @@ void CommandButton::Refresh()
     const HWND window = hWnd();
     if (!window)
         return;
-    const host::Extender& extender = GetExtender();
-    if (extender.Top() != lastTop_ || extender.Left() != lastLeft_) {
-        lastTop_ = extender.Top();
-        lastLeft_ = extender.Left();
-        const RECT place = extender.PixelRect();
-        SetWindowPos(window, HWND_TOP, place.left, place.top, place.right - place.left, place.bottom - place.top,
-                     SWP_FRAMECHANGED | SWP_NOOWNERZORDER);
-    }
+    place_.Follow(window, GetExtender());
     Relayout();
     RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
-}
-
-void CommandButton::ZedOrder(HWND insertAfter)
-{
-    if (MoveInZOrder(hWnd(), ContainerWindow(), insertAfter))
-        Refresh();
 }
 
 }  // namespace controls

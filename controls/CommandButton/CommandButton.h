@@ -7,6 +7,7 @@
 #include "controls/CommandButton/CommandButtonValues.h"
 #include "controls/DSubclass.h"
 #include "controls/LibraryControl.h"
+#include "controls/WindowPlace.h"
 #include "host/Event.h"
 #include "host/TabOrder.h"
 
@@ -110,8 +111,6 @@ public:
     /// Fits the font to the button: 0 never, 1 narrower characters, all others fewer points. Counts from the next caption on.
     [[nodiscard]] std::int32_t FontAutoSize() const { return fontAutoSize_; }
     void FontAutoSize(std::int32_t mode);
-    [[nodiscard]] bool ForceTrueType() const { return forceTrueType_; }
-    void ForceTrueType(bool force);
     [[nodiscard]] std::int16_t MousePointer() const { return GetSurface().MousePointer(); }
     void MousePointer(std::int16_t pointer);
 
@@ -120,7 +119,6 @@ public:
     void DrawControl();
     /// Follows the container's idea of the position, lays out anew and repaints.
     void Refresh() override;
-    void ZedOrder(HWND insertAfter);
     void SetFocusEx();
     /// Opens a document or an address. The shell's result: greater than 32 when it worked.
     INT_PTR OpenLink(const base::String& sLink);
@@ -138,8 +136,6 @@ public:
     host::Event<11, std::int16_t&, std::int16_t&> KeyUp;
 
 private:
-    enum class After { Nothing, Redraw, Relayout };
-
     static const PropertyTable<CommandButton>& Properties();
     template <ButtonPicture Which>
     static auto StoredPicture(const WCHAR* key);
@@ -173,8 +169,7 @@ private:
     void ShowState(std::int32_t state);
     void MoveFocus(host::FocusDirection direction);
 
-    template <class T>
-    void Keep(T& field, T value, const WCHAR* name, After after);
+    void Follow(After after) override;
     void SendWindowText(const base::String& text);
     /// Lays the caption out for the present size and draws.
     void Relayout();
@@ -225,15 +220,13 @@ private:
     bool autoSizeApplied_ = false;
     bool fittingFont_ = false;
     base::FontHandle narrowedFont_;
-    bool forceTrueType_ = false;
 
     std::int32_t state_ = 0;
     bool hasFocus_ = false;
     bool shown_ = false;
     std::int32_t lastMouseUpButton_ = 0;
     std::int16_t lastKeyDown_ = 0;
-    float lastTop_ = 0;
-    float lastLeft_ = 0;
+    WindowPlace place_;
     CaptionPlace captionPlace_{{}, DT_CENTER | DT_WORDBREAK};
     const ButtonStyle* drawnStyle_ = nullptr;  // the row that drew last
     WindowShape windowShape_;

@@ -1,7 +1,6 @@
 // CommandButtonProperties: what setting a button's properties does.
 #include "controls/AccessKey.h"
 #include "controls/CommandButton/CommandButton.h"
-#include "controls/FontRule.h"
 
 #include <algorithm>
 
@@ -44,14 +43,11 @@ String TextFromCodes(StringView codes)
 
 }  // namespace
 
-template <class T>
-void CommandButton::Keep(T& field, T value, const WCHAR* name, After after)
+void CommandButton::Follow(After after)
 {
-    field = std::move(value);
-    PropertyChanged(name);
     if (after == After::Redraw)
         DrawControl();
-    else if (after == After::Relayout)
+    else
         Relayout();
 }
 
@@ -287,13 +283,6 @@ void CommandButton::FontChanged()
 void CommandButton::FontAutoSize(std::int32_t mode)
 {
     Keep(fontAutoSize_, mode, TEXT("FontAutoSize"), After::Nothing);
-}
-
-void CommandButton::ForceTrueType(bool force)
-{
-    Keep(forceTrueType_, force, TEXT("ForceTrueType"), After::Nothing);
-    if (force)
-        ApplyForceTrueType(*Font(), ForceTrueTypeChoice::FirstFamily);
 }
 
 void CommandButton::MousePointer(std::int16_t pointer)

@@ -35,23 +35,23 @@ public:
     void ForeColor(OleColor color);
     /// 0 own colours; 1 takes both from the container at each drawing.
     [[nodiscard]] std::int32_t BackStyle() const { return backStyle_; }
-    void BackStyle(std::int32_t style);
+    void BackStyle(std::int32_t style) { Keep(backStyle_, style, TEXT("BackStyle"), After::Redraw); }
     /// 0 none, 1 border.
     [[nodiscard]] std::int32_t BorderStyle() const { return borderStyle_; }
-    void BorderStyle(std::int32_t style);
+    void BorderStyle(std::int32_t style) { Keep(borderStyle_, style, TEXT("BorderStyle"), After::Redraw); }
     /// Classic look: 0 flat, 1 etched, 2 etched the other way round.
     [[nodiscard]] std::uint8_t Appearance() const { return appearance_; }
-    void Appearance(std::uint8_t appearance);
+    void Appearance(std::uint8_t appearance) { Keep(appearance_, appearance, TEXT("Appearance"), After::Redraw); }
     /// Corner diameter of the classic border in pixels, 0 to 20; other values become the nearest of these.
     [[nodiscard]] std::int32_t BorderRound() const { return borderRound_; }
     void BorderRound(std::int32_t round);
     [[nodiscard]] OleColor BorderColorDark() const { return borderColorDark_; }
-    void BorderColorDark(OleColor color);
+    void BorderColorDark(OleColor color) { Keep(borderColorDark_, color, TEXT("BorderColorDark"), After::Redraw); }
     [[nodiscard]] OleColor BorderColorLight() const { return borderColorLight_; }
-    void BorderColorLight(OleColor color);
+    void BorderColorLight(OleColor color) { Keep(borderColorLight_, color, TEXT("BorderColorLight"), After::Redraw); }
     /// Only the background is drawn.
     [[nodiscard]] bool Invisible() const { return invisible_; }
-    void Invisible(bool invisible);
+    void Invisible(bool invisible) { Keep(invisible_, invisible, TEXT("Invisible"), After::Redraw); }
     [[nodiscard]] bool Enabled() const override { return enabled_; }
     void Enabled(bool enabled) override;
     /// Setting `Enabled` also enables or disables the controls in the frame; those that were disabled before stay so.
@@ -64,9 +64,7 @@ public:
     [[nodiscard]] std::int16_t OLEDropMode() const { return GetSurface().OleDropMode(); }
     void OLEDropMode(std::int16_t mode);
     [[nodiscard]] bool UseClassicTheme() const { return useClassicTheme_; }
-    void UseClassicTheme(bool classic);
-    [[nodiscard]] bool ForceTrueType() const { return forceTrueType_; }
-    void ForceTrueType(bool force);
+    void UseClassicTheme(bool classic) { Keep(useClassicTheme_, classic, TEXT("UseClassicTheme"), After::Redraw); }
 
     void Refresh() override { DrawFrame(); }
     void DrawFrame();
@@ -99,7 +97,6 @@ private:
     void UserControl_ReadProperties(const host::PropertyBag& bag) override;
     void UserControl_WriteProperties(host::PropertyBag& bag) override;
     void UserControl_Terminate() override;
-    void UserControl_Show() override;
     void UserControl_Paint() override;
     void UserControl_Resize() override;
     void UserControl_AmbientChanged(base::StringView name) override;
@@ -133,9 +130,8 @@ private:
     }
 
     void FontChanged() override { DrawFrame(); }
+    void Follow(After) override { DrawFrame(); }
     void Start();
-    /// Reports a change and draws.
-    void Changed(const WCHAR* name);
     void TakeBackColor(OleColor color);
     void TakeForeColor(OleColor color);
     void TellContained(base::StringView ambient);
@@ -157,7 +153,6 @@ private:
     bool enableDisableChilds_ = false;
     bool dragDropEnabled_ = false;
     bool useClassicTheme_ = false;
-    bool forceTrueType_ = false;
 
     bool drawnOnce_ = false;
     bool fixPending_ = false;

@@ -1,17 +1,83 @@
-// FrameProperties: what setting a frame's properties does.
-#include "controls/FontRule.h"
+// FrameProperties: what a frame stores, and what setting its properties does.
 #include "controls/Frame/Frame.h"
+#include "controls/PropertyTable.h"
 
 #include <algorithm>
 
 namespace controls {
 
 using base::String;
+using host::PropertyBag;
 
-void Frame::Changed(const WCHAR* name)
+/// Two values go by the name "BackStyle": the frame's own (0 by default) and then, behind "OLEDropMode", whether its drawing surface is
+/// opaque (1, the default) or transparent. Each is left out when it equals its own default. So the first of that name is the frame's value
+/// and the last one is the surface's: where there is only one, a 1 was the frame's and the surface is opaque, a 0 was the surface's and
+/// the frame's value is 0.
+const PropertyTable<Frame>& Frame::Properties()
 {
-    PropertyChanged(name);
-    DrawFrame();
+    using std::int32_t;
+    using std::uint32_t;
+    using std::uint8_t;
+    const auto whatever = WhenDefault::Stored;
+    static const PropertyTable<Frame> table{
+        StoredAs<Frame, int32_t>(TEXT("BackStyle"), &Frame::backStyle_, 0),
+        StoredAs<Frame, uint8_t>(TEXT("DragDropEnabled"), &Frame::dragDropEnabled_, 0),
+        StoredAs<Frame, uint8_t>(TEXT("Invisible"), &Frame::invisible_, 0),
+        StoredAs<Frame, int32_t>(TEXT("BorderRound"), &Frame::borderRound_, 0),
+        StoredAs<Frame, uint32_t>(TEXT("BorderColorDark"), &Frame::borderColorDark_, host::SystemColor(COLOR_BTNSHADOW)),
+        StoredAs<Frame, uint32_t>(TEXT("BorderColorLight"), &Frame::borderColorLight_, host::SystemColor(COLOR_BTNHIGHLIGHT)),
+        StoredAs<Frame, String>(TEXT("ToolTipTextW"), Tip<Frame, &Settings::text>(), String()),
+        StoredAs<Frame, String>(TEXT("Tooltiptitle"), Tip<Frame, &Settings::title>(), String(), whatever),
+        StoredAs<Frame, int32_t>(TEXT("ToolTipIcon"), Tip<Frame, &Settings::icon>(), 0, whatever),
+        StoredAs<Frame, uint8_t>(TEXT("TooltipBalloon"), Tip<Frame, &Settings::balloon>(), 0, whatever),
+        StoredAs<Frame, uint8_t>(TEXT("ToolTipCentred"), Tip<Frame, &Settings::centred>(), 0),
+        StoredAs<Frame, int32_t>(TEXT("ToolTipWidth"), Tip<Frame, &Settings::width>(), 0),
+        StoredAs<Frame, uint32_t>(TEXT("ToolTipBackColor"), Tip<Frame, &Settings::backColor>(), 0x80000018),
+        StoredAs<Frame, uint32_t>(TEXT("ToolTipForeColor"), Tip<Frame, &Settings::foreColor>(), 0x80000017),
+        StoredAs<Frame, uint8_t>(TEXT("ForceTrueType"), &Frame::forceTrueType_, 0),
+        StoredAs<Frame, uint8_t>(TEXT("UseClassicTheme"), &Frame::useClassicTheme_, 0),
+        StoredAs<Frame, uint8_t>(TEXT("EnableDisableChilds"), &Frame::enableDisableChilds_, 0),
+        StoredThrough<Frame, uint32_t>(
+            TEXT("BackColor"), [](Frame& frame) { return frame.BackColor(); },
+            [](Frame& frame, uint32_t color) { frame.GetSurface().BackColor(color); }, host::SystemColor(COLOR_BTNFACE)),
+        StoredThrough<Frame, uint32_t>(
+            TEXT("ForeColor"), [](Frame& frame) { return frame.ForeColor(); },
+            [](Frame& frame, uint32_t color) { frame.GetSurface().ForeColor(color); }, host::SystemColor(COLOR_BTNTEXT)),
+        StoredAs<Frame, int32_t>(TEXT("BorderStyle"), &Frame::borderStyle_, 1),
+        StoredThrough<Frame, std::int16_t>(
+            TEXT("OLEDropMode"), [](Frame& frame) { return frame.OLEDropMode(); },
+            [](Frame& frame, std::int16_t mode) { frame.GetSurface().OleDropMode(mode); }, 0),
+        StoredInItsOwnWay<Frame>(
+            TEXT("BackStyle"),
+            [](Frame& frame, const PropertyBag& bag, const WCHAR* key) {
+                const std::int16_t only = bag.Read<std::int16_t>(key, 1);
+                frame.GetSurface().BackStyle(bag.Read<std::int16_t>(key, only, 1));
+            },
+            [](Frame& frame, PropertyBag& bag, const WCHAR* key) { bag.Write<std::int16_t>(key, frame.GetSurface().BackStyle(), 1); }),
+        StoredThrough<Frame, String>(
+            TEXT("Caption"), [](Frame& frame) { return frame.Caption(); },
+            [](Frame& frame, const String& caption) { frame.caption_ = caption; },
+            [](Frame& frame) { return frame.Ambient().DisplayName(); }),
+        StoredAs<Frame, uint8_t>(TEXT("Enabled"), &Frame::enabled_, 1),
+        StoredAs<Frame, uint8_t>(TEXT("Appearance"), &Frame::appearance_, 1),
+        StoredThrough<Frame, std::shared_ptr<host::Font>>(
+            TEXT("Font"), [](Frame& frame) { return frame.Font(); },
+            [](Frame& frame, const std::shared_ptr<host::Font>& font) { frame.TakeFont(*font); },
+            [](Frame& frame) { return frame.Ambient().Font(); }),
+    };
+    return table;
+}
+
+void Frame::UserControl_ReadProperties(const PropertyBag& bag)
+{
+    Properties().Read(*this, bag);
+    borderRound_ = std::clamp(borderRound_, 0, 20);
+    Start();
+}
+
+void Frame::UserControl_WriteProperties(PropertyBag& bag)
+{
+    Properties().Write(*this, bag);
 }
 
 String Frame::Caption()
@@ -25,7 +91,8 @@ void Frame::Caption(const String& caption)
 {
     caption_ = caption;
     SendMessageUnsubclassed(subclassControl_, hWnd(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(caption_.c_str()));
-    Changed(TEXT("Caption"));
+    PropertyChanged(TEXT("Caption"));
+    DrawFrame();
     RepaintWindow();
 }
 
@@ -40,13 +107,15 @@ void Frame::RepaintWindow()
 void Frame::BackColor(OleColor color)
 {
     TakeBackColor(color);
-    Changed(TEXT("BackColor"));
+    PropertyChanged(TEXT("BackColor"));
+    DrawFrame();
 }
 
 void Frame::ForeColor(OleColor color)
 {
     TakeForeColor(color);
-    Changed(TEXT("ForeColor"));
+    PropertyChanged(TEXT("ForeColor"));
+    DrawFrame();
 }
 
 void Frame::TakeBackColor(OleColor color)
@@ -72,46 +141,9 @@ void Frame::TellContained(base::StringView ambient)
         control->AmbientChanged(ambient);
 }
 
-void Frame::BackStyle(std::int32_t style)
-{
-    backStyle_ = style;
-    Changed(TEXT("BackStyle"));
-}
-
-void Frame::BorderStyle(std::int32_t style)
-{
-    borderStyle_ = style;
-    Changed(TEXT("BorderStyle"));
-}
-
-void Frame::Appearance(std::uint8_t appearance)
-{
-    appearance_ = appearance;
-    Changed(TEXT("Appearance"));
-}
-
 void Frame::BorderRound(std::int32_t round)
 {
-    borderRound_ = std::clamp(round, 0, 20);
-    Changed(TEXT("BorderRound"));
-}
-
-void Frame::BorderColorDark(OleColor color)
-{
-    borderColorDark_ = color;
-    Changed(TEXT("BorderColorDark"));
-}
-
-void Frame::BorderColorLight(OleColor color)
-{
-    borderColorLight_ = color;
-    Changed(TEXT("BorderColorLight"));
-}
-
-void Frame::Invisible(bool invisible)
-{
-    invisible_ = invisible;
-    Changed(TEXT("Invisible"));
+    Keep(borderRound_, std::clamp(round, 0, 20), TEXT("BorderRound"), After::Redraw);
 }
 
 void Frame::Enabled(bool enabled)
@@ -149,16 +181,14 @@ void Frame::EnableChildren(bool enabled)
 
 void Frame::EnableDisableChilds(bool enable)
 {
-    enableDisableChilds_ = enable;
     disabledBefore_.clear();
-    PropertyChanged(TEXT("EnableDisableChilds"));
+    Keep(enableDisableChilds_, enable, TEXT("EnableDisableChilds"));
 }
 
 void Frame::DragDropEnabled(bool enable)
 {
-    dragDropEnabled_ = enable;
     AcceptFiles(enable);
-    PropertyChanged(TEXT("DragDropEnabled"));
+    Keep(dragDropEnabled_, enable, TEXT("DragDropEnabled"));
 }
 
 void Frame::AcceptFiles(bool accept)
@@ -171,20 +201,6 @@ void Frame::OLEDropMode(std::int16_t mode)
 {
     GetSurface().OleDropMode(mode);
     PropertyChanged(TEXT("OLEDropMode"));
-}
-
-void Frame::UseClassicTheme(bool classic)
-{
-    useClassicTheme_ = classic;
-    Changed(TEXT("UseClassicTheme"));
-}
-
-void Frame::ForceTrueType(bool force)
-{
-    forceTrueType_ = force;
-    PropertyChanged(TEXT("ForceTrueType"));
-    if (force)
-        ApplyForceTrueType(*Font(), ForceTrueTypeChoice::MessageFontFirst);
 }
 
 }  // namespace controls

@@ -1,7 +1,6 @@
 // TextBox: a control that shows the system's edit window.
 #pragma once
 
-#include "base/Handles.h"
 #include "controls/HostedControl.h"
 #include "controls/TextBox/TextBoxFilter.h"
 #include "controls/TextBox/TextBoxLayout.h"
@@ -9,7 +8,6 @@
 #include "host/OwnWindow.h"
 
 #include <cstdint>
-#include <memory>
 #include <vector>
 
 namespace controls {
@@ -20,7 +18,8 @@ class PropertyTable;
 /// Its window is the system's edit. Character and line numbers count from 0.
 class TextBox final : public HostedControl {
 public:
-    ~TextBox() override { ReleaseEdit(); }
+    TextBox() : HostedControl(BorderSunken, COLOR_WINDOWTEXT, COLOR_WINDOW) {}
+    ~TextBox() override { ReleaseWindow(); }
 
     [[nodiscard]] base::StringView Kind() const override { return TEXT("TextBox"); }
 
@@ -82,15 +81,12 @@ public:
     [[nodiscard]] std::int32_t WordWrap() const { return wordWrap_; }
     void WordWrap(std::int32_t wordWrap);
     [[nodiscard]] bool HideSelection() const { return hideSelection_; }
-    void HideSelection(bool hide);
-    /// 0 none, 1 single, 2 static edge, 3 sunken, 4 raised.
-    [[nodiscard]] std::uint8_t BorderStyle() const { return borderStyle_; }
-    void BorderStyle(std::uint8_t style);
+    void HideSelection(bool hide) { Keep(hideSelection_, hide, TEXT("HideSelection"), After::NewWindow); }
     /// 0 as typed, 1 upper, 2 lower case; counts when the edit is made the next time.
     [[nodiscard]] std::uint8_t CaseStyle() const { return caseStyle_; }
-    void CaseStyle(std::uint8_t style);
+    void CaseStyle(std::uint8_t style) { Keep(caseStyle_, style, TEXT("CaseStyle")); }
     [[nodiscard]] bool TrimText() const { return trimText_; }
-    void TrimText(bool trim);
+    void TrimText(bool trim) { Keep(trimText_, trim, TEXT("TrimText")); }
     /// One character, or empty for none. Empty, and not to be set, while the system's character is used.
     [[nodiscard]] base::String PasswordChar() const;
     void PasswordChar(const base::String& character);
@@ -112,7 +108,7 @@ public:
     void AllowOnlyChars(const base::String& characters);
     /// Tab is text, not a focus key.
     [[nodiscard]] bool TabKeyTextual() const { return tabKeyTextual_; }
-    void TabKeyTextual(bool textual);
+    void TabKeyTextual(bool textual) { Keep(tabKeyTextual_, textual, TEXT("TabKeyTextual")); }
     /// Where the arrow keys move the focus: up and down always, left and right from the text's ends. Not owned.
     void ForwardFocusUp(host::Control* control) { forwardFocusUp_ = control; }
     void ForwardFocusDown(host::Control* control) { forwardFocusDown_ = control; }
@@ -121,17 +117,15 @@ public:
 
     // Looks.
 
-    using HostedControl::Enabled;
-    void Enabled(bool enabled) override;
-    [[nodiscard]] OleColor ForeColor() const { return foreColor_; }
+    using HostedControl::BackColor;
+    using HostedControl::ForeColor;
     void ForeColor(OleColor color);
-    [[nodiscard]] OleColor BackColor() const { return backColor_; }
     void BackColor(OleColor color);
     /// While the box has the focus.
     [[nodiscard]] OleColor BackColorSelected() const { return backColorSelected_; }
-    void BackColorSelected(OleColor color);
+    void BackColorSelected(OleColor color) { Keep(backColorSelected_, color, TEXT("BackColorSelected"), After::Redraw); }
     [[nodiscard]] OleColor BackColorDisabled() const { return backColorDisabled_; }
-    void BackColorDisabled(OleColor color);
+    void BackColorDisabled(OleColor color) { Keep(backColorDisabled_, color, TEXT("BackColorDisabled"), After::Redraw); }
     void SetFocusEx();
 
     host::Event<1> Click;
@@ -154,35 +148,37 @@ private:
     void UserControl_InitProperties() override;
     void UserControl_ReadProperties(const host::PropertyBag& bag) override;
     void UserControl_WriteProperties(host::PropertyBag& bag) override;
-    void UserControl_Terminate() override { ReleaseEdit(); }
     void UserControl_Paint() override;
-    void UserControl_Resize() override { hosted_.Cover(); }
     void UserControl_GotFocus() override;
     void UserControl_KeyDown(std::int16_t& keyCode, std::int16_t& shift) override;
     void UserControl_KeyUp(std::int16_t& keyCode, std::int16_t& shift) override;
     void UserControl_KeyPress(std::int16_t& keyAscii) override;
 
+    HostedWindow::Shape Shape() override;
+    void WindowMade() override;
+    void ReleaseWindow() override;
     void CreateWindowAnew() override;
-    void CreateLineWindow();
-    void ReleaseEdit();
+    void OnHostedMessage(UINT message, WPARAM wParam, LPARAM lParam, bool& handled) override;
+    void OnKey(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled) override;
+    void ActOnKey(UINT message, std::int16_t keyCode) override;
+    void RaiseKey(host::KeyEvent event, std::int16_t& code, std::int16_t& shift) override { RaiseKeyOf(*this, event, code, shift); }
+    void MouseEntered() override { MouseEnter.Raise(); }
+    void MouseGone() override { MouseLeave.Raise(); }
+    void OnNotification(WORD code) override;
+    [[nodiscard]] OleColor CurrentBackColor() const override;
     void FontChanged() override;
-    void ShowFont();
-    [[nodiscard]] OleColor CurrentBackColor() const;
-    void MakeBackgroundBrush();
+
+    void CreateLineWindow();
+    void LimitText();
     void ReplaceSelection(const base::String& text);
     /// Brings the hidden line window up to date and answers with the window that counts lines.
     HWND LineCounter(bool withCaret = false);
     LRESULT AskLines(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    /// The background is another one where the focus changes it.
+    void RepaintForFocus();
     void FixFocus();
-
-    void SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled) override;
-    void SubclassParent_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled) override;
-    void OnMouse(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    void OnKeyDown(WPARAM wParam, LPARAM lParam, bool& handled);
-    void OnOtherKey(UINT message, WPARAM wParam, LPARAM lParam, bool& handled);
     void OnChar(HWND window, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled);
     void OnKillFocus(bool& handled);
-    void OnNotification(WORD code);
     void PassKeyOn(UINT message, std::int16_t code);
     bool ForwardFocus(std::int16_t keyCode);
 
@@ -193,7 +189,6 @@ private:
     std::int32_t scrollBars_ = NoScrollBars;
     std::int32_t wordWrap_ = WordWrapByScrollBars;
     bool hideSelection_ = true;
-    std::uint8_t borderStyle_ = 3;
     std::uint8_t caseStyle_ = CaseAsTyped;
     bool trimText_ = false;
     std::int16_t passwordChar_ = 0;
@@ -203,8 +198,6 @@ private:
     bool allowOnlyNumbers_ = false;
     TextBoxRules rules_;
     bool tabKeyTextual_ = false;
-    OleColor foreColor_ = host::SystemColor(COLOR_WINDOWTEXT);
-    OleColor backColor_ = host::SystemColor(COLOR_WINDOW);
     OleColor backColorSelected_ = host::SystemColor(COLOR_WINDOW);
     OleColor backColorDisabled_ = host::SystemColor(COLOR_WINDOW);
     host::Control* forwardFocusUp_ = nullptr;
@@ -214,8 +207,6 @@ private:
 
     host::WindowHandle lineWindow_;
     bool lineWindowStale_ = false;
-    base::BrushHandle backgroundBrush_;
-    std::shared_ptr<const base::FontHandle> shownFont_;
 };
 
 }  // namespace controls

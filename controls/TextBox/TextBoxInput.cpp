@@ -1,4 +1,4 @@
-// TextBoxInput: the messages that a text box watches on its edit, its container and its form.
+// TextBoxInput: the messages, keys and notifications of a text box's edit.
 #include "controls/DroppedFiles.h"
 #include "controls/TextBox/TextBox.h"
 #include "host/Form.h"
@@ -8,35 +8,24 @@
 
 namespace controls {
 
-void TextBox::SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled)
+void TextBox::OnHostedMessage(UINT message, WPARAM wParam, LPARAM lParam, bool& handled)
 {
     switch (message) {
-        case WM_MOUSEMOVE:
-        case WM_MOUSELEAVE:
         case WM_LBUTTONUP:
-        case WM_LBUTTONDBLCLK:
-        case WM_MOUSEWHEEL:
-            OnMouse(window, message, wParam, lParam);
+            // The edit has the mouse captured, so the button may be let go anywhere.
+            if (IsOver(lParam))
+                Click.Raise();
+            FixFocus();
             break;
-        case WM_SETFOCUS:
-            if (!hosted_.WindowFocused()) {
-                hosted_.WindowFocused(true);
-                SetFocus();
-            }
+        case WM_LBUTTONDBLCLK:
+            DblClick.Raise();
+            FixFocus();
+            break;
+        case WM_MOUSEWHEEL:
+            MouseWheel.Raise(static_cast<std::int32_t>(wParam) > 0 ? 1 : 0);
             break;
         case WM_KILLFOCUS:
             OnKillFocus(handled);
-            break;
-        case WM_KEYDOWN:
-            OnKeyDown(wParam, lParam, handled);
-            break;
-        case WM_SYSKEYDOWN:
-        case WM_KEYUP:
-        case WM_SYSKEYUP:
-            OnOtherKey(message, wParam, lParam, handled);
-            break;
-        case WM_CHAR:
-            OnChar(window, wParam, lParam, result, handled);
             break;
         case WM_CONTEXTMENU:
             ContextMenu.Raise(handled);
@@ -48,41 +37,7 @@ void TextBox::SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam, 
             DragDropFile.Raise(paths, count);
             break;
         }
-        case WM_PAINT:
-            hosted_.Painted();
-            break;
-        case WM_THEMECHANGED:
-        case WM_SYSCOLORCHANGE:
-            CreateWindowAnew();
-            break;
         default:
-            break;
-    }
-}
-
-void TextBox::OnMouse(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    switch (message) {
-        case WM_MOUSEMOVE:
-            if (MouseMovedOver(window))
-                MouseEnter.Raise();
-            break;
-        case WM_MOUSELEAVE:
-            MouseLeft();
-            MouseLeave.Raise();
-            break;
-        case WM_LBUTTONUP:
-            // The edit has the mouse captured, so the button may be let go anywhere.
-            if (IsOver(window, lParam))
-                Click.Raise();
-            FixFocus();
-            break;
-        case WM_LBUTTONDBLCLK:
-            DblClick.Raise();
-            FixFocus();
-            break;
-        default:
-            MouseWheel.Raise(static_cast<std::int32_t>(wParam) > 0 ? 1 : 0);
             break;
     }
 }
@@ -98,8 +53,7 @@ void TextBox::OnKillFocus(bool& handled)
 {
     hosted_.WindowFocused(false);
     if (!tabKeyTextual_) {
-        if (enabled_ && backColor_ != backColorSelected_)
-            MakeBackgroundBrush();
+        RepaintForFocus();
     } else if (GetKeyState(VK_TAB) < 0) {
         // Tab is text here: whoever moved the focus because of it has moved it in vain.
         hosted_.TakeFocus();
@@ -108,37 +62,27 @@ void TextBox::OnKillFocus(bool& handled)
     }
 }
 
-void TextBox::OnKeyDown(WPARAM wParam, LPARAM lParam, bool& handled)
+void TextBox::OnKey(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled)
 {
-    auto keyCode = static_cast<std::int16_t>(wParam);
-    std::int16_t shift = host::ShiftState();
-    if (shift == 0 && ForwardFocus(keyCode)) {
-        handled = true;
+    if (message == WM_CHAR) {
+        OnChar(window, wParam, lParam, result, handled);
         return;
     }
-    if (keyCode == VK_TAB) {
-        if (!tabKeyTextual_)
-            hosted_.MoveFocus((shift & 1) != 0 ? FocusDirection::Backward : FocusDirection::Forward, FocusScope::AllContainers);
-        return;
+    if (message == WM_KEYDOWN) {
+        const std::int16_t shift = host::ShiftState();
+        handled = shift == 0 && ForwardFocus(static_cast<std::int16_t>(wParam));
+        if (wParam == VK_TAB && !tabKeyTextual_)
+            hosted_.TabOn((shift & 1) != 0);
+        if (handled || wParam == VK_TAB)
+            return;
     }
-    hosted_.Keys.Forward(ParentForm(), host::KeyEvent::Down, lParam, keyCode, shift);
-    // The form may have gone by now, and the edit with it.
-    if (hosted_.Window() && !hosted_.ContainerIsForm())
-        PostToFormButtons(ParentForm(), keyCode);
-    KeyDown.Raise(keyCode, shift);
-    handled = keyCode == 0;
+    HostedControl::OnKey(window, message, wParam, lParam, result, handled);
 }
 
-void TextBox::OnOtherKey(UINT message, WPARAM wParam, LPARAM lParam, bool& handled)
+void TextBox::ActOnKey(UINT message, std::int16_t keyCode)
 {
-    auto keyCode = static_cast<std::int16_t>(wParam);
-    std::int16_t shift = host::ShiftState();
-    hosted_.Keys.Forward(ParentForm(), *host::KeyEventOf(message), lParam, keyCode, shift);
-    if (message == WM_SYSKEYDOWN)
-        KeyDown.Raise(keyCode, shift);
-    else
-        KeyUp.Raise(keyCode, shift);
-    handled = keyCode == 0;
+    if (message == WM_KEYDOWN)
+        HostedControl::ActOnKey(message, keyCode);
 }
 
 void TextBox::OnChar(HWND window, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled)
@@ -148,9 +92,7 @@ void TextBox::OnChar(HWND window, WPARAM wParam, LPARAM lParam, LRESULT& result,
     std::int16_t keyAscii = PassesFilter(typed, rules_) ? static_cast<std::int16_t>(typed) : std::int16_t{0};
     if (keyAscii == VK_TAB && (!tabKeyTextual_ || GetFocus() != window))
         return;
-    std::int16_t shift = host::ShiftState();
-    hosted_.Keys.Forward(ParentForm(), host::KeyEvent::Press, lParam, keyAscii, shift);
-    KeyPress.Raise(keyAscii);
+    TellKey(WM_CHAR, lParam, keyAscii);
     if (keyAscii != 0)
         result = hosted_.SubclassControl.CallOriginalProc(window, WM_CHAR, static_cast<WORD>(keyAscii), lParam, handled);
 }
@@ -188,9 +130,8 @@ bool TextBox::ForwardFocus(std::int16_t keyCode)
 
 void TextBox::UserControl_GotFocus()
 {
-    hosted_.ControlGotFocus(enabled_, FocusScope::AllContainers);
-    if (enabled_ && backColor_ != backColorSelected_)
-        MakeBackgroundBrush();
+    hosted_.ControlGotFocus(FocusScope::AllContainers);
+    RepaintForFocus();
 }
 
 void TextBox::SetFocusEx()
@@ -220,23 +161,6 @@ void TextBox::PassKeyOn(UINT message, std::int16_t code)
 {
     if (enabled_ && hosted_.Window())
         SendMessageW(hosted_.Window(), message, static_cast<WORD>(code), 0);
-}
-
-void TextBox::SubclassParent_WndProc(HWND, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled)
-{
-    if (hosted_.Window() && reinterpret_cast<HWND>(lParam) == hosted_.Window()) {
-        if (message == WM_COMMAND) {
-            OnNotification(HIWORD(wParam));
-        } else if (message == WM_CTLCOLOREDIT || message == WM_CTLCOLORSTATIC) {
-            const auto dc = reinterpret_cast<HDC>(wParam);
-            SetBkColor(dc, TranslateOleColor(CurrentBackColor()));
-            SetTextColor(dc, TranslateOleColor(foreColor_));
-            result = reinterpret_cast<LRESULT>(backgroundBrush_.Get());
-            handled = true;
-        }
-    }
-    if (hosted_.ContainerIsForm())
-        hosted_.FormMessage(message, wParam, enabled_, handled);
 }
 
 void TextBox::OnNotification(WORD code)

@@ -1,7 +1,24 @@
-// ZedOrder: SetWindowPos and what must be repainted after it.
-#include "controls/ZedOrder.h"
+// WindowPlace: SetWindowPos and what must be repainted after it.
+#include "controls/WindowPlace.h"
 
 namespace controls {
+
+void WindowPlace::Cover(HWND window, const host::Extender& extender)
+{
+    if (!window)
+        return;
+    const RECT place = extender.PixelRect();
+    lastLeft_ = extender.Left();
+    lastTop_ = extender.Top();
+    SetWindowPos(window, HWND_TOP, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                 SWP_FRAMECHANGED | SWP_NOOWNERZORDER);
+}
+
+void WindowPlace::Follow(HWND window, const host::Extender& extender)
+{
+    if (extender.Left() != lastLeft_ || extender.Top() != lastTop_)
+        Cover(window, extender);
+}
 
 bool MoveInZOrder(HWND window, HWND container, HWND insertAfter)
 {
