@@ -39,9 +39,9 @@ public:
     /// Sets the window's text, which is never drawn.
     void ScreenReaderCaption(const base::String& text);
     [[nodiscard]] std::int32_t CaptionAlign() const { return captionAlign_; }
-    void CaptionAlign(std::int32_t align);
+    void CaptionAlign(std::int32_t align) { Keep(captionAlign_, align, TEXT("CaptionAlign"), After::Relayout); }
     [[nodiscard]] std::int32_t CaptionFx() const { return captionFx_; }
-    void CaptionFx(std::int32_t effect);
+    void CaptionFx(std::int32_t effect) { Keep(captionFx_, effect, TEXT("CaptionFx"), After::Redraw); }
 
     /// The look, 0 to 18. Style 0 switches the classic theme on, every other one off.
     [[nodiscard]] std::int32_t Style() const { return style_; }
@@ -51,9 +51,9 @@ public:
     void UseClassicTheme(bool classic);
     /// What style 7 draws when there are no visual styles.
     [[nodiscard]] std::int32_t NonThemeStyle() const { return nonThemeStyle_; }
-    void NonThemeStyle(std::int32_t style);
+    void NonThemeStyle(std::int32_t style) { Keep(nonThemeStyle_, style, TEXT("NonThemeStyle"), After::Relayout); }
     [[nodiscard]] std::int32_t ButtonType() const { return buttonType_; }
-    void ButtonType(std::int32_t type);
+    void ButtonType(std::int32_t type) { Keep(buttonType_, type, TEXT("ButtonType"), After::Redraw); }
     /// 1 while a toggle button is on, else 0. Other values are ignored.
     [[nodiscard]] std::int32_t Value() const { return value_; }
     void Value(std::int32_t value);
@@ -62,37 +62,37 @@ public:
     using host::UserControl::Enabled;
     void Enabled(bool enabled) override;
     [[nodiscard]] bool ShowFocus() const { return showFocus_; }
-    void ShowFocus(bool show);
+    void ShowFocus(bool show) { Keep(showFocus_, show, TEXT("ShowFocus"), After::Redraw); }
 
     [[nodiscard]] bool UseCustomColors() const { return useCustomColors_; }
-    void UseCustomColors(bool use);
+    void UseCustomColors(bool use) { Keep(useCustomColors_, use, TEXT("UseCustomColors"), After::Redraw); }
     [[nodiscard]] OleColor BackColor() const { return backColor_; }
     void BackColor(OleColor color);
     [[nodiscard]] OleColor BackColorDisabled() const { return backColorDisabled_; }
     void BackColorDisabled(OleColor color);
     [[nodiscard]] OleColor HighLightColor() const { return highLightColor_; }
-    void HighLightColor(OleColor color);
+    void HighLightColor(OleColor color) { Keep(highLightColor_, color, TEXT("HighlightColor"), After::Redraw); }
     [[nodiscard]] OleColor FontColor() const { return fontColor_; }
-    void FontColor(OleColor color);
+    void FontColor(OleColor color) { Keep(fontColor_, color, TEXT("FontColor"), After::Redraw); }
     [[nodiscard]] OleColor FontHighlightColor() const { return fontHighlightColor_; }
-    void FontHighlightColor(OleColor color);
+    void FontHighlightColor(OleColor color) { Keep(fontHighlightColor_, color, TEXT("FontHighlightColor"), After::Redraw); }
     [[nodiscard]] OleColor MaskColor() const { return maskColor_; }
-    void MaskColor(OleColor color);
+    void MaskColor(OleColor color) { Keep(maskColor_, color, TEXT("MaskColor"), After::Redraw); }
     [[nodiscard]] bool MaskColorEnabled() const { return maskColorEnabled_; }
-    void MaskColorEnabled(bool enable);
+    void MaskColorEnabled(bool enable) { Keep(maskColorEnabled_, enable, TEXT("MaskColorEnabled"), After::Redraw); }
     [[nodiscard]] OleColor ContourColor() const { return contourColor_; }
     void ContourColor(OleColor color);
     [[nodiscard]] std::int32_t ContourStyle() const { return contourStyle_; }
-    void ContourStyle(std::int32_t style);
+    void ContourStyle(std::int32_t style) { Keep(contourStyle_, style, TEXT("ContourStyle"), After::Redraw); }
     /// Corner diameter in pixels, never negative.
     [[nodiscard]] std::int32_t RoundedValue() const { return roundedValue_; }
     void RoundedValue(std::int32_t value);
     [[nodiscard]] bool RoundedBordersByTheme() const { return roundedBordersByTheme_; }
-    void RoundedBordersByTheme(bool rounded);
+    void RoundedBordersByTheme(bool rounded) { Keep(roundedBordersByTheme_, rounded, TEXT("RoundedBordersByTheme"), After::Redraw); }
     [[nodiscard]] std::int32_t GradientDirection() const { return gradientDirection_; }
-    void GradientDirection(std::int32_t direction);
+    void GradientDirection(std::int32_t direction) { Keep(gradientDirection_, direction, TEXT("GradientDirection"), After::Redraw); }
     [[nodiscard]] bool RightToLeft() const { return rightToLeft_; }
-    void RightToLeft(bool rightToLeft);
+    void RightToLeft(bool rightToLeft) { Keep(rightToLeft_, rightToLeft, TEXT("RightToLeft"), After::Redraw); }
     /// Shared, not copied. A state without a picture of its own shows `Picture`; a disabled button then shows it as
     /// `PictureDisabledStyle` says.
     [[nodiscard]] const std::shared_ptr<host::Picture>& Picture() const { return pictures_[NormalPicture]; }
@@ -104,13 +104,13 @@ public:
     [[nodiscard]] const std::shared_ptr<host::Picture>& PictureDisabled() const { return pictures_[DisabledPicture]; }
     void PictureDisabled(std::shared_ptr<host::Picture> picture);
     [[nodiscard]] std::int32_t PictureAlign() const { return pictureAlign_; }
-    void PictureAlign(std::int32_t align);
+    void PictureAlign(std::int32_t align) { Keep(pictureAlign_, align, TEXT("PictureAlign"), After::Relayout); }
     [[nodiscard]] std::int32_t PictureDisabledStyle() const { return pictureDisabledStyle_; }
-    void PictureDisabledStyle(std::int32_t style);
+    void PictureDisabledStyle(std::int32_t style) { Keep(pictureDisabledStyle_, style, TEXT("PictureDisabledStyle"), After::Relayout); }
 
     /// Fits the font to the button: 0 never, 1 narrower characters, all others fewer points. Counts from the next caption on.
     [[nodiscard]] std::int32_t FontAutoSize() const { return fontAutoSize_; }
-    void FontAutoSize(std::int32_t mode);
+    void FontAutoSize(std::int32_t mode) { Keep(fontAutoSize_, mode, TEXT("FontAutoSize")); }
     [[nodiscard]] std::int16_t MousePointer() const { return GetSurface().MousePointer(); }
     void MousePointer(std::int16_t pointer);
 

@@ -1,6 +1,7 @@
-// CommandButtonProperties: what setting a button's properties does.
+// CommandButtonProperties: what a button stores, and what setting its properties does.
 #include "controls/AccessKey.h"
 #include "controls/CommandButton/CommandButton.h"
+#include "controls/PropertyTable.h"
 
 #include <algorithm>
 
@@ -8,6 +9,7 @@ namespace controls {
 
 using base::String;
 using base::StringView;
+using host::PropertyBag;
 
 namespace {
 
@@ -41,7 +43,107 @@ String TextFromCodes(StringView codes)
     return text;
 }
 
+auto SystemRgb(int index)
+{
+    return [index](CommandButton&) { return GetSysColor(index); };
+}
+
 }  // namespace
+
+/// Written even when there is none.
+template <ButtonPicture Which>
+auto CommandButton::StoredPicture(const WCHAR* key)
+{
+    return StoredAs<CommandButton, std::shared_ptr<host::Picture>>(
+        key, [](CommandButton & button) -> auto& { return button.pictures_[Which]; }, nullptr, WhenDefault::Stored);
+}
+
+/// Several keys differ from their properties' names in the case of a letter; they stay as they are in the files.
+const PropertyTable<CommandButton>& CommandButton::Properties()
+{
+    using B = CommandButton;
+    using std::int32_t;
+    using std::uint32_t;
+    using std::uint8_t;
+    const auto face = host::SystemColor(COLOR_BTNFACE);
+    const auto whatever = WhenDefault::Stored;
+    static const PropertyTable<B> table{
+        StoredAs<B, uint8_t>(TEXT("CaptionHide"), &B::captionHide_, 0),
+        StoredAs<B, String>(TEXT("CaptionUniChars"), &B::captionUniChars_, String()),
+        StoredAs<B, String>(TEXT("Caption"), &B::caption_, String()),
+        StoredAs<B, int32_t>(TEXT("FontAutoSize"), &B::fontAutoSize_, AutoSizeOff),
+        StoredAs<B, String>(TEXT("ToolTipTextW"), Tip<B, &Settings::text>(), String()),
+        StoredAs<B, uint8_t>(TEXT("ForceTrueType"), &B::forceTrueType_, 0),
+        StoredAs<B, int32_t>(TEXT("GradientDirection"), &B::gradientDirection_, GradientDiagonal),
+        StoredAs<B, int32_t>(TEXT("CaptionFx"), &B::captionFx_, CaptionFxNone),
+        StoredAs<B, int32_t>(TEXT("RoundedValue"), &B::roundedValue_, 5),
+        StoredAs<B, uint32_t>(TEXT("ContourColor"), &B::contourColor_, 0),
+        StoredAs<B, int32_t>(TEXT("ContourStyle"), &B::contourStyle_, Contour3D),
+        StoredPicture<NormalPicture>(TEXT("Picture")),
+        StoredPicture<OverPicture>(TEXT("PictureOver")),
+        StoredPicture<DownPicture>(TEXT("PictureDown")),
+        StoredPicture<DisabledPicture>(TEXT("PictureDisabled")),
+        StoredAs<B, int32_t>(TEXT("PictureDisabledStyle"), &B::pictureDisabledStyle_, DisabledPictureUnchanged),
+        StoredAs<B, int32_t>(TEXT("Style"), &B::style_, ThemeStyle),
+        StoredAs<B, uint8_t>(TEXT("UseClassicTheme"), &B::useClassicTheme_, 0),
+        StoredAs<B, int32_t>(TEXT("CaptionAlign"), &B::captionAlign_, AlignCentre).WrittenBefore(TEXT("Enabled")),
+        StoredAs<B, int32_t>(TEXT("PictureAlign"), &B::pictureAlign_, AlignLeft),
+        StoredAs<B, int32_t>(TEXT("NonThemeStyle"), &B::nonThemeStyle_, ClassicStyle).WrittenBefore(TEXT("UseClassicTheme")),
+        StoredThrough<B, bool>(
+            TEXT("Enabled"), [](B& button) { return button.Enabled(); }, [](B& button, bool on) { button.GetSurface().Enabled(on); }, true),
+        StoredAs<B, uint8_t>(TEXT("ShowFocus"), &B::showFocus_, 0),
+        StoredAs<B, uint8_t>(TEXT("USeCustomColors"), &B::useCustomColors_, 0),
+        StoredAs<B, uint32_t>(TEXT("BackColor"), &B::backColor_, face),
+        StoredAs<B, uint32_t>(TEXT("BackColorDisabled"), &B::backColorDisabled_, face),
+        StoredAs<B, uint32_t>(TEXT("HighlightColor"), &B::highLightColor_, SystemRgb(COLOR_HIGHLIGHT)),
+        StoredAs<B, uint32_t>(TEXT("FontColor"), &B::fontColor_, SystemRgb(COLOR_BTNTEXT)),
+        StoredAs<B, uint32_t>(TEXT("FontHighlightColor"), &B::fontHighlightColor_, SystemRgb(COLOR_BTNTEXT)),
+        StoredAs<B, String>(TEXT("Tooltiptitle"), Tip<B, &Settings::title>(), String(), whatever),
+        StoredAs<B, int32_t>(TEXT("ToolTipIcon"), Tip<B, &Settings::icon>(), 0, whatever),
+        StoredAs<B, uint8_t>(TEXT("TooltipBalloon"), Tip<B, &Settings::balloon>(), 0, whatever),
+        StoredAs<B, uint8_t>(TEXT("ToolTipCentred"), Tip<B, &Settings::centred>(), 0),
+        StoredAs<B, int32_t>(TEXT("ToolTipWidth"), Tip<B, &Settings::width>(), 0),
+        StoredAs<B, uint32_t>(TEXT("ToolTipBackColor"), Tip<B, &Settings::backColor>(), 0x80000018),
+        StoredAs<B, uint32_t>(TEXT("ToolTipForeColor"), Tip<B, &Settings::foreColor>(), 0x80000017),
+        StoredAs<B, int32_t>(TEXT("ButtonType"), &B::buttonType_, PushButton),
+        StoredAs<B, int32_t>(TEXT("Value"), &B::value_, 0),
+        StoredAs<B, uint8_t>(TEXT("MaskColorEnabled"), &B::maskColorEnabled_, 0).WrittenBefore(TEXT("MousePointer")),
+        StoredAs<B, uint32_t>(TEXT("MaskColor"), &B::maskColor_, 0xC0C0C0),
+        StoredThrough<B, std::int16_t>(
+            TEXT("MousePointer"), [](B& button) { return button.MousePointer(); },
+            [](B& button, std::int16_t pointer) { button.GetSurface().MousePointer(pointer); }, 0),
+        StoredAs<B, uint8_t>(TEXT("RoundedBordersByTheme"), &B::roundedBordersByTheme_, 1),
+        StoredAs<B, bool>(TEXT("RightToLeft"), &B::rightToLeft_, false),
+        StoredThrough<B, std::shared_ptr<host::Font>>(
+            TEXT("Font"), [](B& button) { return button.Font(); },
+            [](B& button, const std::shared_ptr<host::Font>& font) { button.TakeFont(*font); },
+            [](B& button) { return button.Ambient().Font(); }, whatever)
+            .WrittenBefore(TEXT("ButtonType")),
+    };
+    return table;
+}
+
+void CommandButton::UserControl_ReadProperties(const PropertyBag& bag)
+{
+    Properties().Read(*this, bag);
+    state_ = StateNormal;
+    KeepTrueType();
+    baseFontSize_ = Font()->Size();
+    GetSurface().AccessKey(AccessKeyOf(caption_));
+    if (Ambient().UserMode())
+        subclassControl_.TryEnable(hWnd());
+    Relayout();
+    Caption(caption_);
+    savedStyle_ = style_;
+    UseClassicTheme(useClassicTheme_);
+    if (!captionUniChars_.empty())
+        CaptionUniChars(captionUniChars_);
+}
+
+void CommandButton::UserControl_WriteProperties(PropertyBag& bag)
+{
+    Properties().Write(*this, bag);
+}
 
 void CommandButton::Follow(After after)
 {
@@ -119,16 +221,6 @@ void CommandButton::UseClassicTheme(bool classic)
         DrawControl();
 }
 
-void CommandButton::NonThemeStyle(std::int32_t style)
-{
-    Keep(nonThemeStyle_, style, TEXT("NonThemeStyle"), After::Relayout);
-}
-
-void CommandButton::ButtonType(std::int32_t type)
-{
-    Keep(buttonType_, type, TEXT("ButtonType"), After::Redraw);
-}
-
 void CommandButton::Value(std::int32_t value)
 {
     if ((value != 0 && value != 1) || value == value_)
@@ -146,16 +238,6 @@ void CommandButton::Enabled(bool enabled)
     DrawControl();
 }
 
-void CommandButton::ShowFocus(bool show)
-{
-    Keep(showFocus_, show, TEXT("ShowFocus"), After::Redraw);
-}
-
-void CommandButton::UseCustomColors(bool use)
-{
-    Keep(useCustomColors_, use, TEXT("UseCustomColors"), After::Redraw);
-}
-
 void CommandButton::BackColor(OleColor color)
 {
     Keep(backColor_, color, TEXT("BackColor"), Enabled() ? After::Redraw : After::Nothing);
@@ -168,40 +250,10 @@ void CommandButton::BackColorDisabled(OleColor color)
     Keep(backColorDisabled_, color, TEXT("BackColorDisabled"), Enabled() ? After::Nothing : After::Redraw);
 }
 
-void CommandButton::HighLightColor(OleColor color)
-{
-    Keep(highLightColor_, color, TEXT("HighlightColor"), After::Redraw);
-}
-
-void CommandButton::FontColor(OleColor color)
-{
-    Keep(fontColor_, color, TEXT("FontColor"), After::Redraw);
-}
-
-void CommandButton::FontHighlightColor(OleColor color)
-{
-    Keep(fontHighlightColor_, color, TEXT("FontHighlightColor"), After::Redraw);
-}
-
-void CommandButton::MaskColor(OleColor color)
-{
-    Keep(maskColor_, color, TEXT("MaskColor"), After::Redraw);
-}
-
-void CommandButton::MaskColorEnabled(bool enable)
-{
-    Keep(maskColorEnabled_, enable, TEXT("MaskColorEnabled"), After::Redraw);
-}
-
 void CommandButton::ContourColor(OleColor color)
 {
     if (color != contourColor_)
         Keep(contourColor_, color, TEXT("ContourColor"), After::Redraw);
-}
-
-void CommandButton::ContourStyle(std::int32_t style)
-{
-    Keep(contourStyle_, style, TEXT("ContourStyle"), After::Redraw);
 }
 
 void CommandButton::RoundedValue(std::int32_t value)
@@ -213,31 +265,6 @@ void CommandButton::RoundedValue(std::int32_t value)
     PropertyChanged(TEXT("RoundedValue"));
     roundedValue_ = value;
     DrawControl();
-}
-
-void CommandButton::RoundedBordersByTheme(bool rounded)
-{
-    Keep(roundedBordersByTheme_, rounded, TEXT("RoundedBordersByTheme"), After::Redraw);
-}
-
-void CommandButton::GradientDirection(std::int32_t direction)
-{
-    Keep(gradientDirection_, direction, TEXT("GradientDirection"), After::Redraw);
-}
-
-void CommandButton::RightToLeft(bool rightToLeft)
-{
-    Keep(rightToLeft_, rightToLeft, TEXT("RightToLeft"), After::Redraw);
-}
-
-void CommandButton::CaptionAlign(std::int32_t align)
-{
-    Keep(captionAlign_, align, TEXT("CaptionAlign"), After::Relayout);
-}
-
-void CommandButton::CaptionFx(std::int32_t effect)
-{
-    Keep(captionFx_, effect, TEXT("CaptionFx"), After::Redraw);
 }
 
 void CommandButton::Picture(std::shared_ptr<host::Picture> picture)
@@ -260,16 +287,6 @@ void CommandButton::PictureDisabled(std::shared_ptr<host::Picture> picture)
     Keep(pictures_[DisabledPicture], std::move(picture), TEXT("PictureDisabled"), After::Relayout);
 }
 
-void CommandButton::PictureAlign(std::int32_t align)
-{
-    Keep(pictureAlign_, align, TEXT("PictureAlign"), After::Relayout);
-}
-
-void CommandButton::PictureDisabledStyle(std::int32_t style)
-{
-    Keep(pictureDisabledStyle_, style, TEXT("PictureDisabledStyle"), After::Relayout);
-}
-
 /// The steps that fit the font to the button are not the user's.
 void CommandButton::FontChanged()
 {
@@ -278,11 +295,6 @@ void CommandButton::FontChanged()
     GiveNarrowedFontBack();
     baseFontSize_ = Font()->Size();
     DrawControl();
-}
-
-void CommandButton::FontAutoSize(std::int32_t mode)
-{
-    Keep(fontAutoSize_, mode, TEXT("FontAutoSize"), After::Nothing);
 }
 
 void CommandButton::MousePointer(std::int16_t pointer)
