@@ -16,6 +16,23 @@ HostedControl::HostedControl(BorderStyleValue border, int foreColor, int backCol
         [this](HWND, UINT message, WPARAM wParam, LPARAM, LRESULT&, bool& handled) { hosted_.FormMessage(message, wParam, handled); });
 }
 
+/// A program with visual styles whose common controls nobody has initialised gets no window of a system class. The shell is kept loaded
+/// meanwhile: it must not go before the common controls that it uses.
+void HostedControl::UserControl_Initialize()
+{
+    shellLibrary_.Reset(LoadLibraryW(TEXT("SHELL32.DLL")));
+    if (!shellLibrary_)
+        return;
+    const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES};
+    InitCommonControlsEx(&classes);
+}
+
+void HostedControl::UserControl_Terminate()
+{
+    ReleaseWindow();
+    shellLibrary_.Reset();
+}
+
 void HostedControl::Begin()
 {
     KeepTrueType();
@@ -51,7 +68,7 @@ void HostedControl::CreateWindowAnew()
 
 void HostedControl::ReleaseWindow()
 {
-    DestroyToolTip();
+    MouseLeft();
     hosted_.Destroy();
     shownFont_.reset();
 }

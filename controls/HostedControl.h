@@ -1,6 +1,7 @@
 // HostedControl: what the check box and the text box have in common, the two controls that show a system window in place of their own.
 #pragma once
 
+#include "base/Handles.h"
 #include "controls/BackgroundBrush.h"
 #include "controls/HostedWindow.h"
 #include "controls/LibraryControl.h"
@@ -65,7 +66,8 @@ protected:
     /// What the system window's background is filled with at a paint on `dc`.
     [[nodiscard]] virtual HBRUSH Background(HDC /*dc*/) { return backgroundBrush_.In(CurrentBackColor()); }
 
-    void UserControl_Terminate() override { ReleaseWindow(); }
+    void UserControl_Initialize() override;
+    void UserControl_Terminate() override;
     void UserControl_Show() override;
     void UserControl_Hide() override { hosted_.ControlHidden(); }
     void UserControl_Paint() override { hosted_.ControlPainted(); }
@@ -97,6 +99,7 @@ private:
     void SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled);
     void SubclassParent_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled);
 
+    base::ModuleHandle shellLibrary_;
     BackgroundBrush backgroundBrush_;
     std::shared_ptr<const base::FontHandle> shownFont_;
 };

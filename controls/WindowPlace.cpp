@@ -23,7 +23,8 @@ void WindowPlace::Follow(HWND window, const host::Extender& extender)
 bool MoveInZOrder(HWND window, HWND container, HWND insertAfter)
 {
     const bool toEnd = insertAfter == HWND_TOP || insertAfter == HWND_BOTTOM;
-    if (!toEnd && !IsWindow(insertAfter))
+    // Without a window the whole desktop would be redrawn.
+    if (!window || (!toEnd && !IsWindow(insertAfter)))
         return false;
     SetWindowPos(window, insertAfter, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_FRAMECHANGED | SWP_NOOWNERZORDER);
     if (insertAfter == HWND_BOTTOM) {

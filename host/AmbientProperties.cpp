@@ -32,7 +32,7 @@ OleColor AmbientProperties::ForeColor() const
 
 bool AmbientProperties::RightToLeft() const
 {
-    return false;
+    return control_.ParentForm().RightToLeft();
 }
 
 bool AmbientProperties::DisplayAsDefault() const

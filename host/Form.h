@@ -67,6 +67,8 @@ public:
     /// When true the form sees every key before the control that has the focus.
     [[nodiscard]] bool KeyPreview() const { return keyPreview_; }
     void KeyPreview(bool preview) { keyPreview_ = preview; }
+    /// Whether its texts are read from right to left.
+    [[nodiscard]] bool RightToLeft() const { return rightToLeft_; }
     [[nodiscard]] host::ScaleMode ScaleMode() const { return scaleMode_; }
     [[nodiscard]] const std::shared_ptr<host::Font>& Font() const { return font_; }
     void Font(std::shared_ptr<host::Font> font);
@@ -154,6 +156,7 @@ private:
     int clientWidth_ = 0;
     int clientHeight_ = 0;
     bool keyPreview_ = false;
+    bool rightToLeft_ = false;
     bool userMode_ = true;
     host::ScaleMode scaleMode_ = ScaleMode::twips;
     std::shared_ptr<host::Font> font_ = std::make_shared<host::Font>();

@@ -11,6 +11,7 @@ constexpr const WCHAR* captionKey = TEXT("Caption");
 constexpr const WCHAR* clientWidthKey = TEXT("ClientWidth");
 constexpr const WCHAR* clientHeightKey = TEXT("ClientHeight");
 constexpr const WCHAR* keyPreviewKey = TEXT("KeyPreview");
+constexpr const WCHAR* rightToLeftKey = TEXT("RightToLeft");
 constexpr const WCHAR* scaleModeKey = TEXT("ScaleMode");
 constexpr const WCHAR* fontKey = TEXT("Font");
 
@@ -40,6 +41,7 @@ void Form::ReadProperties(const PropertyBag& bag)
     clientWidth_ = bag.Read<std::int32_t>(clientWidthKey, 0);
     clientHeight_ = bag.Read<std::int32_t>(clientHeightKey, 0);
     keyPreview_ = bag.Read<bool>(keyPreviewKey, false);
+    rightToLeft_ = bag.Read<bool>(rightToLeftKey, false);
     scaleMode_ = bag.Read<std::int32_t>(scaleModeKey, 1) == 3 ? ScaleMode::pixels : ScaleMode::twips;
     font_ = bag.Read<std::shared_ptr<host::Font>>(fontKey, std::make_shared<host::Font>());
 }
@@ -127,6 +129,7 @@ std::string Form::Write() const
     bag.Write(clientWidthKey, std::int32_t{clientWidth_});
     bag.Write(clientHeightKey, std::int32_t{clientHeight_});
     bag.Write(keyPreviewKey, keyPreview_, false);
+    bag.Write(rightToLeftKey, rightToLeft_, false);
     bag.Write(scaleModeKey, static_cast<std::int32_t>(scaleMode_), static_cast<std::int32_t>(ScaleMode::twips));
     bag.Write(fontKey, font_, std::make_shared<host::Font>());
     FormNode root{TEXT("Form"), name_, bag.Properties(), {}};

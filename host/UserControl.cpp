@@ -47,7 +47,8 @@ void UserControl::Unload()
 {
     if (stage_ == Stage::Made || stage_ == Stage::Unloaded)
         return;
-    Hidden();
+    if (isShown_)
+        Hidden();
     stage_ = Stage::Unloaded;
     UserControl_Terminate();
     surface_.Attach(nullptr);
@@ -61,9 +62,11 @@ void UserControl::Shown()
         UserControl_Show();
 }
 
+/// A control that is hidden before it was ever shown hears of it too: it may have a window that would be seen.
 void UserControl::Hidden()
 {
-    if (std::exchange(isShown_, false))
+    isShown_ = false;
+    if (stage_ == Stage::Loaded)
         UserControl_Hide();
 }
 

@@ -24,7 +24,8 @@ void CheckBox::ReleaseWindow()
     buttonDc_.Release();
     HostedControl::ReleaseWindow();
     transparencyBrush_.Reset();
-    narrowedFont_.Reset();
+    fittedFont_.Reset();
+    isNarrowed_ = false;
 }
 
 HostedWindow::Shape CheckBox::Shape()
@@ -39,17 +40,18 @@ HostedWindow::Shape CheckBox::Shape()
 void CheckBox::WindowMade()
 {
     buttonDc_.Take(hosted_.Window(), WindowDc::Area::Client);
+    // What follows may draw at once, and asks for the colours then.
+    hosted_.Subclass();
     // A new window is unchecked, so any other value counts as a change and raises Click.
     Value(value_);
     ShowFont();
     if (fontAutoSize_)
         FitFont();
     if (backStyle_ == 1) {
-        foreColor_ = Ambient().ForeColor();
-        backColor_ = Ambient().BackColor();
+        ForeColor(Ambient().ForeColor());
+        BackColor(Ambient().BackColor());
     }
     ShowColors();
-    hosted_.Subclass();
 }
 
 HBRUSH CheckBox::Background(HDC dc)

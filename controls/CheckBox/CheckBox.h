@@ -87,6 +87,7 @@ private:
     void Toggle();
     void ResizeToCaption();
     void FitFont();
+    void ShowFittedFont(base::FontHandle font);
     void MakeTransparencyBrush();
 
     base::String caption_;
@@ -102,7 +103,8 @@ private:
 
     WindowDc buttonDc_;
     base::BrushHandle transparencyBrush_;
-    base::FontHandle narrowedFont_;
+    base::FontHandle fittedFont_;
+    bool isNarrowed_ = false;
 };
 
 }  // namespace controls

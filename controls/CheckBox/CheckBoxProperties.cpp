@@ -75,7 +75,7 @@ std::uint8_t CheckBox::Value()
 /// -1 is compared before it becomes 1: setting it on a checked box counts as a change.
 void CheckBox::Value(std::int32_t value)
 {
-    if (value == hosted_.Send(BM_GETCHECK))
+    if (value == (hosted_.Window() ? hosted_.Send(BM_GETCHECK) : value_))
         return;
     if (value == -1)
         value = Checked;
@@ -155,23 +155,36 @@ void CheckBox::ShowFont()
     if (buttonDc_.Get() && font)
         SelectObject(buttonDc_.Get(), font);
     HostedControl::ShowFont();
-    narrowedFont_.Reset();
+    fittedFont_.Reset();
+    isNarrowed_ = false;
 }
 
-/// A narrowed font begins again at half the font's height, its width by rule of thumb.
+/// A narrowed font begins again at a width by rule of thumb, half the font's height.
 void CheckBox::FitFont()
 {
     if (caption_.empty() || !buttonDc_.Get())
         return;
-    ShowFont();
-    LOGFONTW start = Font()->LogicalFont();
-    start.lfWidth = MulDiv(static_cast<int>(std::lrint(Font()->Size() / 2)), GetDeviceCaps(buttonDc_.Get(), LOGPIXELSX), 72);
+    LOGFONTW wide = Font()->LogicalFont();
+    wide.lfWidth = MulDiv(static_cast<int>(std::lrint(Font()->Size() / 2)), GetDeviceCaps(buttonDc_.Get(), LOGPIXELSX), 72);
+    if (std::exchange(isNarrowed_, false)) {
+        base::FontHandle font(CreateFontIndirectW(&wide));
+        SelectObject(buttonDc_.Get(), font.Get());
+        ShowFittedFont(std::move(font));
+    }
     const RECT place = GetExtender().PixelRect();
-    narrowedFont_ = NarrowToFit(buttonDc_.Get(), start, caption_, RoomForCaption(place.right - place.left));
-    if (!narrowedFont_)
+    base::FontHandle narrower = NarrowToFit(buttonDc_.Get(), wide, caption_, RoomForCaption(place.right - place.left));
+    if (!narrower)
         return;
-    hosted_.Send(WM_SETFONT, reinterpret_cast<WPARAM>(narrowedFont_.Get()), TRUE);
+    isNarrowed_ = true;
+    ShowFittedFont(std::move(narrower));
     Refresh();
+}
+
+/// The button draws with the font that it was told last.
+void CheckBox::ShowFittedFont(base::FontHandle font)
+{
+    hosted_.Send(WM_SETFONT, reinterpret_cast<WPARAM>(font.Get()), TRUE);
+    fittedFont_ = std::move(font);
 }
 
 void CheckBox::AutoSize(bool autoSize)

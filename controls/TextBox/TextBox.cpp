@@ -26,14 +26,14 @@ void TextBox::ReleaseWindow()
 
 void TextBox::CreateWindowAnew()
 {
-    const bool hadEdit = hosted_.Window() != nullptr;
-    const String text = hadEdit ? hosted_.Text() : cachedText_;
-    const std::int32_t caret = hadEdit ? SelStart() : 0;
+    if (hosted_.Window())
+        cachedText_ = hosted_.Text();
+    const std::int32_t start = SelStart(), length = SelLength();
     HostedControl::CreateWindowAnew();
     if (!hosted_.Window())
         return;
-    Text(text);
-    SelStart(caret);
+    Text(cachedText_);
+    SetSel(start, length);
     ScrollToActualPos();
 }
 
@@ -51,6 +51,8 @@ void TextBox::WindowMade()
     ShowFont();
     LimitText();
     hosted_.SetStyleBits(ES_NUMBER, allowOnlyNumbers_ ? ES_NUMBER : 0);
+    if (allowOnlyNumbers_)
+        rules_ = {};
     if (locked_)
         hosted_.Send(EM_SETREADONLY, TRUE);
     if (passwordChar_ != 0 && !useSystemPasswordChar_)

@@ -179,6 +179,7 @@ private:
     void FixFocus();
     void OnChar(HWND window, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled);
     void OnKillFocus(bool& handled);
+    void TypeTab();
     void PassKeyOn(UINT message, std::int16_t code);
     bool ForwardFocus(std::int16_t keyCode);
 

@@ -31,6 +31,8 @@ void TextBox::OnHostedMessage(UINT message, WPARAM wParam, LPARAM lParam, bool& 
             ContextMenu.Raise(handled);
             break;
         case WM_DROPFILES: {
+            if (!dragDropEnabled_)
+                break;
             handled = true;
             std::vector<base::String> paths = TakeDroppedFiles(reinterpret_cast<HDROP>(wParam));
             auto count = static_cast<std::int16_t>(paths.size());
@@ -55,11 +57,19 @@ void TextBox::OnKillFocus(bool& handled)
     if (!tabKeyTextual_) {
         RepaintForFocus();
     } else if (GetKeyState(VK_TAB) < 0) {
-        // Tab is text here: whoever moved the focus because of it has moved it in vain.
-        hosted_.TakeFocus();
-        ReplaceSelection(TEXT("    "));
-        handled = true;
+        // Tab is text here: whoever moved the focus because of it has moved it in vain. The form must know so too.
+        SetFocus();
+        handled = hosted_.WindowFocused();
+        if (handled)
+            TypeTab();
     }
+}
+
+/// A single-line edit has no tab characters; in a multi-line one the edit itself types what the key stands for.
+void TextBox::TypeTab()
+{
+    if (!locked_)
+        ReplaceSelection(TEXT("    "));
 }
 
 void TextBox::OnKey(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled)
@@ -73,6 +83,8 @@ void TextBox::OnKey(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRE
         handled = shift == 0 && ForwardFocus(static_cast<std::int16_t>(wParam));
         if (wParam == VK_TAB && !tabKeyTextual_)
             hosted_.TabOn((shift & 1) != 0);
+        else if (wParam == VK_TAB && !multiLine_ && (shift & ~1) == 0)
+            TypeTab();
         if (handled || wParam == VK_TAB)
             return;
     }
@@ -121,6 +133,8 @@ bool TextBox::ForwardFocus(std::int16_t keyCode)
     if (!target)
         return false;
     target->SetFocus();
+    if (target->ParentForm().ActiveControl() != target)
+        return false;
     if (auto* const box = dynamic_cast<TextBox*>(target)) {
         const std::int32_t start = keyCode == VK_RIGHT ? 0 : keyCode == VK_LEFT ? box->Length() : SelStart();
         box->SelStart(std::min(start, box->Length()));

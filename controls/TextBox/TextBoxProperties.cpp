@@ -99,24 +99,20 @@ void TextBox::Locked(bool locked)
 /// A password box is single-line, so each of the two turns the other off.
 void TextBox::MultiLine(bool multiLine)
 {
-    multiLine_ = multiLine;
     if (multiLine && useSystemPasswordChar_) {
-        useSystemPasswordChar_ = false;
-        passwordChar_ = 0;
+        Keep(useSystemPasswordChar_, false, TEXT("UseSystemPasswordChar"));
+        Keep(passwordChar_, std::int16_t{0}, TEXT("PasswordChar"));
     }
-    PropertyChanged(TEXT("MultiLine"));
-    CreateWindowAnew();
+    Keep(multiLine_, multiLine, TEXT("MultiLine"), After::NewWindow);
 }
 
 void TextBox::UseSystemPasswordChar(bool use)
 {
-    useSystemPasswordChar_ = use;
     if (use && multiLine_) {
-        multiLine_ = false;
-        passwordChar_ = 0;
+        Keep(multiLine_, false, TEXT("MultiLine"));
+        Keep(passwordChar_, std::int16_t{0}, TEXT("PasswordChar"));
     }
-    PropertyChanged(TEXT("UseSystemPasswordChar"));
-    CreateWindowAnew();
+    Keep(useSystemPasswordChar_, use, TEXT("UseSystemPasswordChar"), After::NewWindow);
 }
 
 String TextBox::PasswordChar() const

@@ -48,7 +48,8 @@ std::int32_t TextBox::Length() const
 
 void TextBox::SetSel(std::int32_t In_Start, std::int32_t In_Length)
 {
-    hosted_.Send(EM_SETSEL, static_cast<WPARAM>(In_Start), In_Start + In_Length);
+    const std::int64_t end = std::int64_t{In_Start} + In_Length;
+    hosted_.Send(EM_SETSEL, static_cast<WPARAM>(In_Start), static_cast<LPARAM>(std::clamp<std::int64_t>(end, INT32_MIN, INT32_MAX)));
 }
 
 std::int32_t TextBox::SelStart() const

@@ -27,6 +27,19 @@ protected:
 
     /// Moves the mouse to a place of the control, counted from its corner.
     void Point(std::string_view name, int x = 20, int y = 10) { MoveMouse(Any(name).OwnHandle(), x, y); }
+    static LRESULT Send(host::Control& control, UINT message) { return SendMessageW(control.hWnd(), message, 0, 0); }
+    /// The colour that the container is asked for.
+    static COLORREF Background(host::Control& control)
+    {
+        const HDC dc = GetDC(control.hWnd());
+        const LRESULT brush = SendMessageW(GetParent(control.hWnd()), WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(dc),
+                                           reinterpret_cast<LPARAM>(control.hWnd()));
+        LOGBRUSH description{};
+        GetObjectW(reinterpret_cast<HBRUSH>(brush), sizeof description, &description);
+        EXPECT_EQ(GetBkColor(dc), description.lbColor);
+        ReleaseDC(control.hWnd(), dc);
+        return description.lbColor;
+    }
     /// The keyboard focus is on the window that is seen, not on the one behind it.
     bool HasKeys(std::string_view name) { return GetFocus() == Any(name).hWnd(); }
 };
@@ -126,6 +139,74 @@ TEST_F(HostedControl, ButtonLetGoElsewhere_IsNoClick)
         EXPECT_EQ(Take(), Lines{name}) << "still on it";
     }
     EXPECT_EQ(Get<controls::CheckBox>("Tick").Value(), 1);
+}
+
+TEST_F(HostedControl, NewWindow_KeepsAllButItself)
+{
+    auto& text = Get<controls::TextBox>("Second");
+    auto& tick = Get<controls::CheckBox>("Tick");
+    text.BackColorSelected(2);
+    text.MouseEnter.Connect([this] { Note("enter"); });
+    tick.ToolTipTextW(TEXT("tip"));
+    using Renew = std::function<void()>;
+    const Renew ofText[] = {
+        [&] { text.HideSelection(false); }, [&] { text.MultiLine(true); },        [&] { text.ScrollBars(2); },
+        [&] { text.WordWrap(1); },          [&] { text.BorderStyle(4); },         [&] { text.UseSystemPasswordChar(true); },
+        [&] { text.Container(*form); },     [&] { Send(text, WM_THEMECHANGED); }, [&] { Send(text, WM_SYSCOLORCHANGE); }};
+    const Renew ofTick[] = {[&] { tick.Style(1); },       [&] { tick.BackStyle(1); },           [&] { tick.AlignRight(true); },
+                            [&] { tick.BorderStyle(2); }, [&] { Send(tick, WM_THEMECHANGED); }, [&] { Send(tick, WM_SYSCOLORCHANGE); }};
+    for (const Renew& renew : ofText) {
+        text.SetFocus();
+        text.Text(TEXT(""));
+        SendMessageW(text.hWnd(), EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(TEXT("typed")));
+        text.SetSel(1, 3);
+        Send(text, WM_MOUSEMOVE);
+        const HWND before = text.hWnd();
+        renew();
+        SCOPED_TRACE(&renew - ofText);
+        EXPECT_FALSE(IsWindow(before));
+        EXPECT_EQ(text.Text(), TEXT("typed"));
+        EXPECT_EQ(text.SelText(), TEXT("ype"));
+        EXPECT_TRUE(HasKeys("Second"));
+        EXPECT_EQ(form->ActiveControl(), &text);
+        EXPECT_EQ(Background(text), 2U);
+        Take();
+        Send(text, WM_MOUSEMOVE);
+        EXPECT_EQ(Take(), Lines{"enter"});
+    }
+    for (const Renew& renew : ofTick) {
+        tick.SetFocus();
+        tick.Value(2);
+        Send(tick, WM_MOUSEMOVE);
+        const HWND before = tick.hWnd(), tip = tick.ToolTipWindow();
+        renew();
+        SCOPED_TRACE(&renew - ofTick);
+        EXPECT_FALSE(IsWindow(before) || IsWindow(tip));
+        EXPECT_EQ(tick.Value(), 2);
+        EXPECT_EQ(tick.Caption(), TEXT("t"));
+        EXPECT_TRUE(HasKeys("Tick"));
+        EXPECT_EQ(form->ActiveControl(), &tick);
+        EXPECT_NE(Send(tick, BM_GETSTATE) & BST_FOCUS, 0);
+        Send(tick, WM_MOUSEMOVE);
+        EXPECT_NE(tick.ToolTipWindow(), nullptr);
+    }
+    text.Enabled(false);
+    text.BorderStyle(0);
+    EXPECT_FALSE(IsWindowEnabled(text.hWnd()));
+}
+
+TEST_F(HostedControl, HiddenBeforeTheForm_IsNeverSeen)
+{
+    form = std::make_unique<KeyForm>();
+    ASSERT_TRUE(form->Load("Form F { TextBox T { Width = 900 Height = 300 } CheckBox C { Width = 900 Height = 300 } }", factory));
+    for (host::Control* const control : form->Controls()) {
+        control->GetExtender().Visible(false);
+        EXPECT_EQ(GetWindowLongW(control->hWnd(), GWL_STYLE) & WS_VISIBLE, 0);
+        control->GetExtender().Visible(true);
+    }
+    form->Show();
+    for (host::Control* const control : form->Controls())
+        EXPECT_TRUE(IsWindowVisible(control->hWnd()));
 }
 
 }  // namespace tests

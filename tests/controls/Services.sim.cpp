@@ -76,6 +76,11 @@ TEST_F(SharedServices, DroppedFiles_AreNamedInOneEvent)
         SendMessageW(Any(name).hWnd(), WM_DROPFILES, reinterpret_cast<WPARAM>(shell.MakeDrop({u"C:\\a.txt", u" C:\\b ", u"C:\\c"})), 0);
     const std::string expected = "3 [C:\\a.txt] [C:\\b] [C:\\c]";
     EXPECT_EQ(Take(), (Lines{expected, expected}));
+    Get<controls::TextBox>("Text").DragDropEnabled(false);
+    const HDROP unwanted = shell.MakeDrop({u"C:\\a.txt"});
+    SendMessageW(Any("Text").hWnd(), WM_DROPFILES, reinterpret_cast<WPARAM>(unwanted), 0);
+    EXPECT_EQ(Take(), Lines{});
+    DragFinish(unwanted);
 }
 
 TEST_F(SharedServices, TipWindowThatCannotBeMade_IsTriedAgainAtTheNextEntry)

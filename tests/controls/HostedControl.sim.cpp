@@ -1,0 +1,43 @@
+// A check box and a text box whose windows Windows refuses, and what they keep meanwhile.
+#include "controls/CheckBox/CheckBox.h"
+#include "controls/TextBox/TextBox.h"
+#include "platform/sim/SimPc.h"
+#include "tests/controls/FormFixture.h"
+
+namespace tests {
+
+class HostedControlFailures : public FormFixture {};
+
+TEST_F(HostedControlFailures, WithoutAWindow_KeepsWhatItHad)
+{
+    Open(R"(TextBox Text { Width = 900 Height = 300 TabIndex = 1 Text = "stored" } CheckBox Tick { Top = 600 Width = 900 Height = 300 })");
+    auto& text = Get<controls::TextBox>("Text");
+    auto& tick = Get<controls::CheckBox>("Tick");
+    text.SetFocus();
+    SendMessageW(text.hWnd(), WM_CHAR, 'x', 1);
+    tick.Value(1);
+    platform::SimPc& pc = platform::SimPc::Current();
+    pc.GetFaults().FailAlways("CreateWindowExW", ERROR_NOT_ENOUGH_MEMORY);
+    text.MultiLine(true);
+    tick.AlignRight(true);
+    EXPECT_EQ(text.hWnd(), nullptr);
+    EXPECT_EQ(text.Text(), TEXT("xstored"));
+    EXPECT_EQ(tick.Value(), 1);
+    tick.Click.Connect([this] { Note("click"); });
+    tick.Value(1);
+    EXPECT_EQ(Take(), Lines{});
+    tick.Value(0);
+    EXPECT_EQ(Take(), Lines{"click"});
+    pc.Trace().Start();
+    for (const HWND place : {HWND_TOP, HWND_BOTTOM, tick.OwnHandle()})
+        tick.ZedOrder(place);
+    EXPECT_EQ(pc.Trace().Count("RedrawWindow"), 0U) << "not the whole desktop";
+    pc.GetFaults().Clear();
+    text.MultiLine(false);
+    tick.AlignRight(false);
+    EXPECT_EQ(text.Text(), TEXT("xstored"));
+    EXPECT_EQ(tick.Value(), 0);
+    EXPECT_EQ(SendMessageW(tick.hWnd(), BM_GETCHECK, 0, 0), 0);
+}
+
+}  // namespace tests
