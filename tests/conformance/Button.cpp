@@ -48,17 +48,6 @@ TEST_F(Button, Click_GivesTheFocusFirstAndLeavesTheCheck)
     EXPECT_EQ(Check(button), BST_UNCHECKED);
 }
 
-TEST_F(Button, ReleaseOutside_IsNoClick)
-{
-    const HWND button = Add(BS_3STATE);
-    SendMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-    SendMessageW(button, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(500, 5));
-    EXPECT_FALSE(State(button) & BST_PUSHED);
-    SendMessageW(button, WM_LBUTTONUP, 0, MAKELPARAM(500, 5));
-    EXPECT_EQ(Check(button), BST_UNCHECKED);
-    EXPECT_EQ(parent_.Codes(), Codes());
-}
-
 TEST_F(Button, SpaceBar_ClicksWhenItIsReleased)
 {
     const HWND button = Add(BS_3STATE);

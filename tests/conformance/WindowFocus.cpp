@@ -50,16 +50,4 @@ TEST(WindowFocus, DisabledWindow_LosesTheFocusAndCannotHaveIt)
     EXPECT_EQ(GetFocus(), nullptr) << "but gets none below a disabled window";
 }
 
-TEST(WindowFocus, HiddenChild_HandsTheFocusToItsParent)
-{
-    MessageLog log;
-    const HWND top = log.Create("top", kTop | WS_VISIBLE);
-    const HWND child = log.Create("child", kChild, top, {0, 0, 40, 20});
-    SetFocus(child);
-    log.Clear();
-    EXPECT_TRUE(ShowWindow(child, SW_HIDE));
-    EXPECT_TRUE(log.Is(
-        {"child WM_SHOWWINDOW 0", "child WM_WINDOWPOSCHANGING", "child WM_WINDOWPOSCHANGED", "child WM_KILLFOCUS", "top WM_SETFOCUS"}));
-}
-
 }  // namespace
