@@ -82,15 +82,18 @@ TEST_F(Keys, SwallowedKey_NeverReachesTheEdit)
 
 TEST_F(Keys, DeactivatedForm_GivesTheFocusBackToItsControl)
 {
-    Any("Tick").SetFocus();
     const HWND other =
         CreateWindowExW(0, TEXT("Static"), TEXT(""), WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr, nullptr, nullptr);
-    SetForegroundWindow(other);
-    host::MessageLoop::RunPending();
-    EXPECT_EQ(Focused(), "none");
-    SetForegroundWindow(form->hWnd());
-    host::MessageLoop::RunPending();
-    EXPECT_EQ(Focused(), "Tick");
+    for (const char* const name : {"Tick", "Text", "Ok", "Outer"}) {
+        SetForegroundWindow(form->hWnd());
+        Any(name).SetFocus();
+        SetForegroundWindow(other);
+        host::MessageLoop::RunPending();
+        EXPECT_EQ(Focused(), "none");
+        SetForegroundWindow(form->hWnd());
+        host::MessageLoop::RunPending();
+        EXPECT_EQ(Focused(), name) << "and to none that had it before";
+    }
     DestroyWindow(other);
 }
 

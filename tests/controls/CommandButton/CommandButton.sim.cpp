@@ -126,6 +126,8 @@ TEST_F(CommandButtonCalls, Theme_DrawsTheStateAndTheFocusAsDefaulted)
     EXPECT_EQ(drawn(), "2");
     Button().Enabled(false);
     EXPECT_EQ(drawn(), "4");
+    Button().Enabled(true);
+    EXPECT_EQ(drawn(), "5") << "it has forgotten the mouse";
 }
 
 TEST_F(CommandButtonCalls, EveryStyle_HasItsMargin)

@@ -108,7 +108,7 @@ TEST(PictureEffects, AreWholeNumbers)
         EXPECT_EQ(darker[static_cast<std::size_t>(value)], dark) << value;
     }
     for (const auto& [pixel, grey] :
-         {std::pair{0xFF0000U, 0x4C4C4CU}, {0x00FF00U, 0x969696U}, {0x0000FFU, 0x1C1C1CU}, {0xFFFFFFU, 0xFFFFFFU}})
+         {std::pair{0xFF0000U, 0x4C4C4CU}, {0x00FF00U, 0x969696U}, {0x0000FFU, 0x1C1C1CU}, {0xFFFFFFU, 0xFFFFFFU}, {0x030000U, 0x010101U}})
         EXPECT_EQ(Grey(pixel), grey);
     const auto over = [](std::uint32_t picture, std::uint32_t beneath, const PictureEffect& effect) {
         Pixels under(1, 1);
