@@ -60,6 +60,8 @@ pictures() {
     convert buttons.png -strip "$root/docs/buttons.png"
     open_window gallery.exe
     import -window "The controls" "$root/docs/gallery.png"
+    convert "$root/docs/gallery.png" -crop 702x24+4+691 -strip +repage "$root/docs/checkboxes.png"
+    convert "$root/docs/gallery.png" -crop 702x44+4+712 -strip +repage "$root/docs/textboxes.png"
     ls -l "$root"/docs/*.png
 }
 
