@@ -123,6 +123,12 @@ TEST_F(UserControl, Picture_SurvivesHidingAndGoesWithANewSize)
     EXPECT_EQ(log.Take(), (Lines{"Inner.Hide", "Inner.LostFocus", "Inner.ExitFocus", "Inner.Show"}));
     EXPECT_EQ(GetPixel(inner.GetSurface().Dc(), 3, 4), 0x123456U);
     EXPECT_EQ(GetPixel(inner.GetSurface().Dc(), 100, 4), CLR_INVALID);
+    for (const UINT message : {WM_PRINTCLIENT, WM_PAINT}) {
+        const HDC paper = ProbeNamed(TEXT("Outer")).GetSurface().Dc();
+        SendMessageW(inner.OwnHandle(), message, reinterpret_cast<WPARAM>(paper), 0);
+        EXPECT_EQ(GetPixel(paper, 3, 4), 0x123456U) << message;
+        SetPixel(paper, 3, 4, 0);
+    }
     inner.GetExtender().Width(1515);
     EXPECT_EQ(log.Take(), Lines{"Inner.Resize 101x30"});
     EXPECT_EQ(GetPixel(inner.GetSurface().Dc(), 3, 4), GetSysColor(COLOR_BTNFACE));
