@@ -107,7 +107,7 @@ public:
     void PassFocusOn(Control& from);
     /// A control is enabled again: it gets back the focus that was passed on from it, if nobody has moved it since.
     void GiveFocusBack(Control& to);
-    /// The user has pressed a key or a mouse button: whoever has the focus keeps it.
+    /// The user has pressed a key or the left mouse button: whoever has the focus keeps it.
     void SettleFocus() { passedOnFrom_ = nullptr; }
     /// A window that is no one's to type in got the keyboard focus: the active control gets it, or the first that can take it.
     void RestoreFocus();
