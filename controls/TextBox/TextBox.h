@@ -46,6 +46,8 @@ public:
     /// Whether the user has edited since this was last asked. With `In_ResetOnly` forgets it and answers false.
     bool IsChanged(bool In_ResetOnly);
     void ScrollToActualPos();
+    /// Prints `Text` on the default printer in the box's font. False when nothing was printed.
+    [[nodiscard]] bool PrintText();
 
     // Lines; with `EnhacedLineComputing` as if word wrap were off.
 

@@ -1,5 +1,6 @@
 // TextBoxText: text, selection and lines.
 #include "controls/TextBox/TextBox.h"
+#include "controls/TextPrinter.h"
 
 #include <algorithm>
 
@@ -124,6 +125,11 @@ bool TextBox::IsChanged(bool In_ResetOnly)
     if (changed || In_ResetOnly)
         hosted_.Send(EM_SETMODIFY, FALSE);
     return changed;
+}
+
+bool TextBox::PrintText()
+{
+    return PrintOnDefaultPrinter(Text(), GetExtender().Name(), *Font());
 }
 
 void TextBox::ScrollToActualPos()

@@ -238,6 +238,8 @@ struct BITMAPFILEHEADER {
 // ---- Device contexts ----
 
 HDC WINAPI CreateCompatibleDC(HDC dc);
+typedef struct _devicemodeW DEVMODEW;
+HDC WINAPI CreateDCW(LPCWSTR driver, LPCWSTR device, LPCWSTR port, const DEVMODEW* mode);
 BOOL WINAPI DeleteDC(HDC dc);
 int WINAPI GetDeviceCaps(HDC dc, int index);
 COLORREF WINAPI SetBkColor(HDC dc, COLORREF color);
@@ -295,5 +297,21 @@ BOOL WINAPI PtInRegion(HRGN region, int x, int y);
 // ---- Text ----
 
 BOOL WINAPI GetTextExtentPoint32W(HDC dc, LPCWSTR text, int length, LPSIZE size);
+BOOL WINAPI GetTextExtentExPointW(HDC dc, LPCWSTR text, int length, int width, LPINT fit, LPINT widths, LPSIZE size);
+
+// ---- Printing ----
+constexpr int SP_ERROR = -1;
+typedef struct _DOCINFOW {
+    int cbSize;
+    LPCWSTR lpszDocName;
+    LPCWSTR lpszOutput;
+    LPCWSTR lpszDatatype;
+    DWORD fwType;
+} DOCINFOW;
+int WINAPI StartDocW(HDC dc, const DOCINFOW* info);
+int WINAPI StartPage(HDC dc);
+int WINAPI EndPage(HDC dc);
+int WINAPI EndDoc(HDC dc);
+int WINAPI AbortDoc(HDC dc);
 BOOL WINAPI GetTextMetricsW(HDC dc, LPTEXTMETRICW metrics);
 int WINAPI EnumFontFamiliesExW(HDC dc, LOGFONTW* font, FONTENUMPROCW callback, LPARAM parameter, DWORD flags);

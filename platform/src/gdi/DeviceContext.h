@@ -35,6 +35,13 @@ public:
 
     State state;
 
+    /// What it asks of its own device; without one it is the screen's.
+    struct Device {
+        int dpi;
+        SIZE size;  // in pixels
+    };
+    std::optional<Device> device;
+
     [[nodiscard]] bool IsMemory() const { return memory_; }
     [[nodiscard]] HWND Window() const { return window_; }
     [[nodiscard]] const std::shared_ptr<Image>& Pixels() const { return pixels_; }

@@ -19,7 +19,7 @@ BOOL WINAPI DeleteDC(HDC dc)
     SIM_NOTE(dc);
     const auto context = FindDc(dc);
     // Device contexts of windows go back by ReleaseDC only.
-    return context && context->IsMemory() && SimPc::Current().Get<Graphics>().CloseDc(dc);
+    return context && (context->IsMemory() || context->device) && SimPc::Current().Get<Graphics>().CloseDc(dc);
 }
 
 int WINAPI GetDeviceCaps(HDC dc, int index)
@@ -29,21 +29,22 @@ int WINAPI GetDeviceCaps(HDC dc, int index)
     if (!context)
         return 0;
     const Graphics& graphics = SimPc::Current().Get<Graphics>();
-    const auto millimetres = [&](LONG pixels) { return static_cast<int>(pixels * 254 / graphics.Dpi() / 10); };
+    const DeviceContext::Device device = context->device.value_or(DeviceContext::Device{graphics.Dpi(), graphics.ScreenSize()});
+    const auto millimetres = [&](LONG pixels) { return static_cast<int>(pixels * 254 / device.dpi / 10); };
     switch (index) {
         case TECHNOLOGY:
             return 1;
         case HORZSIZE:
-            return millimetres(graphics.ScreenSize().cx);
+            return millimetres(device.size.cx);
         case VERTSIZE:
-            return millimetres(graphics.ScreenSize().cy);
+            return millimetres(device.size.cy);
         case HORZRES:
-            return graphics.ScreenSize().cx;
+            return device.size.cx;
         case VERTRES:
-            return graphics.ScreenSize().cy;
+            return device.size.cy;
         case LOGPIXELSX:
         case LOGPIXELSY:
-            return graphics.Dpi();
+            return device.dpi;
         case BITSPIXEL:
             return 32;
         case PLANES:

@@ -64,6 +64,26 @@ BOOL WINAPI GetTextExtentPoint32W(HDC dc, LPCWSTR text, int length, LPSIZE size)
     return TRUE;
 }
 
+/// `widths`, where each character ends, is not asked for here.
+BOOL WINAPI GetTextExtentExPointW(HDC dc, LPCWSTR text, int length, int width, LPINT fit, LPINT widths, LPSIZE size)
+{
+    SIM_CALL(FALSE, ERROR_NOT_ENOUGH_MEMORY, dc, Counted(text, length).c_str(), length, width);
+    const auto context = FindDc(dc);
+    if (!context || !size || !fit || length < 0)
+        return FALSE;
+    if (widths) {
+        SimPc::Current().Unsupported("GetTextExtentExPointW: partial widths");
+        return FALSE;
+    }
+    const Typeface face = TypefaceOf(*context);
+    const std::u16string_view all(text, static_cast<std::size_t>(length));
+    *size = {face.Width(all), length > 0 ? face.Height() : 0};
+    *fit = length;
+    while (face.Width(all.substr(0, static_cast<std::size_t>(*fit))) > width)
+        --*fit;
+    return TRUE;
+}
+
 BOOL WINAPI GetTextMetricsW(HDC dc, LPTEXTMETRICW metrics)
 {
     SIM_NOTE(dc);
