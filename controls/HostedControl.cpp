@@ -94,6 +94,14 @@ void HostedControl::Enabled(bool enabled)
     PropertyChanged(TEXT("Enabled"));
 }
 
+/// Windows may have refused to hand the focus over to the system window the last time.
+void HostedControl::SetFocus()
+{
+    LibraryControl::SetFocus();
+    if (enabled_ && hosted_.Window() && hosted_.ControlFocused() && GetFocus() == OwnHandle())
+        hosted_.TakeFocus();
+}
+
 /// An empty name takes the window's visual style away, no name gives it back.
 void HostedControl::UseClassicTheme(bool classic)
 {

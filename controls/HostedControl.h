@@ -29,6 +29,7 @@ public:
     [[nodiscard]] OleColor BackColor() const { return backColor_; }
 
     void Refresh() override { hosted_.Redraw(); }
+    void SetFocus() override;
     /// Tab on the own window moves the focus on; the system window has its own way with keys.
     [[nodiscard]] bool WantsKey(std::int16_t keyCode) const override;
 

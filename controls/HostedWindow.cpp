@@ -16,9 +16,11 @@ void HostedWindow::Attach()
 }
 
 /// The focus waits on the control's own window while there is no hosted one. Windows would give it to the container otherwise, and the
-/// form would take that for a change of its active control.
-HostedWindow::Creation::Creation(HostedWindow& hosted) : hosted_(hosted), hadFocus_(hosted.window_ && GetFocus() == hosted.window_)
+/// form would take that for a change of its active control. There it still waits when Windows refused the last one.
+HostedWindow::Creation::Creation(HostedWindow& hosted) : hosted_(hosted)
 {
+    const HWND focus = GetFocus();
+    hadFocus_ = focus && focus == (hosted_.window_ ? hosted_.window_ : hosted_.control_.OwnHandle());
     ++hosted_.creating_;
     if (hadFocus_)
         SetFocus(hosted_.control_.OwnHandle());

@@ -53,7 +53,7 @@ public:
 
     private:
         HostedWindow& hosted_;
-        bool hadFocus_;
+        bool hadFocus_ = false;
     };
     /// Makes the window over the control, visible as the control is. False when Windows refuses; there is no window then.
     bool Create(const Shape& shape);

@@ -77,7 +77,7 @@ void StockControl::SetFocus()
     if (!CanGetFocusNow(*this))
         return;
     ParentForm().Activate(this);
-    if (hWnd() != nullptr)
+    if (ParentForm().ActiveControl() == this && hWnd() != nullptr)
         ::SetFocus(hWnd());
 }
 

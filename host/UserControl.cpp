@@ -120,7 +120,7 @@ void UserControl::SetFocus()
         return;
     // The control that is left must know so before its windows lose the keyboard focus.
     form.Activate(this);
-    if (OwnHandle() != nullptr)
+    if (form.ActiveControl() == this && OwnHandle() != nullptr)
         ::SetFocus(OwnHandle());
 }
 

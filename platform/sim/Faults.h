@@ -18,9 +18,10 @@ public:
     void FailAlways(std::string_view function, DWORD error);
     /// The `n`-th fallible call from now fails, whatever its name, with the error that its own gate names. 0 switches this off.
     void FailNth(std::uint64_t n);
+    /// Nothing fails any more; what was counted and struck stays.
     void Clear();
 
-    /// Fallible calls counted since the last `FailNth` or `Clear`.
+    /// Fallible calls between the last `FailNth` and `Clear`.
     [[nodiscard]] std::uint64_t Counted() const { return counted_; }
     /// Name of the call that `FailNth` made fail, empty while none has.
     [[nodiscard]] const std::string& Struck() const { return struck_; }

@@ -141,6 +141,68 @@ TEST_F(HostedControl, ButtonLetGoElsewhere_IsNoClick)
     EXPECT_EQ(Get<controls::CheckBox>("Tick").Value(), 1);
 }
 
+TEST_F(HostedControl, KeysOfARealKeyboard_AreFilteredAndPastingIsNot)
+{
+    const auto pressWithControl = [](WORD key) {
+        SendKey(VK_CONTROL);
+        PressKey(key);
+        SendKey(VK_CONTROL, KEYEVENTF_KEYUP);
+    };
+    auto& box = Get<controls::TextBox>("Second");
+    const struct {
+        const char* rule;
+        std::function<void(bool)> set;
+        const WCHAR* typed;
+    } rules[] = {{"letters", [&](bool on) { box.AllowOnlyAlphabetics(on); }, TEXT("ae ")},
+                 {"some", [&](bool on) { box.AllowOnlyChars(on ? TEXT("A1") : TEXT("")); }, TEXT("a1")},
+                 {"digits", [&](bool on) { box.AllowOnlyNumbers(on); }, TEXT("12")},
+                 {"none", [](bool) {}, TEXT("a1e2 ")}};
+    Get<controls::TextBox>("First").Text(TEXT("-x3"));
+    Any("First").SetFocus();
+    pressWithControl('A');
+    Get<controls::TextBox>("First").SetSel(0, 3);
+    pressWithControl('C');
+    for (const auto& [rule, set, typed] : rules) {
+        SCOPED_TRACE(rule);
+        Point("Second");
+        ClickMouse();
+        box.Text(TEXT(""));
+        set(true);
+        for (const char key : {'A', '1', 'E', '2', ' '})
+            PressKey(static_cast<WORD>(key));
+        EXPECT_EQ(box.Text(), typed);
+        box.Text(TEXT("b"));
+        box.SetSel(1, 0);
+        pressWithControl('V');
+        EXPECT_EQ(box.Text(), TEXT("b-x3"));
+        box.UnDo();
+        EXPECT_EQ(box.Text(), TEXT("b"));
+        set(false);
+    }
+}
+
+TEST_F(HostedControl, RightClick_GivesTheEditTheFocusAndAsksForAMenu)
+{
+    for (const char* const name : {"Second", "Outside"}) {
+        auto& box = Get<controls::TextBox>(name);
+        box.ContextMenu.Connect([&](bool& cancel) {
+            Note(name);
+            cancel = true;
+        });
+        Any("First").SetFocus();
+        Point(name);
+        MouseButton(MOUSEEVENTF_RIGHTDOWN);
+        MouseButton(MOUSEEVENTF_RIGHTUP);
+        EXPECT_EQ(Take(), Lines{name});
+        Any("First").SetFocus();
+        PressKey('Z');
+        box.SetFocus();
+        PressKey('Y');
+        EXPECT_NE(box.Text().find(TEXT('y')), base::String::npos) << name;
+    }
+    EXPECT_NE(Get<controls::TextBox>("First").Text().find(TEXT("zz")), base::String::npos);
+}
+
 TEST_F(HostedControl, NewWindow_KeepsAllButItself)
 {
     auto& text = Get<controls::TextBox>("Second");

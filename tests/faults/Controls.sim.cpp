@@ -1,6 +1,8 @@
 // Each control while one Windows call after another fails: without a window, a heap, a device context, a font or a theme it neither
 // crashes nor leaks.
+#include "controls/CheckBox/CheckBox.h"
 #include "controls/RegisterControls.h"
+#include "controls/TextBox/TextBox.h"
 #include "controls/ThemeState.h"
 #include "host/Form.h"
 #include "host/MessageLoop.h"
@@ -20,23 +22,27 @@ struct Kind {
 
 constexpr const char* tip = R"(ToolTipTextW = "A tip" Tooltiptitle = "Title" Left = 150 Top = 150 Width = 900 Height = 450 )";
 
-class ControlFaults : public testing::TestWithParam<Kind> {
+class FormWithOneControl : public testing::Test {
 protected:
     /// The control alone on its form. The version of the common controls is asked for anew.
-    bool Load(host::Form& form)
+    bool Load(host::Form& form, const std::string& control)
     {
         controls::ThemeState::OfProcess().AskVersionWith({});
         controls::RegisterControls(factory_);
         platform::SimPc::Current().OnPump([] { host::MessageLoop::RunPending(); });
-        const std::string control = GetParam().control;
         const std::size_t brace = control.find('{') + 1;
         return form.Load(
             "Form F { ClientWidth = 1800 ClientHeight = 1200\n" + control.substr(0, brace) + tip + control.substr(brace) + "\n}", factory_);
     }
-    ~ControlFaults() override { controls::ThemeState::OfProcess().AskVersionWith({}); }
+    ~FormWithOneControl() override { controls::ThemeState::OfProcess().AskVersionWith({}); }
 
 private:
     host::ControlFactory factory_;
+};
+
+class ControlFaults : public FormWithOneControl, public testing::WithParamInterface<Kind> {
+protected:
+    bool Load(host::Form& form) { return FormWithOneControl::Load(form, GetParam().control); }
 };
 
 TEST_P(ControlFaults, Creation)
@@ -51,6 +57,108 @@ TEST_P(ControlFaults, Creation)
         platform::SimPc::Current().Settle();
         form.Unload();
         EXPECT_EQ(form.hWnd(), nullptr);
+    });
+}
+
+/// A form with one of the two controls that show a system window, and what the user and the program know of it.
+class HostedFaults : public FormWithOneControl {
+protected:
+    template <class Control>
+    Control& Show(host::Form& form, const std::string& control)
+    {
+        EXPECT_TRUE(Load(form, control)) << form.LoadError();
+        form.Show();
+        SetForegroundWindow(form.hWnd());
+        platform::SimPc::Current().Settle();
+        auto& shown = dynamic_cast<Control&>(*form.Controls().front());
+        shown.SetFocus();
+        return shown;
+    }
+    /// After the fault the control is whole again at the next new window, and takes keys.
+    template <class Control>
+    static void ExpectWhole(host::Form& form, Control& control)
+    {
+        platform::SimPc::Current().GetFaults().Clear();
+        control.BorderStyle(2);
+        control.SetFocus();
+        ASSERT_TRUE(IsWindow(control.hWnd()));
+        EXPECT_EQ(GetFocus(), control.hWnd());
+        EXPECT_EQ(form.ActiveControl(), &control);
+        EXPECT_TRUE(IsWindowVisible(control.hWnd()) && IsWindowEnabled(control.hWnd()));
+        EXPECT_EQ(GetWindowLongW(control.hWnd(), GWL_EXSTYLE) & WS_EX_STATICEDGE, WS_EX_STATICEDGE);
+    }
+};
+
+/// What was typed is lost at no call: a window that cannot be made anew leaves its text to the next one.
+TEST_F(HostedFaults, TextOfATextBox)
+{
+    FaultSweep([this](const auto& arm) {
+        auto& desktop = platform::SimPc::Current().Get<platform::Desktop>();
+        host::Form form;
+        auto& box = Show<controls::TextBox>(form, R"(TextBox C { Text = "text" EnhacedLineComputing = 1 })");
+        base::String known = box.Text();
+        arm();
+        desktop.Type(u"ab");
+        if (box.hWnd())
+            known = box.Text();
+        const std::function<void()> renewals[] = {[&] { box.MultiLine(true); },
+                                                  [&] { box.ScrollBars(2); },
+                                                  [&] { box.WordWrap(1); },
+                                                  [&] { box.HideSelection(false); },
+                                                  [&] { box.MultiLine(false); },
+                                                  [&] { box.BorderStyle(4); },
+                                                  [&] { box.UseSystemPasswordChar(true); },
+                                                  [&] { desktop.AnnounceThemeChange(); },
+                                                  [&] { box.UseSystemPasswordChar(false); }};
+        for (const auto& renew : renewals) {
+            SCOPED_TRACE(&renew - renewals);
+            renew();
+            EXPECT_EQ(box.Text(), known);
+            EXPECT_EQ(form.ActiveControl(), &box);
+        }
+        box.Font(std::make_shared<host::Font>(host::FontDescription{.name = TEXT("Tahoma"), .size = 12}));
+        box.MaxLength(50);
+        box.Locked(true);
+        box.Locked(false);
+        EXPECT_EQ(box.Text(), known);
+        ExpectWhole(form, box);
+        EXPECT_EQ(box.Text(), known);
+        EXPECT_EQ(box.Font()->Name(), TEXT("Tahoma"));
+        EXPECT_EQ(SendMessageW(box.hWnd(), EM_GETLIMITTEXT, 0, 0), 50);
+        box.SetSel(0, INT32_MAX);
+        desktop.Type(u"z");
+        EXPECT_EQ(box.Text(), TEXT("z"));
+    });
+}
+
+TEST_F(HostedFaults, ValueOfACheckBox)
+{
+    FaultSweep([this](const auto& arm) {
+        auto& desktop = platform::SimPc::Current().Get<platform::Desktop>();
+        host::Form form;
+        auto& box = Show<controls::CheckBox>(form, R"(CheckBox C { BackStyle = 1 Caption = "A &check box" })");
+        box.Value(2);
+        arm();
+        const std::function<void()> renewals[] = {[&] { box.Style(1); },       [&] { box.AlignRight(true); },
+                                                  [&] { box.BorderStyle(4); }, [&] { desktop.AnnounceThemeChange(); },
+                                                  [&] { box.Style(0); },       [&] { box.BackStyle(0); }};
+        for (const auto& renew : renewals) {
+            SCOPED_TRACE(&renew - renewals);
+            renew();
+            EXPECT_EQ(box.Value(), 2);
+            EXPECT_EQ(box.Caption(), TEXT("A &check box"));
+            EXPECT_EQ(form.ActiveControl(), &box);
+        }
+        box.FontAutoSize(true);
+        box.Caption(TEXT("A caption that is far too wide for the box"));
+        box.MultiLine(true);
+        box.Alignment(2);
+        ExpectWhole(form, box);
+        EXPECT_EQ(box.Caption(), TEXT("A caption that is far too wide for the box"));
+        EXPECT_EQ(GetWindowLongW(box.hWnd(), GWL_STYLE) & (BS_MULTILINE | BS_CENTER), BS_MULTILINE | BS_CENTER);
+        EXPECT_EQ(SendMessageW(box.hWnd(), BM_GETCHECK, 0, 0), 2);
+        desktop.Press(VK_SPACE);
+        EXPECT_EQ(box.Value(), 0);
     });
 }
 

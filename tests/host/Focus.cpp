@@ -91,13 +91,17 @@ TEST_F(Focus, ControlThatIsEnabledAgain_GetsItBackUnlessTheUserHasMovedIt)
     }
 }
 
-TEST_F(Focus, SetFocus_InAnEventOfTheMove_LeavesKeysAndActiveControlTogether)
+TEST_F(Focus, SetFocus_InAnEventOfTheMove_IsTheLastWord)
 {
     Open(four);
     log.on["First.ExitFocus"] = [&] { ProbeNamed(TEXT("Skipped")).SetFocus(); };
-    ProbeNamed(TEXT("Second")).SetFocus();
-    host::MessageLoop::RunPending();
-    EXPECT_EQ(GetFocus(), form->ActiveControl()->OwnHandle());
+    for (const WCHAR* const given : {TEXT("Second"), TEXT("Combo")}) {
+        ProbeNamed(TEXT("First")).SetFocus();
+        form->Find(given)->SetFocus();
+        host::MessageLoop::RunPending();
+        EXPECT_EQ(ActiveName(), "Skipped");
+        EXPECT_EQ(GetFocus(), WindowOf(TEXT("Skipped")));
+    }
 }
 
 }  // namespace tests

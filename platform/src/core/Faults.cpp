@@ -22,13 +22,12 @@ void Faults::FailNth(std::uint64_t n)
 void Faults::Clear()
 {
     orders_.clear();
-    FailNth(0);
+    failNth_ = 0;
 }
 
 bool Faults::Strikes(const char* function, DWORD& error)
 {
-    ++counted_;
-    if (failNth_ != 0 && counted_ == failNth_) {
+    if (failNth_ != 0 && ++counted_ == failNth_) {
         struck_ = function;
         return true;
     }
