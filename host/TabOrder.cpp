@@ -23,8 +23,7 @@ Control* Next(const Form& form, int tabIndex, FocusDirection direction, Counts c
     Control* best = nullptr;
     for (Control* const control : form.Controls()) {
         const Extender& extender = control->GetExtender();
-        if (!extender.TabStop() || !control->Enabled() || !CanGetFocusNow(*control) || !IsWindowVisible(control->hWnd()) ||
-            !counts(*control))
+        if (!extender.TabStop() || !CanGetFocusNow(*control) || !IsWindowVisible(control->hWnd()) || !counts(*control))
             continue;
         if (best == nullptr || Beats(extender.TabIndex(), best->GetExtender().TabIndex(), tabIndex, direction))
             best = control;
@@ -37,7 +36,7 @@ Control* Next(const Form& form, int tabIndex, FocusDirection direction, Counts c
 bool CanGetFocusNow(const Control& control)
 {
     const HWND window = control.OwnHandle();
-    if (!control.CanGetFocus() || window == nullptr || !IsWindowVisible(window))
+    if (!control.CanGetFocus() || !control.Enabled() || window == nullptr || !IsWindowVisible(window))
         return false;
     // Windows refuses the focus also to a window that stands on a disabled one.
     for (HWND place = window; place != nullptr; place = GetParent(place))

@@ -1,7 +1,13 @@
 // Controls that end in every order with their tip up: the form, the control or one of its windows first, also from inside an event.
+#include "controls/CheckBox/CheckBox.h"
+#include "controls/CommandButton/CommandButton.h"
+#include "controls/Frame/Frame.h"
 #include "controls/SubclassHeap.h"
-#include "controls/ToolTip.h"
+#include "controls/TextBox/TextBox.h"
+#include "host/MessageLoop.h"
 #include "tests/controls/FormFixture.h"
+#include "tests/support/MessageLog.h"
+#include "tests/support/UserInput.h"
 
 namespace tests {
 
@@ -52,6 +58,62 @@ TEST_F(Endings, InEveryOrder_LeaveNoWindowAndNoHeap)
                 EXPECT_FALSE(hasHeap(window)) << "while the control's object lives on";
             }
         }
+}
+
+TEST_F(Endings, InItsOwnEvents_AreSafe)
+{
+    PumpWith(host::MessageLoop::Dispatch);
+    const auto endIn = [this]<class Control, class Event>(const char* kind, const char* name, Event Control::*event) {
+        SCOPED_TRACE(std::string(kind) + " is unloaded in " + name);
+        form = std::make_unique<KeyForm>();
+        Open(std::string(kind) + R"( C { Left = 150 Top = 150 Width = 1500 Height = 450 TabIndex = 1 })");
+        const HWND own = Any("C").OwnHandle();
+        bool raised = false;
+        (Get<Control>("C").*event).Connect([&](auto&&...) {
+            raised = true;
+            form->Unload();
+        });
+        Any("C").SetFocus();
+        MoveMouse(own, 200, 100);
+        for (const auto& act : std::initializer_list<std::function<void()>>{
+                 [&] { MoveMouse(own, 20, 10); }, [] { ClickMouse(); }, [] { ClickMouse(); }, [] { MouseButton(MOUSEEVENTF_RIGHTDOWN); },
+                 [] { MouseButton(MOUSEEVENTF_RIGHTUP); }, [] { PressKey('A'); }, [] { PressKey(VK_SPACE); }})
+            if (!raised)
+                act();
+        EXPECT_TRUE(raised);
+        EXPECT_FALSE(IsWindow(own));
+    };
+    using controls::CheckBox, controls::CommandButton, controls::Frame, controls::TextBox;
+    endIn("Frame", "Click", &Frame::Click);
+    endIn("Frame", "DblClick", &Frame::DblClick);
+    endIn("Frame", "ContextMenu", &Frame::ContextMenu);
+    endIn("Frame", "MouseDown", &Frame::MouseDown);
+    endIn("Frame", "MouseMove", &Frame::MouseMove);
+    endIn("Frame", "MouseUp", &Frame::MouseUp);
+    endIn("CommandButton", "Click", &CommandButton::Click);
+    endIn("CommandButton", "MouseEnter", &CommandButton::MouseEnter);
+    endIn("CommandButton", "DblClick", &CommandButton::DblClick);
+    endIn("CommandButton", "ContextMenu", &CommandButton::ContextMenu);
+    endIn("CommandButton", "MouseDown", &CommandButton::MouseDown);
+    endIn("CommandButton", "MouseMove", &CommandButton::MouseMove);
+    endIn("CommandButton", "MouseUp", &CommandButton::MouseUp);
+    endIn("CommandButton", "KeyPress", &CommandButton::KeyPress);
+    endIn("CommandButton", "KeyDown", &CommandButton::KeyDown);
+    endIn("CommandButton", "KeyUp", &CommandButton::KeyUp);
+    endIn("CheckBox", "Click", &CheckBox::Click);
+    endIn("CheckBox", "KeyDown", &CheckBox::KeyDown);
+    endIn("CheckBox", "KeyUp", &CheckBox::KeyUp);
+    endIn("CheckBox", "KeyPress", &CheckBox::KeyPress);
+    endIn("CheckBox", "ContextMenu", &CheckBox::ContextMenu);
+    endIn("TextBox", "Click", &TextBox::Click);
+    endIn("TextBox", "DblClick", &TextBox::DblClick);
+    endIn("TextBox", "Change", &TextBox::Change);
+    endIn("TextBox", "KeyPress", &TextBox::KeyPress);
+    endIn("TextBox", "KeyDown", &TextBox::KeyDown);
+    endIn("TextBox", "KeyUp", &TextBox::KeyUp);
+    endIn("TextBox", "ContextMenu", &TextBox::ContextMenu);
+    endIn("TextBox", "MouseEnter", &TextBox::MouseEnter);
+    PumpWith(nullptr);
 }
 
 }  // namespace tests

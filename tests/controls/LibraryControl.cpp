@@ -3,7 +3,10 @@
 #include "controls/CommandButton/CommandButton.h"
 #include "controls/Frame/Frame.h"
 #include "controls/TextBox/TextBox.h"
+#include "host/MessageLoop.h"
 #include "tests/controls/FormFixture.h"
+#include "tests/support/MessageLog.h"
+#include "tests/support/UserInput.h"
 
 namespace tests {
 
@@ -15,7 +18,8 @@ protected:
             Frame Frame1 { Left = 150 Top = 300 Width = 1500 Height = 450 Tag = "t" TabIndex = 1 }
             CommandButton CommandButton1 { Left = 150 Top = 900 Width = 1500 Height = 450 Tag = "t" TabIndex = 2 }
             CheckBox CheckBox1 { Left = 150 Top = 1500 Width = 1500 Height = 450 Tag = "t" TabIndex = 3 }
-            TextBox TextBox1 { Left = 150 Top = 2100 Width = 1500 Height = 450 Tag = "t" TabIndex = 4 })");
+            TextBox TextBox1 { Left = 150 Top = 2100 Width = 1500 Height = 450 Tag = "t" TabIndex = 4 }
+            TextBox Anchor { Left = 150 Top = 3300 Width = 1500 Height = 450 TabIndex = 5 })");
         form->PropertyChanged.Connect(
             [this](host::Control& control, base::StringView name) { Note(Narrow(control.Kind()) + " " + Narrow(name)); });
     }
@@ -107,6 +111,36 @@ TEST_F(LibraryControl, Font_IsCopiedAndToldAndNeverNone)
     }
 }
 
+TEST_F(LibraryControl, Focus_ComesByCodeMouseAndTabUnlessDisabled)
+{
+    PumpWith(host::MessageLoop::Dispatch);
+    const std::pair<const char*, std::function<void(controls::LibraryControl&)>> ways[] = {
+        {"code", [](auto& control) { control.SetFocus(); }},
+        {"mouse",
+         [](auto& control) {
+             MoveMouse(control.OwnHandle(), 30, 10);
+             ClickMouse();
+         }},
+        {"Tab", [this](auto& control) {
+             do
+                 PressKey(VK_TAB);
+             while (Focused() != Narrow(control.Name()) && Focused() != "Anchor");
+         }}};
+    OnEach([&](controls::LibraryControl& control) {
+        for (const auto& [way, act] : ways)
+            for (const bool enabled : {false, true}) {
+                control.Enabled(enabled);
+                Any("Anchor").SetFocus();
+                act(control);
+                const bool takesIt = enabled && control.Kind() != TEXT("Frame");
+                EXPECT_EQ(Focused(), takesIt ? Narrow(control.Name()) : "Anchor") << way << (enabled ? "" : " while disabled");
+                EXPECT_EQ(form->ActiveControl(), takesIt ? &control : &Any("Anchor")) << way;
+            }
+    });
+    EXPECT_EQ(Get<controls::CheckBox>("CheckBox1").Value(), 1) << "one click";
+    PumpWith(nullptr);
+}
+
 TEST_F(LibraryControl, Container_CanBeChanged)
 {
     auto& box = Get<controls::Frame>("Box");
@@ -119,7 +153,7 @@ TEST_F(LibraryControl, Container_CanBeChanged)
         EXPECT_TRUE(IsWindowVisible(control.hWnd()));
     });
     EXPECT_EQ(box.ContainedControls().size(), 4U);
-    EXPECT_EQ(form->ContainedControls().size(), 1U);
+    EXPECT_EQ(form->ContainedControls().size(), 2U);
     Get<controls::CheckBox>("CheckBox1").Click.Connect([this] { Note("click"); });
     Any("CheckBox1").SetFocus();
     Take();

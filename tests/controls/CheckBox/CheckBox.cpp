@@ -137,8 +137,15 @@ TEST_F(CheckBox, Colors_AreGivenToTheButton)
     EXPECT_EQ(description.lbColor, 0x0000FFU);
     EXPECT_EQ(GetTextColor(dc), 0x123456U);
     EXPECT_EQ(GetBkColor(dc), 0x0000FFU);
-
     ReleaseDC(Box().hWnd(), dc);
+
+    form->PropertyChanged.Connect([this](host::Control&, base::StringView name) { Note(Narrow(name)); });
+    form->ForeColor(0x00FF01);
+    form->BackColor(0xFF0002);
+    Box().BackStyle(1);
+    EXPECT_EQ(Take(), (Lines{"BackStyle", "ForeColor", "BackColor"})) << "the container's";
+    EXPECT_EQ(Box().ForeColor(), 0x00FF01U);
+    EXPECT_EQ(Box().BackColor(), 0xFF0002U);
 }
 
 TEST_F(CheckBox, Transparent_ShowsWhatTheContainerPaintsAsItFirstWas)
@@ -173,16 +180,6 @@ TEST_F(CheckBox, Transparent_ShowsWhatTheContainerPaintsAsItFirstWas)
                     << name << x << " " << y;
         SelectObject(paper.Get(), former);
     }
-}
-
-TEST_F(CheckBox, DisabledWithFocus_PassesItOn)
-{
-    Box().SetFocus();
-    Box().Enabled(false);
-    EXPECT_FALSE(IsWindowEnabled(Box().hWnd()));
-    EXPECT_EQ(Focused(), "Other");
-    Box().Enabled(true);
-    EXPECT_TRUE(IsWindowEnabled(Box().hWnd()));
 }
 
 TEST_F(CheckBox, KeysAndContextMenu_RaiseEvents)

@@ -379,11 +379,4 @@ TEST_F(CommandButton, InTheDesigner_IsHotButForStyle15)
     EXPECT_EQ(pixel(50, 5), 0x808080U) << "disabled";
 }
 
-TEST_F(CommandButton, HandlerThatUnloadsTheForm_IsSafe)
-{
-    Button().Click.Connect([&] { form->Unload(); });
-    Press(VK_SPACE);
-    EXPECT_FALSE(form->IsLoaded());
-}
-
 }  // namespace tests
