@@ -143,6 +143,8 @@ bool HostedControl::IsOver(LPARAM position) const
 void HostedControl::SubclassControl_WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, bool& handled)
 {
     switch (message) {
+        // The mouse may rest where the window has just been enabled or shown; it moves no more before it clicks.
+        case WM_LBUTTONDOWN:
         case WM_MOUSEMOVE:
             if (MouseMovedOver(window))
                 MouseEntered();

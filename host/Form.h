@@ -23,6 +23,9 @@ namespace host {
 ///
 /// The control objects live as long as the form object, so that a handler of a control that unloads the form comes back to something
 /// that is there. A form object must not die inside one of its own handlers.
+///
+/// In the form text a form has `Caption`, `ClientWidth` and `ClientHeight` in twips, `KeyPreview`, `RightToLeft`, `ScaleMode` (3 for
+/// pixels, anything else for twips) and `Font`; all else in it are controls.
 class Form : public Container, private OwnWindow {
 public:
     /// A routine of the form that others may call by its name; it may change both numbers.
@@ -40,7 +43,7 @@ public:
     void Unload();
     [[nodiscard]] bool IsLoaded() const { return state_ == State::Loaded; }
     [[nodiscard]] bool IsShown() const { return isShown_; }
-    /// What Load did not like, with its line; empty when all is well.
+    /// The error of the last `Load`, with its line; empty when all is well.
     [[nodiscard]] const std::string& LoadError() const { return loadError_; }
 
     /// A new control with its own defaults, as if just drawn on `container` (the form when null). Null for an unknown kind or
@@ -67,7 +70,7 @@ public:
     /// When true the form sees every key before the control that has the focus.
     [[nodiscard]] bool KeyPreview() const { return keyPreview_; }
     void KeyPreview(bool preview) { keyPreview_ = preview; }
-    /// Whether its texts are read from right to left.
+    /// Whether texts are read from right to left; controls ask for it as an ambient property.
     [[nodiscard]] bool RightToLeft() const { return rightToLeft_; }
     [[nodiscard]] host::ScaleMode ScaleMode() const { return scaleMode_; }
     [[nodiscard]] const std::shared_ptr<host::Font>& Font() const { return font_; }
