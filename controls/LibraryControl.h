@@ -12,6 +12,9 @@
 
 namespace controls {
 
+/// Whose colours a control shows, where it has a choice.
+enum BackStyleValue : std::int32_t { OwnColors, ContainerColors };
+
 /// A user control with a tip, with the properties that its container keeps for it as members of its own, and with a font of its own.
 class LibraryControl : public host::UserControl, public ToolTip {
 public:

@@ -1,8 +1,6 @@
 // Surface: the picture in memory and its DC.
 #include "host/Surface.h"
 
-#include "host/UserControl.h"
-
 namespace host {
 
 HDC Surface::Dc()
@@ -35,26 +33,6 @@ void Surface::Clear()
         return;
     const RECT all{0, 0, size_.cx, size_.cy};
     FillRect(dc, &all, brush.Get());
-}
-
-void Surface::Attach(HWND window)
-{
-    window_ = window;
-    oleDrag_.Attach(window);
-    oleDrag_.AcceptDrops(oleDropMode_ == 1);
-}
-
-void Surface::OleDropMode(std::int16_t mode)
-{
-    oleDropMode_ = mode;
-    oleDrag_.AcceptDrops(mode == 1);
-}
-
-void Surface::Enabled(bool enabled)
-{
-    enabled_ = enabled;
-    if (window_ != nullptr)
-        EnableWindow(window_, enabled);
 }
 
 void Surface::Resize(SIZE size)
@@ -102,38 +80,6 @@ void Surface::Release()
     formerPicture_ = nullptr;
     formerFont_ = nullptr;
     size_ = {};
-}
-
-LPCWSTR Surface::CursorName() const
-{
-    switch (mousePointer_) {
-        case 2:
-            return IDC_CROSS;
-        case 3:
-            return IDC_IBEAM;
-        case 5:
-            return IDC_SIZEALL;
-        case 6:
-            return IDC_SIZENESW;
-        case 7:
-            return IDC_SIZENS;
-        case 8:
-            return IDC_SIZENWSE;
-        case 9:
-            return IDC_SIZEWE;
-        case 10:
-            return IDC_UPARROW;
-        case 11:
-            return IDC_WAIT;
-        case 12:
-            return IDC_NO;
-        case 13:
-            return IDC_APPSTARTING;
-        case 14:
-            return IDC_HELP;
-        default:
-            return nullptr;
-    }
 }
 
 }  // namespace host

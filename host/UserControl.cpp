@@ -20,6 +20,7 @@ void UserControl::MakeWindow()
     if (!Make(shape))
         return;
     surface_.Attach(OwnHandle());
+    input_.Attach(OwnHandle());
     Sized();
 }
 
@@ -52,6 +53,7 @@ void UserControl::Unload()
     stage_ = Stage::Unloaded;
     UserControl_Terminate();
     surface_.Attach(nullptr);
+    input_.Attach(nullptr);
     surface_.Release();
     Destroy();
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/Control.h"
+#include "host/InputOptions.h"
 #include "host/KeyRouting.h"
 #include "host/OwnWindow.h"
 #include "host/PropertyBag.h"
@@ -21,16 +22,16 @@ namespace host {
 /// the own window gets the keyboard focus while the control is active already, only GotFocus comes. Another window of this or another
 /// program taking the keyboard focus is no LostFocus: the control stays the active one.
 ///
-/// OLE drag and drop: the surface's OleDropMode and OLEDrag; the control overrides what it wants to hear of OleDragEvents.
+/// OLE drag and drop: OleDropMode and OLEDrag of the input options; the control overrides what it wants to hear of OleDragEvents.
 class UserControl : public Control, public Container, protected OleDragEvents, private OwnWindow {
 public:
     [[nodiscard]] HWND hWnd() const override { return OwnHandle(); }
     [[nodiscard]] HWND OwnHandle() const final { return OwnWindow::Handle(); }
-    [[nodiscard]] bool Enabled() const override { return surface_.Enabled(); }
-    void Enabled(bool enabled) override { surface_.Enabled(enabled); }
+    [[nodiscard]] bool Enabled() const override { return input_.Enabled(); }
+    void Enabled(bool enabled) override { input_.Enabled(enabled); }
     [[nodiscard]] bool CanGetFocus() const override { return true; }
     void SetFocus() override;
-    [[nodiscard]] base::String AccessKey() const final { return surface_.AccessKey(); }
+    [[nodiscard]] base::String AccessKey() const final { return input_.AccessKey(); }
     /// All keys but Esc, and but Enter unless it is a button.
     [[nodiscard]] bool WantsKey(std::int16_t keyCode) const override;
     /// Marks the whole window for a repaint.
@@ -38,6 +39,8 @@ public:
 
     [[nodiscard]] Surface& GetSurface() { return surface_; }
     [[nodiscard]] const Surface& GetSurface() const { return surface_; }
+    [[nodiscard]] InputOptions& Input() { return input_; }
+    [[nodiscard]] const InputOptions& Input() const { return input_; }
 
     [[nodiscard]] HWND ContainerHandle() const final { return OwnHandle(); }
     [[nodiscard]] OleColor ContainerBackColor() const final { return surface_.BackColor(); }
@@ -106,7 +109,8 @@ private:
     Stage stage_ = Stage::Made;
     bool isShown_ = false;
     bool clickBegun_ = false;
-    Surface surface_{*this};
+    Surface surface_;
+    InputOptions input_{*this};
 };
 
 }  // namespace host

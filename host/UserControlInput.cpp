@@ -37,13 +37,14 @@ LRESULT UserControl::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
         case WM_DESTROY:
             // Somebody else destroys the window, or its parent.
             surface_.Attach(nullptr);
+            input_.Attach(nullptr);
             break;
         case WM_SIZE:
             Sized();
             return 0;
         case WM_SETCURSOR:
-            if (surface_.CursorName() != nullptr && LOWORD(lParam) == HTCLIENT && reinterpret_cast<HWND>(wParam) == OwnHandle()) {
-                SetCursor(LoadCursorW(nullptr, surface_.CursorName()));
+            if (input_.CursorName() != nullptr && LOWORD(lParam) == HTCLIENT && reinterpret_cast<HWND>(wParam) == OwnHandle()) {
+                SetCursor(LoadCursorW(nullptr, input_.CursorName()));
                 return TRUE;
             }
             break;

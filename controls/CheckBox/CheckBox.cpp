@@ -28,11 +28,16 @@ void CheckBox::ReleaseWindow()
     isNarrowed_ = false;
 }
 
+DWORD CheckBox::AlignmentBits(std::int32_t alignment)
+{
+    return alignment == TextRight ? BS_RIGHT : alignment == TextCenter ? BS_CENTER : BS_LEFT;
+}
+
 HostedWindow::Shape CheckBox::Shape()
 {
     DWORD style = BS_NOTIFY | BS_3STATE | AlignmentBits(alignment_);
     style |= alignRight_ ? BS_LEFTTEXT : 0;
-    style |= style_ == 1 ? BS_PUSHLIKE : 0;
+    style |= style_ == PushLikeCheckBox ? BS_PUSHLIKE : 0;
     style |= multiLine_ ? BS_MULTILINE : 0;
     return {TEXT("Button"), style, Ambient().RightToLeft() ? WS_EX_RTLREADING : DWORD{0}, caption_};
 }
@@ -47,7 +52,7 @@ void CheckBox::WindowMade()
     ShowFont();
     if (fontAutoSize_)
         FitFont();
-    if (backStyle_ == 1) {
+    if (backStyle_ == ContainerColors) {
         ForeColor(Ambient().ForeColor());
         BackColor(Ambient().BackColor());
     }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/Handles.h"
-#include "controls/CheckBox/CheckBoxLayout.h"
+#include "controls/CheckBox/CheckBoxValues.h"
 #include "controls/HostedControl.h"
 #include "controls/WindowDc.h"
 #include "host/Event.h"
@@ -66,6 +66,8 @@ public:
 
 private:
     static const PropertyTable<CheckBox>& Properties();
+    /// The button style for an alignment; what is no alignment counts as left.
+    [[nodiscard]] static DWORD AlignmentBits(std::int32_t alignment);
 
     void UserControl_InitProperties() override;
     void UserControl_ReadProperties(const host::PropertyBag& bag) override;
@@ -93,8 +95,8 @@ private:
     base::String caption_;
     std::uint8_t value_ = Unchecked;
     std::int32_t alignment_ = TextLeft;
-    std::int32_t style_ = 0;
-    std::int32_t backStyle_ = 0;
+    std::int32_t style_ = StandardCheckBox;
+    std::int32_t backStyle_ = OwnColors;
     bool alignRight_ = false;
     bool multiLine_ = false;
     bool transparent_ = false;

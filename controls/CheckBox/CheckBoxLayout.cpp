@@ -1,12 +1,9 @@
 // CheckBoxLayout: the box is as wide as a menu's check mark, with edges around it.
 #include "controls/CheckBox/CheckBoxLayout.h"
 
-namespace controls {
+#include <windows.h>
 
-DWORD AlignmentBits(std::int32_t alignment)
-{
-    return alignment == TextRight ? BS_RIGHT : alignment == TextCenter ? BS_CENTER : BS_LEFT;
-}
+namespace controls {
 
 int AutoSizeWidth(int textWidth)
 {

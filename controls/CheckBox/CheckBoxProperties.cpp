@@ -1,5 +1,6 @@
 // CheckBoxProperties: what a check box stores, and what setting its properties does.
 #include "controls/CheckBox/CheckBox.h"
+#include "controls/CheckBox/CheckBoxLayout.h"
 #include "controls/FontNarrowing.h"
 #include "controls/PropertyTable.h"
 
@@ -17,7 +18,7 @@ const PropertyTable<CheckBox>& CheckBox::Properties()
     using std::uint32_t;
     using std::uint8_t;
     static const PropertyTable<C> table{
-        StoredAs<C, int32_t>(TEXT("BackStyle"), &C::backStyle_, 0),
+        StoredAs<C, int32_t>(TEXT("BackStyle"), &C::backStyle_, OwnColors),
         StoredAs<C, uint8_t>(TEXT("AlignRight"), &C::alignRight_, 0),
         StoredAs<C, uint8_t>(TEXT("FontAutoSize"), &C::fontAutoSize_, 0),
         StoredAs<C, uint8_t>(TEXT("BorderStyle"), &C::borderStyle_, BorderNone),
@@ -35,7 +36,7 @@ const PropertyTable<CheckBox>& CheckBox::Properties()
         StoredAs<C, uint32_t>(TEXT("BackColor"), &C::backColor_, host::SystemColor(COLOR_BTNFACE)),
         StoredAs<C, uint8_t>(TEXT("MultiLine"), &C::multiLine_, 0),
         StoredAs<C, uint8_t>(TEXT("Transparent"), &C::transparent_, 0),
-        StoredAs<C, int32_t>(TEXT("Style"), &C::style_, 0),
+        StoredAs<C, int32_t>(TEXT("Style"), &C::style_, StandardCheckBox),
         StoredAs<C, int32_t>(TEXT("Alignment"), &C::alignment_, TextLeft),
         StoredThrough<C, String>(
             TEXT("Caption"), [](C& box) { return box.Caption(); }, [](C& box, const String& caption) { box.caption_ = caption; },

@@ -111,7 +111,7 @@ public:
     /// Fits the font to the button: 0 never, 1 narrower characters, all others fewer points. Counts from the next caption on.
     [[nodiscard]] std::int32_t FontAutoSize() const { return fontAutoSize_; }
     void FontAutoSize(std::int32_t mode) { Keep(fontAutoSize_, mode, TEXT("FontAutoSize")); }
-    [[nodiscard]] std::int16_t MousePointer() const { return GetSurface().MousePointer(); }
+    [[nodiscard]] std::int16_t MousePointer() const { return Input().MousePointer(); }
     void MousePointer(std::int16_t pointer);
 
     /// The visual state, a ButtonState, or 0 for a new button that nothing has happened to.

@@ -66,7 +66,6 @@ const PropertyTable<CommandButton>& CommandButton::Properties()
     using std::uint32_t;
     using std::uint8_t;
     const auto face = host::SystemColor(COLOR_BTNFACE);
-    const auto whatever = WhenDefault::Stored;
     static const PropertyTable<B> table{
         StoredAs<B, uint8_t>(TEXT("CaptionHide"), &B::captionHide_, 0),
         StoredAs<B, String>(TEXT("CaptionUniChars"), &B::captionUniChars_, String()),
@@ -90,7 +89,7 @@ const PropertyTable<CommandButton>& CommandButton::Properties()
         StoredAs<B, int32_t>(TEXT("PictureAlign"), &B::pictureAlign_, AlignLeft),
         StoredAs<B, int32_t>(TEXT("NonThemeStyle"), &B::nonThemeStyle_, ClassicStyle).WrittenBefore(TEXT("UseClassicTheme")),
         StoredThrough<B, bool>(
-            TEXT("Enabled"), [](B& button) { return button.Enabled(); }, [](B& button, bool on) { button.GetSurface().Enabled(on); }, true),
+            TEXT("Enabled"), [](B& button) { return button.Enabled(); }, [](B& button, bool on) { button.Input().Enabled(on); }, true),
         StoredAs<B, uint8_t>(TEXT("ShowFocus"), &B::showFocus_, 0),
         StoredAs<B, uint8_t>(TEXT("USeCustomColors"), &B::useCustomColors_, 0),
         StoredAs<B, uint32_t>(TEXT("BackColor"), &B::backColor_, face),
@@ -98,9 +97,9 @@ const PropertyTable<CommandButton>& CommandButton::Properties()
         StoredAs<B, uint32_t>(TEXT("HighlightColor"), &B::highLightColor_, SystemRgb(COLOR_HIGHLIGHT)),
         StoredAs<B, uint32_t>(TEXT("FontColor"), &B::fontColor_, SystemRgb(COLOR_BTNTEXT)),
         StoredAs<B, uint32_t>(TEXT("FontHighlightColor"), &B::fontHighlightColor_, SystemRgb(COLOR_BTNTEXT)),
-        StoredAs<B, String>(TEXT("Tooltiptitle"), Tip<B, &Settings::title>(), String(), whatever),
-        StoredAs<B, int32_t>(TEXT("ToolTipIcon"), Tip<B, &Settings::icon>(), 0, whatever),
-        StoredAs<B, uint8_t>(TEXT("TooltipBalloon"), Tip<B, &Settings::balloon>(), 0, whatever),
+        StoredAs<B, String>(TEXT("Tooltiptitle"), Tip<B, &Settings::title>(), String(), WhenDefault::Stored),
+        StoredAs<B, int32_t>(TEXT("ToolTipIcon"), Tip<B, &Settings::icon>(), 0, WhenDefault::Stored),
+        StoredAs<B, uint8_t>(TEXT("TooltipBalloon"), Tip<B, &Settings::balloon>(), 0, WhenDefault::Stored),
         StoredAs<B, uint8_t>(TEXT("ToolTipCentred"), Tip<B, &Settings::centred>(), 0),
         StoredAs<B, int32_t>(TEXT("ToolTipWidth"), Tip<B, &Settings::width>(), 0),
         StoredAs<B, uint32_t>(TEXT("ToolTipBackColor"), Tip<B, &Settings::backColor>(), 0x80000018),
@@ -111,13 +110,13 @@ const PropertyTable<CommandButton>& CommandButton::Properties()
         StoredAs<B, uint32_t>(TEXT("MaskColor"), &B::maskColor_, 0xC0C0C0),
         StoredThrough<B, std::int16_t>(
             TEXT("MousePointer"), [](B& button) { return button.MousePointer(); },
-            [](B& button, std::int16_t pointer) { button.GetSurface().MousePointer(pointer); }, 0),
+            [](B& button, std::int16_t pointer) { button.Input().MousePointer(pointer); }, 0),
         StoredAs<B, uint8_t>(TEXT("RoundedBordersByTheme"), &B::roundedBordersByTheme_, 1),
         StoredAs<B, bool>(TEXT("RightToLeft"), &B::rightToLeft_, false),
         StoredThrough<B, std::shared_ptr<host::Font>>(
             TEXT("Font"), [](B& button) { return button.Font(); },
             [](B& button, const std::shared_ptr<host::Font>& font) { button.TakeFont(*font); },
-            [](B& button) { return button.Ambient().Font(); }, whatever)
+            [](B& button) { return button.Ambient().Font(); }, WhenDefault::Stored)
             .WrittenBefore(TEXT("ButtonType")),
     };
     return table;
@@ -129,7 +128,7 @@ void CommandButton::UserControl_ReadProperties(const PropertyBag& bag)
     state_ = StateNormal;
     KeepTrueType();
     baseFontSize_ = Font()->Size();
-    GetSurface().AccessKey(AccessKeyOf(caption_));
+    Input().AccessKey(AccessKeyOf(caption_));
     if (Ambient().UserMode())
         subclassControl_.TryEnable(hWnd());
     Relayout();
@@ -164,7 +163,7 @@ void CommandButton::Caption(const String& caption)
     if (captionHide_) {
         SendWindowText(caption_);
     } else {
-        GetSurface().AccessKey(AccessKeyOf(caption_));
+        Input().AccessKey(AccessKeyOf(caption_));
         FitFont();
     }
     PropertyChanged(TEXT("Caption"));
@@ -232,7 +231,7 @@ void CommandButton::Value(std::int32_t value)
 
 void CommandButton::Enabled(bool enabled)
 {
-    GetSurface().Enabled(enabled);
+    Input().Enabled(enabled);
     state_ = StateNormal;
     PropertyChanged(TEXT("Enabled"));
     DrawControl();
@@ -299,7 +298,7 @@ void CommandButton::FontChanged()
 
 void CommandButton::MousePointer(std::int16_t pointer)
 {
-    GetSurface().MousePointer(pointer);
+    Input().MousePointer(pointer);
     PropertyChanged(TEXT("MousePointer"));
 }
 

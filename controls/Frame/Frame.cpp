@@ -25,7 +25,7 @@ void Frame::Start()
     windowDc_.Take(hWnd(), WindowDc::Area::Whole);
     KeepTrueType();
     if (Ambient().UserMode())
-        GetSurface().Enabled(enabled_);
+        Input().Enabled(enabled_);
     Caption(caption_);
     if (dragDropEnabled_)
         AcceptFiles(true);
@@ -54,7 +54,7 @@ void Frame::UserControl_Resize()
 
 void Frame::UserControl_AmbientChanged(StringView name)
 {
-    if (name == TEXT("BackColor") && backStyle_ == 1)
+    if (name == TEXT("BackColor") && backStyle_ == ContainerColors)
         DrawFrame();
 }
 
@@ -65,7 +65,7 @@ void Frame::DrawFrame()
     surface.Clear();
     if (invisible_)
         return;
-    if (backStyle_ == 1) {
+    if (backStyle_ == ContainerColors) {
         TakeForeColor(Ambient().ForeColor());
         TakeBackColor(Ambient().BackColor());
         surface.Clear();
@@ -74,7 +74,7 @@ void Frame::DrawFrame()
     look.window = hWnd();
     look.themed = IsThemeAvailable() && !useClassicTheme_;
     look.enabled = enabled_;
-    look.hasBorder = borderStyle_ == 1;
+    look.hasBorder = borderStyle_ == FrameWithBorder;
     look.appearance = appearance_;
     look.borderRound = borderRound_;
     look.systemBorderColors =
@@ -85,7 +85,7 @@ void Frame::DrawFrame()
     look.caption = Caption();
 
     const FrameCaption caption = AnalyseFrameCaption(look.caption);
-    surface.AccessKey(caption.accessKey);
+    Input().AccessKey(caption.accessKey);
     const HDC dc = surface.Dc();
     SetTextColor(dc, TranslateOleColor(surface.ForeColor()));
     SetBkMode(dc, TRANSPARENT);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/DSubclass.h"
+#include "controls/Frame/FrameValues.h"
 #include "controls/LibraryControl.h"
 #include "controls/WindowDc.h"
 #include "host/Event.h"
@@ -61,7 +62,7 @@ public:
     [[nodiscard]] bool DragDropEnabled() const { return dragDropEnabled_; }
     void DragDropEnabled(bool enable);
     /// 0 none, 1 manual: data may be dropped here.
-    [[nodiscard]] std::int16_t OLEDropMode() const { return GetSurface().OleDropMode(); }
+    [[nodiscard]] std::int16_t OLEDropMode() const { return Input().OleDropMode(); }
     void OLEDropMode(std::int16_t mode);
     [[nodiscard]] bool UseClassicTheme() const { return useClassicTheme_; }
     void UseClassicTheme(bool classic) { Keep(useClassicTheme_, classic, TEXT("UseClassicTheme"), After::Redraw); }
@@ -73,7 +74,7 @@ public:
     /// Does the same once more 10 ms later, when the paint is over.
     void FixBlackLineRetard();
     /// Drags data from here: OLEStartDrag says what. Returns when the drag is over; the frame may be gone then.
-    void OLEDrag() { GetSurface().OLEDrag(); }
+    void OLEDrag() { Input().OLEDrag(); }
 
     host::Event<1> Click;
     host::Event<2> DblClick;
@@ -142,9 +143,9 @@ private:
     void OnDropFiles(WPARAM drop);
 
     base::String caption_;
-    std::int32_t backStyle_ = 0;
-    std::int32_t borderStyle_ = 1;
-    std::uint8_t appearance_ = 1;
+    std::int32_t backStyle_ = OwnColors;
+    std::int32_t borderStyle_ = FrameWithBorder;
+    std::uint8_t appearance_ = AppearanceEtched;
     std::int32_t borderRound_ = 0;
     OleColor borderColorDark_ = host::SystemColor(COLOR_BTNSHADOW);
     OleColor borderColorLight_ = host::SystemColor(COLOR_BTNHIGHLIGHT);
@@ -153,6 +154,8 @@ private:
     bool enableDisableChilds_ = false;
     bool dragDropEnabled_ = false;
     bool useClassicTheme_ = false;
+
+    std::int16_t surfaceBackStyle_ = 1;  // 0 transparent, 1 opaque: only kept, for a frame paints every pixel
 
     bool drawnOnce_ = false;
     bool fixPending_ = false;

@@ -2,6 +2,7 @@
 #include "controls/Frame/FramePainter.h"
 
 #include "controls/Canvas.h"
+#include "controls/Frame/FrameValues.h"
 #include "controls/ThemeHandle.h"
 
 #include <uxtheme.h>
@@ -15,9 +16,9 @@ void RoundBorder(Canvas& canvas, const FrameLook& look, const RECT& border)
 {
     const LONG width = border.right;
     const LONG height = border.bottom + 1;
-    const COLORREF offset = look.appearance == 2 ? look.dark : look.light;
-    const COLORREF top = look.appearance == 2 ? look.light : look.dark;
-    if (look.appearance != 0)
+    const COLORREF offset = look.appearance == AppearanceRaised ? look.dark : look.light;
+    const COLORREF top = look.appearance == AppearanceRaised ? look.light : look.dark;
+    if (look.appearance != AppearanceFlat)
         canvas.RoundOutline({1, border.top + 1, width, height - 1}, look.borderRound, offset);
     canvas.RoundOutline({0, border.top, width - 1, height - 2}, look.borderRound, top);
 }
@@ -28,7 +29,7 @@ void ClassicBorder(Canvas& canvas, const FrameLook& look, const RECT& border)
     const LONG height = border.bottom + 1;
     if (look.borderRound > 0) {
         RoundBorder(canvas, look, border);
-    } else if (look.appearance == 0) {
+    } else if (look.appearance == AppearanceFlat) {
         canvas.Outline({0, border.top, width, height - 1}, look.dark);
     } else if (look.systemBorderColors) {
         canvas.Edge(border, EDGE_ETCHED, BF_RECT);

@@ -18,18 +18,17 @@ const PropertyTable<Frame>& Frame::Properties()
     using std::int32_t;
     using std::uint32_t;
     using std::uint8_t;
-    const auto whatever = WhenDefault::Stored;
     static const PropertyTable<Frame> table{
-        StoredAs<Frame, int32_t>(TEXT("BackStyle"), &Frame::backStyle_, 0),
+        StoredAs<Frame, int32_t>(TEXT("BackStyle"), &Frame::backStyle_, OwnColors),
         StoredAs<Frame, uint8_t>(TEXT("DragDropEnabled"), &Frame::dragDropEnabled_, 0),
         StoredAs<Frame, uint8_t>(TEXT("Invisible"), &Frame::invisible_, 0),
         StoredAs<Frame, int32_t>(TEXT("BorderRound"), &Frame::borderRound_, 0),
         StoredAs<Frame, uint32_t>(TEXT("BorderColorDark"), &Frame::borderColorDark_, host::SystemColor(COLOR_BTNSHADOW)),
         StoredAs<Frame, uint32_t>(TEXT("BorderColorLight"), &Frame::borderColorLight_, host::SystemColor(COLOR_BTNHIGHLIGHT)),
         StoredAs<Frame, String>(TEXT("ToolTipTextW"), Tip<Frame, &Settings::text>(), String()),
-        StoredAs<Frame, String>(TEXT("Tooltiptitle"), Tip<Frame, &Settings::title>(), String(), whatever),
-        StoredAs<Frame, int32_t>(TEXT("ToolTipIcon"), Tip<Frame, &Settings::icon>(), 0, whatever),
-        StoredAs<Frame, uint8_t>(TEXT("TooltipBalloon"), Tip<Frame, &Settings::balloon>(), 0, whatever),
+        StoredAs<Frame, String>(TEXT("Tooltiptitle"), Tip<Frame, &Settings::title>(), String(), WhenDefault::Stored),
+        StoredAs<Frame, int32_t>(TEXT("ToolTipIcon"), Tip<Frame, &Settings::icon>(), 0, WhenDefault::Stored),
+        StoredAs<Frame, uint8_t>(TEXT("TooltipBalloon"), Tip<Frame, &Settings::balloon>(), 0, WhenDefault::Stored),
         StoredAs<Frame, uint8_t>(TEXT("ToolTipCentred"), Tip<Frame, &Settings::centred>(), 0),
         StoredAs<Frame, int32_t>(TEXT("ToolTipWidth"), Tip<Frame, &Settings::width>(), 0),
         StoredAs<Frame, uint32_t>(TEXT("ToolTipBackColor"), Tip<Frame, &Settings::backColor>(), 0x80000018),
@@ -43,23 +42,23 @@ const PropertyTable<Frame>& Frame::Properties()
         StoredThrough<Frame, uint32_t>(
             TEXT("ForeColor"), [](Frame& frame) { return frame.ForeColor(); },
             [](Frame& frame, uint32_t color) { frame.GetSurface().ForeColor(color); }, host::SystemColor(COLOR_BTNTEXT)),
-        StoredAs<Frame, int32_t>(TEXT("BorderStyle"), &Frame::borderStyle_, 1),
+        StoredAs<Frame, int32_t>(TEXT("BorderStyle"), &Frame::borderStyle_, FrameWithBorder),
         StoredThrough<Frame, std::int16_t>(
             TEXT("OLEDropMode"), [](Frame& frame) { return frame.OLEDropMode(); },
-            [](Frame& frame, std::int16_t mode) { frame.GetSurface().OleDropMode(mode); }, 0),
+            [](Frame& frame, std::int16_t mode) { frame.Input().OleDropMode(mode); }, 0),
         StoredInItsOwnWay<Frame>(
             TEXT("BackStyle"),
             [](Frame& frame, const PropertyBag& bag, const WCHAR* key) {
                 const std::int16_t only = bag.Read<std::int16_t>(key, 1);
-                frame.GetSurface().BackStyle(bag.Read<std::int16_t>(key, only, 1));
+                frame.surfaceBackStyle_ = bag.Read<std::int16_t>(key, only, 1);
             },
-            [](Frame& frame, PropertyBag& bag, const WCHAR* key) { bag.Write<std::int16_t>(key, frame.GetSurface().BackStyle(), 1); }),
+            [](Frame& frame, PropertyBag& bag, const WCHAR* key) { bag.Write<std::int16_t>(key, frame.surfaceBackStyle_, 1); }),
         StoredThrough<Frame, String>(
             TEXT("Caption"), [](Frame& frame) { return frame.Caption(); },
             [](Frame& frame, const String& caption) { frame.caption_ = caption; },
             [](Frame& frame) { return frame.Ambient().DisplayName(); }),
         StoredAs<Frame, uint8_t>(TEXT("Enabled"), &Frame::enabled_, 1),
-        StoredAs<Frame, uint8_t>(TEXT("Appearance"), &Frame::appearance_, 1),
+        StoredAs<Frame, uint8_t>(TEXT("Appearance"), &Frame::appearance_, AppearanceEtched),
         StoredThrough<Frame, std::shared_ptr<host::Font>>(
             TEXT("Font"), [](Frame& frame) { return frame.Font(); },
             [](Frame& frame, const std::shared_ptr<host::Font>& font) { frame.TakeFont(*font); },
@@ -153,7 +152,7 @@ void Frame::Enabled(bool enabled)
     enabled_ = enabled;
     PropertyChanged(TEXT("Enabled"));
     if (Ambient().UserMode())
-        GetSurface().Enabled(enabled);
+        Input().Enabled(enabled);
     DrawFrame();
     RepaintWindow();
 }
@@ -199,7 +198,7 @@ void Frame::AcceptFiles(bool accept)
 
 void Frame::OLEDropMode(std::int16_t mode)
 {
-    GetSurface().OleDropMode(mode);
+    Input().OleDropMode(mode);
     PropertyChanged(TEXT("OLEDropMode"));
 }
 

@@ -1,6 +1,8 @@
 // TextBox: the system's edit.
 #include "controls/TextBox/TextBox.h"
 
+#include "controls/TextBox/TextBoxEditStyle.h"
+
 namespace controls {
 
 using base::String;

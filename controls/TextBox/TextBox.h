@@ -3,7 +3,7 @@
 
 #include "controls/HostedControl.h"
 #include "controls/TextBox/TextBoxFilter.h"
-#include "controls/TextBox/TextBoxLayout.h"
+#include "controls/TextBox/TextBoxValues.h"
 #include "host/Event.h"
 #include "host/OwnWindow.h"
 

@@ -92,17 +92,16 @@ TEST_F(Persistence, FrameAndItsSurface_ShareAKey)
 {
     const struct {
         const char* stored;
-        int frame, surface;
+        int frame;
         const char* keys;
-    } files[] = {{"", 0, 1, "Tooltiptitle ToolTipIcon TooltipBalloon "},
-                 {"BackStyle = 1", 1, 1, "BackStyle Tooltiptitle ToolTipIcon TooltipBalloon "},
-                 {"BackStyle = 0", 0, 0, "Tooltiptitle ToolTipIcon TooltipBalloon BackStyle "},
-                 {"BackStyle = 1 BackStyle = 0", 1, 0, "BackStyle Tooltiptitle ToolTipIcon TooltipBalloon BackStyle "}};
-    for (const auto& [stored, frame, surface, keys] : files) {
+    } files[] = {{"", 0, "Tooltiptitle ToolTipIcon TooltipBalloon "},
+                 {"BackStyle = 1", 1, "BackStyle Tooltiptitle ToolTipIcon TooltipBalloon "},
+                 {"BackStyle = 0", 0, "Tooltiptitle ToolTipIcon TooltipBalloon BackStyle "},
+                 {"BackStyle = 1 BackStyle = 0", 1, "BackStyle Tooltiptitle ToolTipIcon TooltipBalloon BackStyle "}};
+    for (const auto& [stored, frame, keys] : files) {
         form = std::make_unique<KeyForm>();
         EXPECT_EQ(Keys("Frame", stored), keys);
         EXPECT_EQ(Get<controls::Frame>("C").BackStyle(), frame) << stored;
-        EXPECT_EQ(Get<controls::Frame>("C").GetSurface().BackStyle(), surface) << stored;
     }
 }
 

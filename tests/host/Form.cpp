@@ -69,7 +69,7 @@ TEST_F(Form, UnloadFromInsideAnyEvent_IsSafe)
             form->Unload();
             EXPECT_EQ(ProbeNamed(TEXT("A")).GetSurface().Dc(), nullptr);
         };
-        ProbeNamed(TEXT("A")).GetSurface().AccessKey(TEXT("x"));
+        ProbeNamed(TEXT("A")).Input().AccessKey(TEXT("x"));
         ClickAt(WindowOf(TEXT("A")), 1, 1);
         Press('A');
         Press('X', 4);

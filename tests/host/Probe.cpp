@@ -35,7 +35,7 @@ void Probe::UserControl_ReadProperties(const host::PropertyBag& bag)
 {
     canGetFocus_ = bag.Read<bool>(TEXT("Focus"), true);
     isButton_ = bag.Read<bool>(TEXT("Button"), false);
-    GetSurface().AccessKey(bag.Read<base::String>(TEXT("Key"), {}));
+    Input().AccessKey(bag.Read<base::String>(TEXT("Key"), {}));
     Note(OwnHandle() != nullptr ? "ReadProperties" : "ReadProperties without a window");
 }
 

@@ -1,4 +1,4 @@
-// TextBoxLayout: which edit styles a text box's properties ask for.
+// TextBoxEditStyle: which edit styles a text box's properties ask for.
 #pragma once
 
 #include <windows.h>
@@ -6,12 +6,6 @@
 #include <cstdint>
 
 namespace controls {
-
-enum ScrollBarsValue : std::int32_t { NoScrollBars, HorizontalScrollBar, VerticalScrollBar, BothScrollBars };
-
-enum WordWrapValue : std::int32_t { WordWrapByScrollBars, WordWrapOff, WordWrapOn };
-
-enum CaseStyleValue : std::uint8_t { CaseAsTyped, CaseUpper, CaseLower };
 
 /// Lines, scroll bars and scrolling by itself. A multi-line edit wraps exactly when it does not scroll sideways by itself.
 [[nodiscard]] DWORD LineBits(bool multiLine, std::int32_t scrollBars);

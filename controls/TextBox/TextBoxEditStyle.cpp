@@ -1,5 +1,7 @@
-// TextBoxLayout: edit styles. https://learn.microsoft.com/windows/win32/controls/edit-control-styles
-#include "controls/TextBox/TextBoxLayout.h"
+// TextBoxEditStyle: https://learn.microsoft.com/windows/win32/controls/edit-control-styles
+#include "controls/TextBox/TextBoxEditStyle.h"
+
+#include "controls/TextBox/TextBoxValues.h"
 
 namespace controls {
 
