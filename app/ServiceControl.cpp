@@ -39,7 +39,7 @@ String Qualified(const String& account)
 {
     if (account == localSystem || account.find(TEXT('\\')) != String::npos)
         return account;
-    const String domain = GetLogonDomain();
+    const String domain = toolkit::GetLogonDomain();
     return (domain.empty() ? String(TEXT(".")) : domain) + TEXT('\\') + account;
 }
 
@@ -143,11 +143,6 @@ DWORD ServiceControl::ServiceStop() const
         SERVICE_STATUS status = {};
         return ResultOf(ControlService(service, SERVICE_CONTROL_STOP, &status));
     });
-}
-
-String GetLogonDomain()
-{
-    return toolkit::LogonDomain();
 }
 
 }  // namespace app

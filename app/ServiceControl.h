@@ -39,7 +39,4 @@ private:
     base::String description_;
 };
 
-/// The current user's logon domain, empty when it cannot be told.
-base::String GetLogonDomain();
-
 }  // namespace app

@@ -44,4 +44,12 @@ using RegionHandle = Handle<GdiTraits<HRGN>>;
 /// A memory device context from CreateCompatibleDC.
 using MemoryDc = Handle<NullHandleTraits<HDC, &DeleteDC>>;
 
+/// The device context of the whole screen, from GetDC without a window.
+struct ScreenDcTraits {
+    using Type = HDC;
+    static Type None() noexcept { return nullptr; }
+    static void Close(Type dc) noexcept { ReleaseDC(nullptr, dc); }
+};
+using ScreenDc = Handle<ScreenDcTraits>;
+
 }  // namespace base

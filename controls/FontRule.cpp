@@ -1,6 +1,8 @@
 // FontRule: enumeration of the system's fonts.
 #include "controls/FontRule.h"
 
+#include "base/Handles.h"
+
 #include <algorithm>
 #include <cstddef>
 
@@ -16,9 +18,8 @@ void EnumerateFonts(const String& faceName, FONTENUMPROCW callback, void* target
     LOGFONTW wanted{};
     wanted.lfCharSet = DEFAULT_CHARSET;
     faceName.copy(wanted.lfFaceName, LF_FACESIZE - 1);
-    const HDC screen = GetDC(nullptr);
-    EnumFontFamiliesExW(screen, &wanted, callback, reinterpret_cast<LPARAM>(target), 0);
-    ReleaseDC(nullptr, screen);
+    const base::ScreenDc screen(GetDC(nullptr));
+    EnumFontFamiliesExW(screen.Get(), &wanted, callback, reinterpret_cast<LPARAM>(target), 0);
 }
 
 int CALLBACK TakeFirst(const LOGFONTW* font, const TEXTMETRICW*, DWORD type, LPARAM target)

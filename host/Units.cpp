@@ -1,7 +1,7 @@
 // Units: conversions by MulDiv, which rounds to the nearest pixel.
 #include "host/Units.h"
 
-#include "base/Handle.h"
+#include "base/Handles.h"
 
 #include <cmath>
 
@@ -11,17 +11,11 @@ namespace {
 
 constexpr int twipsPerInch = 1440;
 
-struct ScreenDcTraits {
-    using Type = HDC;
-    static Type None() noexcept { return nullptr; }
-    static void Close(Type dc) noexcept { ReleaseDC(nullptr, dc); }
-};
-
 }  // namespace
 
 ScreenResolution ScreenResolution::Get()
 {
-    const base::Handle<ScreenDcTraits> screen(GetDC(nullptr));
+    const base::ScreenDc screen(GetDC(nullptr));
     ScreenResolution resolution;
     if (screen) {
         resolution.x = GetDeviceCaps(screen.Get(), LOGPIXELSX);

@@ -16,7 +16,7 @@ struct NetBufferTraits {
 
 }  // namespace
 
-base::String LogonDomain()
+base::String GetLogonDomain()
 {
     base::Handle<NetBufferTraits> buffer;
     if (NetWkstaUserGetInfo(nullptr, 1, buffer.Receive()) != NERR_Success || !buffer)

@@ -6,6 +6,6 @@
 namespace toolkit {
 
 /// Empty when it cannot be told. https://learn.microsoft.com/windows/win32/api/lmwksta/nf-lmwksta-netwkstausergetinfo
-base::String LogonDomain();
+base::String GetLogonDomain();
 
 }  // namespace toolkit

@@ -1,16 +1,10 @@
 // What is done to windows, and the desktop: showing, closing, bringing to the front, the mouse, the screen.
-#include "base/Handle.h"
+#include "base/Handles.h"
 #include "toolkit/TaskManLight.h"
 
 namespace toolkit {
 
 namespace {
-
-struct ScreenDcTraits {
-    using Type = HDC;
-    static Type None() noexcept { return nullptr; }
-    static void Close(Type dc) noexcept { ReleaseDC(nullptr, dc); }
-};
 
 void ShowOrHide(HWND window, bool show)
 {
@@ -112,7 +106,7 @@ HWND TaskManLight::GetHWndFromMousePos() const
 
 COLORREF TaskManLight::GetRGBPixelColorFromPos(std::int32_t In_X, std::int32_t In_Y) const
 {
-    const base::Handle<ScreenDcTraits> screen(GetDC(nullptr));
+    const base::ScreenDc screen(GetDC(nullptr));
     return GetPixel(screen.Get(), In_X, In_Y);
 }
 

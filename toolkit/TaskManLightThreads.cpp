@@ -42,7 +42,7 @@ base::String TaskManLight::GetActualUser() const
 
 base::String TaskManLight::GetActualDomain() const
 {
-    return LogonDomain();
+    return GetLogonDomain();
 }
 
 }  // namespace toolkit
