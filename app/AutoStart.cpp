@@ -19,15 +19,6 @@ bool Contains(StringView text, StringView option)
     return base::FindIgnoringCase(text, option) != String::npos;
 }
 
-template <class Action>
-void WithRunKey(bool use64BitView, Action action)
-{
-    if (const HKEY key = OpenRegKey(HKEY_LOCAL_MACHINE, runKey, use64BitView)) {
-        action(key);
-        CloseRegKey(key);
-    }
-}
-
 }  // namespace
 
 String AutoStartData(StringView agentPath, const AutoStartOptions& options)
@@ -42,21 +33,22 @@ String AutoStartData(StringView agentPath, const AutoStartOptions& options)
 
 std::optional<AutoStartOptions> ReadAutoStart(bool use64BitView)
 {
-    String text;
-    DWORD type = REG_NONE;
-    if (!ReadRegValue(HKEY_LOCAL_MACHINE, runKey, valueName, text, type, use64BitView))
+    const std::optional<RegValue> value = ReadRegValue(HKEY_LOCAL_MACHINE, runKey, valueName, use64BitView);
+    if (!value)
         return std::nullopt;
-    return AutoStartOptions{Contains(text, hidden), Contains(text, soundStart)};
+    return AutoStartOptions{Contains(value->text, hidden), Contains(value->text, soundStart)};
 }
 
 void WriteAutoStart(StringView data, bool use64BitView)
 {
-    WithRunKey(use64BitView, [&](HKEY key) { WriteRegString(key, valueName, data); });
+    if (const base::RegistryKey key = OpenRegKey(HKEY_LOCAL_MACHINE, runKey, use64BitView))
+        WriteRegString(key, valueName, data);
 }
 
 void DeleteAutoStart(bool use64BitView)
 {
-    WithRunKey(use64BitView, [&](HKEY key) { DeleteRegValue(key, valueName); });
+    if (const base::RegistryKey key = OpenRegKey(HKEY_LOCAL_MACHINE, runKey, use64BitView))
+        DeleteRegValue(key, valueName);
 }
 
 }  // namespace app

@@ -2,11 +2,14 @@
 #include "app/Form1.h"
 
 #include "app/AgentName.h"
-#include "app/EnabledOnChange.h"
+#include "app/helpers/Administrator.h"
+#include "app/helpers/CommonControls.h"
+#include "app/helpers/DataExecution.h"
 #include "app/helpers/IniFolder.h"
 #include "app/helpers/MsgBox.h"
 #include "app/helpers/Paths.h"
-#include "app/helpers/StartUpChecks.h"
+#include "app/helpers/WindowIcons.h"
+#include "base/Wow64.h"
 
 namespace app {
 
@@ -45,7 +48,7 @@ void Form1::Form_Load()
     ProcessTools = std::make_unique<toolkit::TaskManLight>();
     ProcessTools->FirstFormWindow = [] { return First() ? First()->hWnd() : nullptr; };
     txtPassword->PasswordChar(TEXT("*"));
-    RunningOnWow64 = helpers::IsWow64();
+    RunningOnWow64 = base::IsWow64();
     if (IsAnotherInstanceRunning()) {
         Unload();
         return;

@@ -1,8 +1,8 @@
 // The agent as an ordinary process: it is known by a window of its own with a certain title, and closed through its main window.
-#include "app/EnabledOnChange.h"
 #include "app/Form1.h"
 #include "app/helpers/Paths.h"
 #include "app/helpers/RunProcess.h"
+#include "app/SetEnabled.h"
 
 namespace app {
 

@@ -1,7 +1,7 @@
 // The service panel: it shows what the service database says, once a second, and lets the user act on it.
-#include "app/EnabledOnChange.h"
 #include "app/Form1.h"
 #include "app/helpers/Paths.h"
+#include "app/SetEnabled.h"
 
 #include <iterator>
 

@@ -1,10 +1,10 @@
 // What the agent reads when it starts: the password in its settings file and the switches of its auto-start value; and the OK button.
 #include "app/AutoStart.h"
 #include "app/Base64.h"
-#include "app/EnabledOnChange.h"
 #include "app/Form1.h"
 #include "app/helpers/Ini.h"
 #include "app/helpers/Paths.h"
+#include "app/SetEnabled.h"
 
 namespace app {
 

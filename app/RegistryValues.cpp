@@ -3,10 +3,11 @@
 #include <array>
 #include <cstring>
 #include <limits>
-#include <optional>
+#include <utility>
 
 namespace app {
 
+using base::RegistryKey;
 using base::String;
 using base::StringView;
 
@@ -15,16 +16,17 @@ namespace {
 constexpr REGSAM readAndWrite = KEY_READ | KEY_WRITE | KEY_CREATE_LINK;
 static_assert(readAndWrite == 0x2003F);
 
-bool Set(HKEY key, StringView name, DWORD type, const void* data, std::size_t size)
+bool Set(const RegistryKey& key, StringView name, DWORD type, const void* data, std::size_t size)
 {
-    return RegSetValueExW(key, String(name).c_str(), 0, type, static_cast<const BYTE*>(data), static_cast<DWORD>(size)) == ERROR_SUCCESS;
+    return RegSetValueExW(key.Get(), String(name).c_str(), 0, type, static_cast<const BYTE*>(data), static_cast<DWORD>(size)) ==
+           ERROR_SUCCESS;
 }
 
-HKEY Open(HKEY hive, StringView subkey, REGSAM access, bool use64BitView)
+RegistryKey Open(HKEY hive, StringView subkey, REGSAM access, bool use64BitView)
 {
     HKEY key = nullptr;
     const REGSAM view = use64BitView ? KEY_WOW64_64KEY : 0;
-    return RegOpenKeyExW(hive, String(subkey).c_str(), 0, access | view, &key) == ERROR_SUCCESS ? key : nullptr;
+    return RegistryKey(RegOpenKeyExW(hive, String(subkey).c_str(), 0, access | view, &key) == ERROR_SUCCESS ? key : nullptr);
 }
 
 /// A decimal number that fits into 32 bits, signed or unsigned.
@@ -49,52 +51,51 @@ std::optional<DWORD> ParseDword(StringView text)
 
 }  // namespace
 
-HKEY OpenRegKey(HKEY hive, StringView subkey, bool use64BitView)
+RegistryKey OpenRegKey(HKEY hive, StringView subkey, bool use64BitView)
 {
     return Open(hive, subkey, readAndWrite, use64BitView);
 }
 
-bool CloseRegKey(HKEY key)
+bool CloseRegKey(RegistryKey key)
 {
-    return RegCloseKey(key) == ERROR_SUCCESS;
+    return RegCloseKey(key.Release()) == ERROR_SUCCESS;
 }
 
-bool QueryRegValue(HKEY key, StringView name, String& text, DWORD& type)
+std::optional<RegValue> QueryRegValue(const RegistryKey& key, StringView name)
 {
     std::array<BYTE, 1024> buffer = {};
     DWORD size = static_cast<DWORD>(buffer.size());
-    DWORD found = REG_NONE;
-    if (RegQueryValueExW(key, String(name).c_str(), nullptr, &found, buffer.data(), &size) != ERROR_SUCCESS)
-        return false;
-    type = found;
-    text.clear();
-    if (found == REG_SZ || found == REG_EXPAND_SZ) {
+    RegValue value;
+    if (RegQueryValueExW(key.Get(), String(name).c_str(), nullptr, &value.type, buffer.data(), &size) != ERROR_SUCCESS)
+        return std::nullopt;
+    String& text = value.text;
+    if (value.type == REG_SZ || value.type == REG_EXPAND_SZ) {
         text.resize(size / sizeof(WCHAR));
         std::memcpy(text.data(), buffer.data(), text.size() * sizeof(WCHAR));
         // Windows stores what a program hands it, so the terminating zero may be missing or stand in the middle.
         if (const auto end = text.find(TEXT('\0')); end != String::npos)
             text.resize(end);
-    } else if (found == REG_DWORD && size > 0) {
+    } else if (value.type == REG_DWORD && size > 0) {
         DWORD number = 0;
         std::memcpy(&number, buffer.data(), sizeof(number));
         text = base::ToDecimal(number);
     }
-    return true;
+    return value;
 }
 
-bool ReadRegValue(HKEY hive, StringView subkey, StringView name, String& text, DWORD& type, bool use64BitView)
+std::optional<RegValue> ReadRegValue(HKEY hive, StringView subkey, StringView name, bool use64BitView)
 {
-    HKEY key = OpenRegKey(hive, subkey, use64BitView);
+    RegistryKey key = OpenRegKey(hive, subkey, use64BitView);
     // Ordinary users may read keys of the whole machine but not write to them.
     if (!key)
         key = Open(hive, subkey, KEY_READ, use64BitView);
     if (!key)
-        return false;
-    const bool read = QueryRegValue(key, name, text, type);
-    return CloseRegKey(key) && read;
+        return std::nullopt;
+    std::optional<RegValue> value = QueryRegValue(key, name);
+    return CloseRegKey(std::move(key)) ? value : std::nullopt;
 }
 
-bool WriteRegValue(HKEY key, StringView name, const RegData& data, DWORD type)
+bool WriteRegValue(const RegistryKey& key, StringView name, const RegData& data, DWORD type)
 {
     const String* const text = std::get_if<String>(&data);
     const auto* const bytes = std::get_if<std::vector<std::uint8_t>>(&data);
@@ -113,14 +114,14 @@ bool WriteRegValue(HKEY key, StringView name, const RegData& data, DWORD type)
     }
 }
 
-bool WriteRegString(HKEY key, StringView name, StringView text)
+bool WriteRegString(const RegistryKey& key, StringView name, StringView text)
 {
     return WriteRegValue(key, name, String(text), REG_SZ);
 }
 
-bool DeleteRegValue(HKEY key, StringView name)
+bool DeleteRegValue(const RegistryKey& key, StringView name)
 {
-    return RegDeleteValueW(key, String(name).c_str()) == ERROR_SUCCESS;
+    return RegDeleteValueW(key.Get(), String(name).c_str()) == ERROR_SUCCESS;
 }
 
 }  // namespace app

@@ -154,10 +154,4 @@ private:
     Flag AdjustPrivilegeByNumber(std::int32_t In_PrivilegeNumber, bool In_Enable) const;
 };
 
-/// True when this program runs as a 32-bit process on 64-bit Windows. Asked once.
-bool IsRunningOnWow64();
-
-/// Forgets the answer of `IsRunningOnWow64`.
-void ForgetWow64();
-
 }  // namespace toolkit

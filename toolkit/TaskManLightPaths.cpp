@@ -1,5 +1,5 @@
 // Paths of processes and their modules, and the way from NT device paths to drive letters.
-#include "base/SystemExport.h"
+#include "base/Wow64.h"
 #include "toolkit/OpenedProcess.h"
 #include "toolkit/ProcessIds.h"
 #include "toolkit/TaskManLight.h"
@@ -20,9 +20,6 @@ namespace {
 constexpr DWORD queryAndRead = PROCESS_QUERY_INFORMATION | PROCESS_VM_READ;
 constexpr DWORD systemPid = 4;
 
-enum class Wow64State { Unknown, Yes, No };
-Wow64State wow64State = Wow64State::Unknown;
-
 template <std::size_t Size>
 String ModuleFileName(HANDLE process, HMODULE module)
 {
@@ -32,21 +29,6 @@ String ModuleFileName(HANDLE process, HMODULE module)
 }
 
 }  // namespace
-
-bool IsRunningOnWow64()
-{
-    if (wow64State == Wow64State::Unknown) {
-        const base::SystemExport<BOOL WINAPI(HANDLE, PBOOL)> isWow64(TEXT("kernel32"), "IsWow64Process");
-        BOOL answer = FALSE;
-        wow64State = isWow64 && isWow64(GetCurrentProcess(), &answer) && answer ? Wow64State::Yes : Wow64State::No;
-    }
-    return wow64State == Wow64State::Yes;
-}
-
-void ForgetWow64()
-{
-    wow64State = Wow64State::Unknown;
-}
 
 String TaskManLight::GetNTPathFromPID(DWORD In_PID) const
 {
@@ -64,7 +46,7 @@ String TaskManLight::GetPathFromPID(DWORD In_PID) const
     if (In_PID == 0 || In_PID == systemPid)
         return {};
     // A 32-bit process cannot read the modules of a 64-bit one, but may ask for the image's device path.
-    if (IsRunningOnWow64())
+    if (base::IsWow64())
         if (const String path = GetNTPathFromPID(In_PID); !path.empty())
             return GetPathFromNTPath(path);
     return WithProcess(In_PID, queryAndRead, String(), [](HANDLE process) { return ModuleFileName<260>(process, nullptr); });

@@ -1,6 +1,7 @@
 // Processes by id and by handle: opening, closing, killing, priority, affinity.
 #include "base/PendingMessages.h"
 #include "base/SystemExport.h"
+#include "base/Wow64.h"
 #include "toolkit/OpenedProcess.h"
 #include "toolkit/ProcessIds.h"
 #include "toolkit/TaskManLight.h"
@@ -148,7 +149,7 @@ Flag TaskManLight::SetAffinityMaskFromPID(DWORD In_ProcessID, DWORD_PTR In_CPUAf
 
 std::int32_t TaskManLight::Is32BitProcess(DWORD In_PID) const
 {
-    if (!IsRunningOnWow64())
+    if (!base::IsWow64())
         return 1;
     const base::KernelHandle process(OpenHndProcessByPID(In_PID, PROCESS_QUERY_INFORMATION));
     if (!process)

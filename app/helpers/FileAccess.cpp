@@ -13,12 +13,6 @@ using base::StringView;
 
 namespace {
 
-constexpr int granted = 1;
-constexpr int denied = 0;
-constexpr int noAccessControl = -1;
-constexpr int failed = -2;
-constexpr int missing = -3;
-
 DWORD AccessMask(int code, bool isFolder)
 {
     constexpr DWORD readFolder = FILE_LIST_DIRECTORY | FILE_READ_EA;
@@ -70,11 +64,11 @@ std::vector<BYTE> SecurityOf(const String& path)
     return descriptor;
 }
 
-int Check(std::vector<BYTE>& descriptor, DWORD mask)
+PathAccess Check(std::vector<BYTE>& descriptor, DWORD mask)
 {
     base::KernelHandle token;
     if (!OpenThreadToken(GetCurrentThread(), TOKEN_QUERY, TRUE, token.Receive()))
-        return failed;
+        return PathAccess::Failed;
     GENERIC_MAPPING mapping = {FILE_GENERIC_READ, FILE_GENERIC_WRITE, FILE_GENERIC_EXECUTE, FILE_ALL_ACCESS};
     MapGenericMask(&mask, &mapping);
     alignas(PRIVILEGE_SET) std::array<BYTE, 32> privileges = {};
@@ -83,35 +77,35 @@ int Check(std::vector<BYTE>& descriptor, DWORD mask)
     BOOL status = FALSE;
     AccessCheck(descriptor.data(), token.Get(), mask, &mapping, reinterpret_cast<PRIVILEGE_SET*>(privileges.data()), &privilegesSize,
                 &grantedMask, &status);
-    return status ? granted : denied;
+    return status ? PathAccess::Granted : PathAccess::Denied;
 }
 
 }  // namespace
 
-int CheckPathAccess(StringView path, int code, bool isFolder)
+PathAccess CheckPathAccess(StringView path, int code, bool isFolder)
 {
     String target = base::Trim(path);
     if (isFolder && !target.ends_with(TEXT('\\')))
         target += TEXT('\\');
     const String root = RootOf(target);
     if (root.empty())
-        return failed;
+        return PathAccess::Failed;
     if (!HasAccessControl(root))
-        return noAccessControl;
+        return PathAccess::NoAccessControl;
     std::vector<BYTE> descriptor = SecurityOf(target);
     if (descriptor.empty())
-        return failed;
+        return PathAccess::Failed;
     // AccessCheck takes an impersonation token only, which a process gets by impersonating itself.
     if (!ImpersonateSelf(SecurityDelegation))
-        return failed;
-    const int result = Check(descriptor, AccessMask(code, isFolder));
+        return PathAccess::Failed;
+    const PathAccess result = Check(descriptor, AccessMask(code, isFolder));
     RevertToSelf();
     return result;
 }
 
-int CheckFolderAccess(StringView folder, int code)
+PathAccess CheckFolderAccess(StringView folder, int code)
 {
-    return FolderExists(folder) ? CheckPathAccess(folder, code, true) : missing;
+    return FolderExists(folder) ? CheckPathAccess(folder, code, true) : PathAccess::Missing;
 }
 
 }  // namespace helpers

@@ -8,11 +8,19 @@ namespace helpers {
 /// Access codes. Any other number is an access mask itself.
 enum AccessCode : int { ReadAccess = -1, WriteAccess = -2, ReadAndWriteAccess = -3 };
 
-/// 1 access granted, 0 denied, -1 the volume has no access-control lists, -2 error. `code` is an `AccessCode` or an access mask.
-/// https://learn.microsoft.com/windows/win32/api/securitybaseapi/nf-securitybaseapi-accesscheck
-int CheckPathAccess(base::StringView path, int code, bool isFolder);
+enum class PathAccess : int {
+    Granted = 1,
+    Denied = 0,
+    NoAccessControl = -1,  // the volume keeps no access-control lists
+    Failed = -2,           // Windows could not be asked
+    Missing = -3,
+};
 
-/// -3 when the folder does not exist, else as `CheckPathAccess`.
-int CheckFolderAccess(base::StringView folder, int code);
+/// `code` is an `AccessCode` or an access mask. Never `Missing`: what does not exist has failed.
+/// https://learn.microsoft.com/windows/win32/api/securitybaseapi/nf-securitybaseapi-accesscheck
+PathAccess CheckPathAccess(base::StringView path, int code, bool isFolder);
+
+/// `Missing` when the folder does not exist, else as `CheckPathAccess`.
+PathAccess CheckFolderAccess(base::StringView folder, int code);
 
 }  // namespace helpers

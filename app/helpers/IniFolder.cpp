@@ -1,6 +1,5 @@
 #include "app/helpers/IniFolder.h"
 
-#include "app/helpers/Caches.h"
 #include "app/helpers/FileAccess.h"
 #include "app/helpers/Paths.h"
 #include "app/helpers/SpecialFolders.h"
@@ -11,9 +10,13 @@ using base::String;
 
 namespace {
 
+/// Where the agent's settings file lives. `Undecided` also stays while no folder qualifies.
+enum class IniFolderChoice { Undecided, Application, UserData };
+IniFolderChoice choice = IniFolderChoice::Undecided;
+
 bool IsUsable(const String& folder)
 {
-    return CheckFolderAccess(folder, ReadAndWriteAccess) == 1;
+    return CheckFolderAccess(folder, ReadAndWriteAccess) == PathAccess::Granted;
 }
 
 bool HoldsSettings(const String& folder)
@@ -40,7 +43,6 @@ IniFolderChoice Choose()
 
 String GetIniFolder()
 {
-    IniFolderChoice& choice = ProcessCaches().iniFolder;
     if (choice == IniFolderChoice::Undecided)
         choice = Choose();
     switch (choice) {
@@ -51,6 +53,11 @@ String GetIniFolder()
         default:
             return {};
     }
+}
+
+void ForgetIniFolder()
+{
+    choice = IniFolderChoice::Undecided;
 }
 
 }  // namespace helpers

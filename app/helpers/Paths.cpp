@@ -1,7 +1,5 @@
 #include "app/helpers/Paths.h"
 
-#include "app/helpers/Caches.h"
-
 #include <shlwapi.h>
 
 namespace helpers {
@@ -14,6 +12,9 @@ namespace {
 constexpr StringView forbiddenInPath = TEXT("/*?<>|\"\n\r");
 constexpr StringView forbiddenInFileName = TEXT("\\/:*?<>|\"\n\r");
 constexpr StringView longPathPrefix = TEXT("\\\\?\\");
+
+String appPath;     // ends in a backslash
+String appExeName;  // without folder and extension
 
 /// Windows cuts a name that is longer than the buffer and returns the buffer's size; then it is asked again with more room.
 String ModuleFileName(DWORD room)
@@ -36,22 +37,26 @@ bool HasDotAtEitherEnd(StringView text)
 
 String GetAppPath()
 {
-    String& path = ProcessCaches().appPath;
-    if (path.empty())
-        path = GetFolderFromPath(ModuleFileName(260));
-    return path;
+    if (appPath.empty())
+        appPath = GetFolderFromPath(ModuleFileName(260));
+    return appPath;
 }
 
 String GetAppExeName()
 {
-    String& name = ProcessCaches().appExeName;
-    if (name.empty()) {
+    if (appExeName.empty()) {
         String module = ModuleFileName(519);
         WCHAR* const file = PathFindFileNameW(module.data());
         PathRemoveExtensionW(file);
-        name = file;
+        appExeName = file;
     }
-    return name;
+    return appExeName;
+}
+
+void ForgetPaths()
+{
+    appPath.clear();
+    appExeName.clear();
 }
 
 String GetFolderFromPath(StringView path)

@@ -5,11 +5,13 @@
 
 namespace helpers {
 
-/// Folder of the running module, ending in a backslash. Cached.
+/// Folder of the running module, ending in a backslash. Cached until `ForgetPaths`.
 base::String GetAppPath();
 
-/// File name of the running module without folder and extension. Cached.
+/// File name of the running module without folder and extension. Cached until `ForgetPaths`.
 base::String GetAppExeName();
+
+void ForgetPaths();
 
 /// The path up to and including its last backslash; the path itself when it has none.
 base::String GetFolderFromPath(base::StringView path);

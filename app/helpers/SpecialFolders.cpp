@@ -1,8 +1,7 @@
 #include "app/helpers/SpecialFolders.h"
 
-#include "app/helpers/Caches.h"
 #include "app/helpers/Paths.h"
-#include "app/helpers/StartUpChecks.h"
+#include "base/Wow64.h"
 
 #include <shlobj.h>
 #include <shlwapi.h>
@@ -18,6 +17,8 @@ namespace {
 
 using FolderBuffer = std::array<WCHAR, 519>;
 constexpr DWORD askedLength = 259;
+
+String userDataFolder;  // ends in a backslash
 
 void Redirect(String& path)
 {
@@ -56,7 +57,7 @@ String GetSpecialFolder(int id, bool addTrailingBackslash, bool keepSystem32)
     String path = buffer.data();
     if (path.empty())
         return path;
-    if (!keepSystem32 && (id == CSIDL_SYSTEM || id == CSIDL_SYSTEMX86) && IsWow64())
+    if (!keepSystem32 && (id == CSIDL_SYSTEM || id == CSIDL_SYSTEMX86) && base::IsWow64())
         Redirect(path);
     path.resize(buffer.size());
     if (addTrailingBackslash)
@@ -68,17 +69,21 @@ String GetSpecialFolder(int id, bool addTrailingBackslash, bool keepSystem32)
 
 String GetUserDataFolder(bool create)
 {
-    String& cached = ProcessCaches().userDataFolder;
-    if (cached.empty()) {
+    if (userDataFolder.empty()) {
         const String parent = GetSpecialFolder(CSIDL_APPDATA, true, true);
         if (parent.empty())
             return {};
         const String path = parent + GetAppExeName();
         if (!FolderExists(path) && (!create || !CreateFolders(path)))
             return {};
-        cached = path + TEXT('\\');
+        userDataFolder = path + TEXT('\\');
     }
-    return cached;
+    return userDataFolder;
+}
+
+void ForgetUserDataFolder()
+{
+    userDataFolder.clear();
 }
 
 }  // namespace helpers

@@ -14,7 +14,9 @@ constexpr int temporaryFolder = 12;
 base::String GetSpecialFolder(int id, bool addTrailingBackslash, bool keepSystem32);
 
 /// The program's folder in the roaming application data, ending in a backslash; empty when it is missing and `create` is false or creating
-/// it fails. Cached once it exists.
+/// it fails. Cached, once it exists, until `ForgetUserDataFolder`.
 base::String GetUserDataFolder(bool create);
+
+void ForgetUserDataFolder();
 
 }  // namespace helpers

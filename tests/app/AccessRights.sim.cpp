@@ -67,10 +67,8 @@ TEST_F(AccessRights, ServiceOperations)
 TEST_F(AccessRights, RegistryKeys)
 {
     const WCHAR* const key = TEXT("SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run");
-    base::String text;
-    DWORD type = 0;
     for (const bool wide : {false, true}) {
-        const auto read = [&] { app::ReadRegValue(HKEY_LOCAL_MACHINE, key, TEXT("Velmora"), text, type, wide); };
+        const auto read = [&] { app::ReadRegValue(HKEY_LOCAL_MACHINE, key, TEXT("Velmora"), wide); };
         const auto open = [&] { app::CloseRegKey(app::OpenRegKey(HKEY_LOCAL_MACHINE, key, wide)); };
         const std::string write = wide ? "key 0x2013F" : "key 0x2003F";
         pc.Get<Users>().Administrator(true);

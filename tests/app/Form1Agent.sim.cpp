@@ -2,7 +2,7 @@
 #include "platform/sim/Desktop.h"
 #include "platform/sim/Processes.h"
 #include "platform/sim/Volumes.h"
-#include "tests/support/UtilityScene.h"
+#include "tests/app/UtilityScene.h"
 
 #include <gtest/gtest.h>
 

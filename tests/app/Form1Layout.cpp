@@ -1,7 +1,7 @@
 // The window as designed, against its measures. It is loaded in design mode, so that nothing of the machine is asked.
 #include "app/Form1.h"
 #include "controls/RegisterControls.h"
-#include "tests/support/FormMap.h"
+#include "tests/app/FormMap.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // The service panel.
 #include "platform/sim/Services.h"
 #include "platform/sim/Users.h"
-#include "tests/support/UtilityScene.h"
+#include "tests/app/UtilityScene.h"
 
 #include <gtest/gtest.h>
 

@@ -7,7 +7,7 @@
 #include "platform/sim/Services.h"
 #include "platform/sim/Users.h"
 #include "platform/sim/Volumes.h"
-#include "tests/support/UtilityScene.h"
+#include "tests/app/UtilityScene.h"
 
 #include <gtest/gtest.h>
 

@@ -27,11 +27,14 @@ protected:
         ASSERT_EQ(RegSetValueExW(key.Get(), TEXT("v"), 0, storedType, static_cast<const BYTE*>(data), static_cast<DWORD>(size)), 0);
     }
     void StoreText(DWORD storedType, const String& stored) { Store(storedType, stored.data(), stored.size() * sizeof(WCHAR)); }
-    bool Read() { return ReadRegValue(HKEY_CURRENT_USER, scratchKey, TEXT("v"), text, type, false); }
+    static std::optional<String> Read(DWORD type)
+    {
+        const auto value = ReadRegValue(HKEY_CURRENT_USER, scratchKey, TEXT("v"), false);
+        EXPECT_TRUE(!value || value->type == type) << value->type;
+        return value ? std::optional(value->text) : std::nullopt;
+    }
 
     base::RegistryKey key;
-    String text = TEXT("before");
-    DWORD type = 99;
 };
 
 TEST_F(RegistryValues, Text_EndsAtItsFirstZero)
@@ -39,41 +42,31 @@ TEST_F(RegistryValues, Text_EndsAtItsFirstZero)
     const String inside = {TEXT('a'), TEXT('\0'), TEXT('b'), TEXT('\0')};
     for (const String& stored : {String(TEXT("a")), String(TEXT("a\0"), 2), inside}) {
         StoreText(REG_SZ, stored);
-        EXPECT_TRUE(Read());
-        EXPECT_EQ(text, TEXT("a"));
+        EXPECT_EQ(Read(REG_SZ), TEXT("a")) << stored.size() << " characters stored";
     }
     StoreText(REG_EXPAND_SZ, TEXT("%TEMP%"));
-    EXPECT_TRUE(Read());
-    EXPECT_EQ(text, TEXT("%TEMP%")) << "variables stay as they are";
-    EXPECT_EQ(type, static_cast<DWORD>(REG_EXPAND_SZ));
+    EXPECT_EQ(Read(REG_EXPAND_SZ), TEXT("%TEMP%")) << "variables stay as they are";
     Store(REG_SZ, nullptr, 0);
-    EXPECT_TRUE(Read());
-    EXPECT_EQ(text, TEXT(""));
+    EXPECT_EQ(Read(REG_SZ), TEXT(""));
 }
 
 TEST_F(RegistryValues, OtherTypes_AreDecimalOrEmpty)
 {
     const DWORD number = 3000000000u;
     Store(REG_DWORD, &number, sizeof(number));
-    EXPECT_TRUE(Read());
-    EXPECT_EQ(text, TEXT("3000000000"));
+    EXPECT_EQ(Read(REG_DWORD), TEXT("3000000000"));
     Store(REG_BINARY, "/Hidden", 7);
-    EXPECT_TRUE(Read());
-    EXPECT_EQ(text, TEXT(""));
-    EXPECT_EQ(type, static_cast<DWORD>(REG_BINARY));
+    EXPECT_EQ(Read(REG_BINARY), TEXT(""));
 }
 
-TEST_F(RegistryValues, MissingOrTooLong_LeavesTheOutputs)
+TEST_F(RegistryValues, MissingOrTooLong_IsNothing)
 {
-    EXPECT_FALSE(Read());
+    EXPECT_FALSE(Read(REG_SZ));
     StoreText(REG_SZ, String(512, TEXT('x')) + TEXT('\0'));
-    EXPECT_FALSE(Read());
-    EXPECT_FALSE(ReadRegValue(HKEY_CURRENT_USER, TEXT("Software\\VelmoraTests\\Missing"), TEXT("v"), text, type, false));
-    EXPECT_EQ(text, TEXT("before"));
-    EXPECT_EQ(type, 99u);
+    EXPECT_FALSE(Read(REG_SZ));
+    EXPECT_FALSE(ReadRegValue(HKEY_CURRENT_USER, TEXT("Software\\VelmoraTests\\Missing"), TEXT("v"), false));
     StoreText(REG_SZ, String(511, TEXT('x')) + TEXT('\0'));
-    EXPECT_TRUE(Read());
-    EXPECT_EQ(text.size(), 511u);
+    EXPECT_EQ(Read(REG_SZ), String(511, TEXT('x')));
 }
 
 TEST_F(RegistryValues, Writing_StoresEachTypeInItsForm)
@@ -89,13 +82,13 @@ TEST_F(RegistryValues, Writing_StoresEachTypeInItsForm)
                  {std::vector<std::uint8_t>{1, 0, 2}, REG_BINARY, true, 3}, {String(TEXT("ab")), REG_BINARY, false, 0},
                  {std::vector<std::uint8_t>{1}, REG_SZ, false, 0},          {String(TEXT("ab")), REG_MULTI_SZ, false, 0}};
     for (const auto& c : cases) {
-        EXPECT_EQ(WriteRegValue(key.Get(), TEXT("v"), c.data, c.type), c.written) << &c - cases;
+        EXPECT_EQ(WriteRegValue(key, TEXT("v"), c.data, c.type), c.written) << &c - cases;
         DWORD stored = 0;
         DWORD size = 0;
         EXPECT_EQ(RegQueryValueExW(key.Get(), TEXT("v"), nullptr, &stored, nullptr, &size) == ERROR_SUCCESS, c.written) << &c - cases;
         EXPECT_EQ(size, c.size) << &c - cases;
         EXPECT_EQ(stored, c.written ? c.type : 0u);
-        EXPECT_EQ(DeleteRegValue(key.Get(), TEXT("v")), c.written) << &c - cases;
+        EXPECT_EQ(DeleteRegValue(key, TEXT("v")), c.written) << &c - cases;
     }
 }
 

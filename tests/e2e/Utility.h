@@ -3,8 +3,8 @@
 
 #include "base/Handles.h"
 #include "base/String.h"
+#include "tests/app/FormMap.h"
 #include "tests/e2e/Eventually.h"
-#include "tests/support/FormMap.h"
 
 #include <initializer_list>
 #include <string>

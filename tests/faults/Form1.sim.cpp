@@ -1,7 +1,7 @@
 // The utility while one Windows call after another fails: it neither crashes nor leaks, and the settings file stays whole.
 #include "platform/sim/Services.h"
+#include "tests/app/UtilityScene.h"
 #include "tests/support/FaultSweep.h"
-#include "tests/support/UtilityScene.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,6 @@
 // Every member while one Windows call after another fails inside it: its result, outputs left alone, nothing left open.
 #include "base/Handles.h"
+#include "base/Wow64.h"
 #include "platform/sim/Desktop.h"
 #include "platform/sim/Machine.h"
 #include "platform/sim/Processes.h"
@@ -29,8 +30,8 @@ struct Scene : toolkit::TaskManLight {
     {
         pc.Get<platform::Machine>().Wow64(wow64);
         pc.Get<platform::Users>().Held(20)->enabled = true;
-        toolkit::ForgetWow64();
-        toolkit::IsRunningOnWow64();
+        base::ForgetWow64();
+        base::IsWow64();
         FirstFormWindow = [form = own.Top(TEXT("form"))] { return form; };
         MakeWindowVisible(FirstFormWindow());
         pc.Get<platform::Desktop>().MouseMove(50, 60);
@@ -109,7 +110,6 @@ const Row rows[] = {
     {"GetDLLsFromPID", [](Scene& s) { return Outcome{s.GetDLLsFromPID(s.id, s.texts), s.texts, std::count(s.texts.begin(), s.texts.end(), base::String())}; },
      {1, 3, 0}, {0, 1, 0}, {{"GetModuleFileNameExW", {1, 3, 1}}}},
     {"Is32BitProcess", [](Scene& s) { return Outcome{s.Is32BitProcess(s.id)}; }, {0}, {-1}, {{"IsWow64Process", {0}}}, true},
-    {"IsRunningOnWow64", [](Scene&) { return toolkit::ForgetWow64(), Outcome{toolkit::IsRunningOnWow64()}; }, {1}, {0}, {{"GetModuleHandleW", {1}}}, true},
     {"GetNTPathFromPID", [](Scene& s) { return Outcome{s.GetNTPathFromPID(s.id)}; }, {48}, {0}},
     {"GetPathFromPID", [](Scene& s) { return Outcome{s.GetPathFromPID(s.id)}; }, {27}, {0}},
     {"GetPathFromPID on WOW64", [](Scene& s) { return Outcome{s.GetPathFromPID(s.id)}; }, {27}, {0}, {{"OpenProcess", {27}}, {"GetProcessImageFileNameW", {27}}}, true},
@@ -180,7 +180,7 @@ TEST(ToolkitFaults, EachMember_StandsTheFailureOfEachCall)
         }
         EXPECT_GT(failures, 0) << row.member << " makes no call that can fail";
     }
-    toolkit::ForgetWow64();
+    base::ForgetWow64();
 }
 
 }  // namespace

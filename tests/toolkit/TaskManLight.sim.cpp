@@ -1,5 +1,7 @@
 // Scenes that only the stand-in PC can set: strange drives, a 32-bit program on 64-bit Windows, a nested collection, the shell's windows.
 #include "toolkit/TaskManLight.h"
+
+#include "base/Wow64.h"
 #include "platform/sim/Desktop.h"
 #include "platform/sim/Machine.h"
 #include "platform/sim/Processes.h"
@@ -19,8 +21,8 @@ namespace {
 
 class TaskManLight : public testing::Test {
 protected:
-    TaskManLight() { toolkit::ForgetWow64(); }
-    ~TaskManLight() override { toolkit::ForgetWow64(); }
+    TaskManLight() { base::ForgetWow64(); }
+    ~TaskManLight() override { base::ForgetWow64(); }
 
     SimPc& pc = SimPc::Current();
     Processes& processes = pc.Get<Processes>();
@@ -105,7 +107,7 @@ TEST_F(TaskManLight, Wow64_TellsProcessesApartAndAsksForDevicePaths)
 {
     const DWORD process = processes.Launch(u"C:\\a.exe");
     EXPECT_EQ(tools.Is32BitProcess(process), 1);
-    toolkit::ForgetWow64();
+    base::ForgetWow64();
     pc.Get<Machine>().Wow64(true);
     EXPECT_EQ(tools.Is32BitProcess(process), 0);
     processes.Find(process)->wow64 = true;

@@ -1,5 +1,6 @@
 // Processes, their paths, instances and threads, held against what Windows' own functions say of a helper that runs beside the tests.
 #include "base/Handles.h"
+#include "base/Wow64.h"
 #include "tests/toolkit/HelperProcess.h"
 #include "toolkit/TaskManLight.h"
 
@@ -17,7 +18,7 @@ constexpr DWORD killed = STILL_ACTIVE;  // what a killed process ends with
 
 class TaskManLightProcesses : public testing::Test {
 protected:
-    TaskManLightProcesses() { toolkit::ForgetWow64(); }
+    TaskManLightProcesses() { base::ForgetWow64(); }
 
     bool IsListed(DWORD process) const
     {

@@ -1,7 +1,8 @@
 #include "app/helpers/Ini.h"
 
-#include "tests/support/FreshCaches.h"
 #include "tests/support/ScratchFolder.h"
+
+#include <gtest/gtest.h>
 
 #include <string>
 

@@ -1,15 +1,14 @@
 #include "app/helpers/RunProcess.h"
 
 #include "platform/sim/Processes.h"
-#include "tests/support/FreshCaches.h"
+#include "tests/app/FreshCaches.h"
 
 using namespace platform;
 using base::String;
-using helpers::RunProcess;
 
 namespace {
 
-class RunningProcess : public tests::FreshCaches {
+class RunProcess : public tests::FreshCaches {
 protected:
     SimPc& pc = SimPc::Current();
     Processes& processes = pc.Get<Processes>();
@@ -23,7 +22,7 @@ protected:
     }
 };
 
-TEST_F(RunningProcess, CommandLine_QuotesOnlyPathsWithBlanks)
+TEST_F(RunProcess, CommandLine_QuotesOnlyPathsWithBlanks)
 {
     AddProgram(u"C:\\A\\a.exe", 10);
     AddProgram(u"C:\\A b\\a.exe", 10);
@@ -36,7 +35,7 @@ TEST_F(RunningProcess, CommandLine_QuotesOnlyPathsWithBlanks)
         {TEXT("\"C:\\A b\\a.exe\""), TEXT(""), u"\"C:\\A b\\a.exe\"", u"C:\\A b\\"},
         {folder + TEXT("a.exe"), TEXT("/x"), TEXT("\"") + folder + TEXT("a.exe\" /x"), folder}};
     for (const auto& [path, arguments, commandLine, workingFolder] : cases) {
-        EXPECT_NE(RunProcess(path, arguments, false, true, NORMAL_PRIORITY_CLASS), 0u);
+        EXPECT_NE(helpers::RunProcess(path, arguments, false, true, NORMAL_PRIORITY_CLASS), 0u);
         const auto& request = processes.Requests().back();
         EXPECT_EQ(request.commandLine, commandLine);
         EXPECT_EQ(request.folder, workingFolder);
@@ -45,40 +44,40 @@ TEST_F(RunningProcess, CommandLine_QuotesOnlyPathsWithBlanks)
         EXPECT_EQ(request.showWindow, SW_SHOWNORMAL);
         EXPECT_TRUE(request.inheritHandles);
     }
-    RunProcess(TEXT("C:\\A\\a.exe"), TEXT(""), false, false, 0);
+    helpers::RunProcess(TEXT("C:\\A\\a.exe"), TEXT(""), false, false, 0);
     EXPECT_EQ(processes.Requests().back().showWindow, SW_HIDE);
 }
 
-TEST_F(RunningProcess, MissingFile_IsNotTried)
+TEST_F(RunProcess, MissingFile_IsNotTried)
 {
     for (const WCHAR* path : {TEXT(""), TEXT("  "), TEXT("C:\\missing.exe"), TEXT("C:\\Windows")})
-        EXPECT_EQ(RunProcess(path, {}, false, true, 0), 0u);
+        EXPECT_EQ(helpers::RunProcess(path, {}, false, true, 0), 0u);
     EXPECT_TRUE(processes.Requests().empty());
 }
 
-TEST_F(RunningProcess, Waiting_HandlesMessagesUntilTheEnd)
+TEST_F(RunProcess, Waiting_HandlesMessagesUntilTheEnd)
 {
     AddProgram(u"C:\\a.exe", 500);
     const HWND window = CreateWindowExW(0, TEXT("Static"), TEXT("w"), WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
     static int ticks;
     ticks = 0;
     SetTimer(window, 1, 100, [](HWND, UINT, UINT_PTR, DWORD) { ++ticks; });
-    const DWORD process = RunProcess(TEXT("C:\\a.exe"), {}, true, true, 0);
+    const DWORD process = helpers::RunProcess(TEXT("C:\\a.exe"), {}, true, true, 0);
     EXPECT_NE(process, 0u);
     EXPECT_FALSE(processes.IsRunning(process));
     EXPECT_GE(ticks, 4);
     DestroyWindow(window);
 }
 
-TEST_F(RunningProcess, Waiting_EndsWhenWaitingFails)
+TEST_F(RunProcess, Waiting_EndsWhenWaitingFails)
 {
     AddProgram(u"C:\\a.exe", 500);
     pc.GetFaults().FailAlways("MsgWaitForMultipleObjects", ERROR_INVALID_HANDLE);
-    const DWORD process = RunProcess(TEXT("C:\\a.exe"), {}, true, true, 0);
+    const DWORD process = helpers::RunProcess(TEXT("C:\\a.exe"), {}, true, true, 0);
     EXPECT_TRUE(processes.IsRunning(process));
 }
 
-TEST_F(RunningProcess, Pump_LeavesTheQuitMessageToTheProgram)
+TEST_F(RunProcess, Pump_LeavesTheQuitMessageToTheProgram)
 {
     const HWND window = CreateWindowExW(0, TEXT("Static"), TEXT("w"), WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
     PostMessageW(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(TEXT("set")));

@@ -1,4 +1,4 @@
-// EnabledOnChange: enables or disables a control only when that changes something and when what it stands in is enabled.
+// SetEnabled: enables or disables a control only when that changes something and when what it stands in is enabled.
 #pragma once
 
 #include "host/Control.h"

@@ -1,11 +1,11 @@
-#include "tests/support/UtilityScene.h"
+#include "tests/app/UtilityScene.h"
 
-#include "app/helpers/Caches.h"
 #include "controls/RegisterControls.h"
 #include "host/MessageLoop.h"
 #include "platform/sim/Desktop.h"
 #include "platform/sim/Registry.h"
 #include "platform/sim/Volumes.h"
+#include "tests/app/FreshCaches.h"
 
 namespace tests {
 
@@ -19,8 +19,7 @@ constexpr std::u16string_view runKey = u"SOFTWARE\\Microsoft\\Windows\\CurrentVe
 
 UtilityScene::UtilityScene() : pc(SimPc::Current()), agent(AgentProgram::Install(pc))
 {
-    helpers::ForgetCaches();
-    toolkit::ForgetWow64();
+    ForgetCaches();
     The<Desktop>().AddIconResource(u"AAA");
     controls::RegisterControls(factory_);
     pc.OnPump([] { host::MessageLoop::RunPending(); });
@@ -46,8 +45,7 @@ void UtilityScene::Close()
     if (form_)
         form_->Unload();
     form_.reset();
-    helpers::ForgetCaches();
-    toolkit::ForgetWow64();
+    ForgetCaches();
 }
 
 std::u16string UtilityScene::Disabled()
