@@ -94,8 +94,8 @@ void Form1::Form_Unload()
 
 bool Form1::IsNTPlatform()
 {
-    OSVERSIONINFOA version = {};
-    version.dwOSVersionInfoSize = sizeof(version);
+    OSVERSIONINFOA version{};
+    version.dwOSVersionInfoSize = sizeof version;
     return GetVersionExA(&version) && version.dwPlatformId == VER_PLATFORM_WIN32_NT;
 }
 

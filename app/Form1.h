@@ -71,6 +71,7 @@ private:
     void CheckAutoStart_Click();
     void CommandOk_Click();
 
+    // NOLINTBEGIN(readability-identifier-naming): controls go by their names in the form file, and so does what the window knows of them.
     controls::TextBox* TextPassword = nullptr;
     controls::Frame* FrameAutoStart = nullptr;
     controls::CheckBox* CheckAutoStart = nullptr;
@@ -103,6 +104,7 @@ private:
     bool RunningOnWow64 = false;
     bool PasswordEdited = false;
     base::KernelHandle InstanceMutex;
+    // NOLINTEND(readability-identifier-naming)
 };
 
 }  // namespace app

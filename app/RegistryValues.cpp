@@ -63,7 +63,7 @@ bool CloseRegKey(RegistryKey key)
 
 std::optional<RegValue> QueryRegValue(const RegistryKey& key, StringView name)
 {
-    std::array<BYTE, 1024> buffer = {};
+    std::array<BYTE, 1024> buffer{};
     DWORD size = static_cast<DWORD>(buffer.size());
     RegValue value;
     if (RegQueryValueExW(key.Get(), String(name).c_str(), nullptr, &value.type, buffer.data(), &size) != ERROR_SUCCESS)
@@ -73,11 +73,10 @@ std::optional<RegValue> QueryRegValue(const RegistryKey& key, StringView name)
         text.resize(size / sizeof(WCHAR));
         std::memcpy(text.data(), buffer.data(), text.size() * sizeof(WCHAR));
         // Windows stores what a program hands it, so the terminating zero may be missing or stand in the middle.
-        if (const auto end = text.find(TEXT('\0')); end != String::npos)
-            text.resize(end);
+        text = base::UpToZero(text);
     } else if (value.type == REG_DWORD && size > 0) {
         DWORD number = 0;
-        std::memcpy(&number, buffer.data(), sizeof(number));
+        std::memcpy(&number, buffer.data(), sizeof number);
         text = base::ToDecimal(number);
     }
     return value;
@@ -105,7 +104,7 @@ bool WriteRegValue(const RegistryKey& key, StringView name, const RegData& data,
             return text && Set(key, name, type, text->c_str(), (text->size() + 1) * sizeof(WCHAR));
         case REG_DWORD: {
             const std::optional<DWORD> number = text ? ParseDword(*text) : std::nullopt;
-            return number && Set(key, name, type, &*number, sizeof(*number));
+            return number && Set(key, name, type, &*number, sizeof *number);
         }
         case REG_BINARY:
             return bytes && Set(key, name, type, bytes->data(), bytes->size());

@@ -70,7 +70,7 @@ DWORD ServiceControl::WithService(DWORD access, Action action) const
 
 DWORD ServiceControl::ServiceGetState() const
 {
-    SERVICE_STATUS status = {};
+    SERVICE_STATUS status{};
     const DWORD error =
         WithService(SERVICE_QUERY_STATUS, [&](SC_HANDLE service) { return ResultOf(QueryServiceStatus(service, &status)); });
     return error == 0 ? status.dwCurrentState : 0;
@@ -82,12 +82,12 @@ DWORD ServiceControl::ServiceGetConfig(String& account, DWORD& startType) const
     return WithService(SERVICE_QUERY_CONFIG, [&](SC_HANDLE service) {
         std::vector<QUERY_SERVICE_CONFIGW> config(1);
         const auto query = [&](DWORD& needed) {
-            return ResultOf(QueryServiceConfigW(service, config.data(), static_cast<DWORD>(config.size() * sizeof(config[0])), &needed));
+            return ResultOf(QueryServiceConfigW(service, config.data(), static_cast<DWORD>(config.size() * sizeof config[0]), &needed));
         };
         DWORD needed = 0;
         DWORD error = query(needed);
         if (error == ERROR_INSUFFICIENT_BUFFER) {
-            config.resize(needed / sizeof(config[0]) + 1);
+            config.resize(needed / sizeof config[0] + 1);
             error = query(needed);
         }
         if (error != 0)
@@ -116,7 +116,7 @@ DWORD ServiceControl::ServiceInstall(String& account, StringView password, Strin
         if (!service)
             return GetLastError();
         String text = description_;
-        SERVICE_DESCRIPTIONW description = {};
+        SERVICE_DESCRIPTIONW description{};
         description.lpDescription = text.data();
         ChangeServiceConfig2W(service.Get(), SERVICE_CONFIG_DESCRIPTION, &description);
         return 0;
@@ -126,7 +126,7 @@ DWORD ServiceControl::ServiceInstall(String& account, StringView password, Strin
 DWORD ServiceControl::ServiceUninstall() const
 {
     return WithService(SERVICE_ALL_ACCESS, [](SC_HANDLE service) {
-        SERVICE_STATUS status = {};
+        SERVICE_STATUS status{};
         ControlService(service, SERVICE_CONTROL_STOP, &status);
         return ResultOf(DeleteService(service));
     });
@@ -140,7 +140,7 @@ DWORD ServiceControl::ServiceStart() const
 DWORD ServiceControl::ServiceStop() const
 {
     return WithService(SERVICE_STOP, [](SC_HANDLE service) {
-        SERVICE_STATUS status = {};
+        SERVICE_STATUS status{};
         return ResultOf(ControlService(service, SERVICE_CONTROL_STOP, &status));
     });
 }

@@ -12,10 +12,10 @@ using Bytes = std::vector<std::uint8_t>;
 constexpr char alphabet[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 
 constexpr std::array<std::uint8_t, 128> decoding = [] {
-    std::array<std::uint8_t, 128> table = {};
+    std::array<std::uint8_t, 128> table{};
     table.fill(255);
     for (std::uint8_t i = 0; i < 64; ++i)
-        table[static_cast<std::size_t>(alphabet[i])] = i;
+        table[static_cast<std::uint8_t>(alphabet[i])] = i;
     return table;
 }();
 

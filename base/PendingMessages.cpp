@@ -6,7 +6,7 @@ namespace base {
 
 void DispatchPendingMessages()
 {
-    MSG message = {};
+    MSG message{};
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
         if (message.message == WM_QUIT) {
             PostQuitMessage(static_cast<int>(message.wParam));

@@ -11,6 +11,11 @@ String Trim(StringView text)
     return String(text.substr(first, last - first + 1));
 }
 
+String UpToZero(StringView buffer)
+{
+    return String(buffer.substr(0, buffer.find(TEXT('\0'))));
+}
+
 String ToDecimal(long long number)
 {
     const std::string digits = std::to_string(number);

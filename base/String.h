@@ -15,6 +15,9 @@ using StringView = std::basic_string_view<WCHAR>;
 /// The text without leading and trailing blanks (U+0020 only).
 [[nodiscard]] String Trim(StringView text);
 
+/// What stands before the first zero: the text that a Windows function has left in a buffer.
+[[nodiscard]] String UpToZero(StringView buffer);
+
 /// Decimal form of a signed 64-bit number.
 [[nodiscard]] String ToDecimal(long long number);
 

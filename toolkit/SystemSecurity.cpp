@@ -35,13 +35,13 @@ std::optional<DWORD> AttributesOf(HANDLE token, const LUID& privilege)
 
 std::int32_t Adjust(HANDLE token, const LUID& privilege, DWORD attributes)
 {
-    TOKEN_PRIVILEGES wanted = {};
+    TOKEN_PRIVILEGES wanted{};
     wanted.PrivilegeCount = 1;
     wanted.Privileges[0].Luid = privilege;
     wanted.Privileges[0].Attributes = attributes;
-    TOKEN_PRIVILEGES previous = {};
+    TOKEN_PRIVILEGES previous{};
     DWORD size = 0;
-    if (!AdjustTokenPrivileges(token, FALSE, &wanted, sizeof(wanted), &previous, &size))
+    if (!AdjustTokenPrivileges(token, FALSE, &wanted, sizeof wanted, &previous, &size))
         return -1;
     // The call also succeeds for a privilege that the token lacks; only the last error tells (ERROR_NOT_ALL_ASSIGNED).
     return GetLastError() == ERROR_SUCCESS ? 1 : 0;
@@ -64,7 +64,7 @@ std::int32_t SystemSecurity::SetPrivilege(StringView In_Privilegio, std::int32_t
     base::KernelHandle token;
     if (!OpenProcessToken(GetCurrentProcess(), TOKEN_ADJUST_PRIVILEGES | TOKEN_QUERY, token.Receive()))
         return -1;
-    LUID privilege = {};
+    LUID privilege{};
     if (!LookupPrivilegeValueW(TEXT(""), String(In_Privilegio).c_str(), &privilege))
         return -1;
     const std::optional<DWORD> attributes = AttributesOf(token.Get(), privilege);

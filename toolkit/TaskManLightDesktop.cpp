@@ -91,7 +91,7 @@ void TaskManLight::TaskBarVisible(bool In_Value) const
 
 void TaskManLight::GetMouseCursorPos(std::int32_t& Out_X, std::int32_t& Out_Y) const
 {
-    POINT position = {};
+    POINT position{};
     GetCursorPos(&position);
     Out_X = position.x;
     Out_Y = position.y;
@@ -99,7 +99,7 @@ void TaskManLight::GetMouseCursorPos(std::int32_t& Out_X, std::int32_t& Out_Y) c
 
 HWND TaskManLight::GetHWndFromMousePos() const
 {
-    POINT position = {};
+    POINT position{};
     GetCursorPos(&position);
     return WindowFromPoint(position);
 }

@@ -13,8 +13,8 @@ namespace {
 
 MEMORYSTATUS MemoryStatus()
 {
-    MEMORYSTATUS status = {};
-    status.dwLength = sizeof(status);
+    MEMORYSTATUS status{};
+    status.dwLength = sizeof status;
     GlobalMemoryStatus(&status);
     return status;
 }
@@ -43,9 +43,9 @@ Flag TaskManLight::GetMemoryUsageFromPID(DWORD In_PID, SIZE_T& Out_WorkingSetSiz
                                          SIZE_T& Out_PagefileUsage, SIZE_T& Out_PeakPagefileUsage) const
 {
     return WithProcess(In_PID, PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, Flag{0}, [&](HANDLE process) {
-        PROCESS_MEMORY_COUNTERS counters = {};
-        counters.cb = sizeof(counters);
-        if (!GetProcessMemoryInfo(process, &counters, sizeof(counters)))
+        PROCESS_MEMORY_COUNTERS counters{};
+        counters.cb = sizeof counters;
+        if (!GetProcessMemoryInfo(process, &counters, sizeof counters))
             return false;
         Out_WorkingSetSize = counters.WorkingSetSize;
         Out_PeakWorkingSetSize = counters.PeakWorkingSetSize;
@@ -63,8 +63,8 @@ Flag TaskManLight::GetMemoryUsageFromPID(DWORD In_PID, SIZE_T& Out_WorkingSetSiz
 std::int16_t TaskManLight::GetCPUCount() const
 {
     // The record's size differs between 32 and 64 bits, and Windows accepts no other.
-    SYSTEM_BASIC_INFORMATION information = {};
-    if (NtQuerySystemInformation(SystemBasicInformation, &information, sizeof(information), nullptr) != 0)
+    SYSTEM_BASIC_INFORMATION information{};
+    if (NtQuerySystemInformation(SystemBasicInformation, &information, sizeof information, nullptr) != 0)
         return -1;
     return static_cast<std::uint8_t>(information.NumberOfProcessors);
 }

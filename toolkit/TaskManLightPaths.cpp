@@ -23,7 +23,7 @@ constexpr DWORD systemPid = 4;
 template <std::size_t Size>
 String ModuleFileName(HANDLE process, HMODULE module)
 {
-    std::array<WCHAR, Size> buffer = {};
+    std::array<WCHAR, Size> buffer{};
     const DWORD length = GetModuleFileNameExW(process, module, buffer.data(), static_cast<DWORD>(buffer.size()));
     return String(buffer.data(), std::min<std::size_t>(length, buffer.size()));
 }
@@ -35,7 +35,7 @@ String TaskManLight::GetNTPathFromPID(DWORD In_PID) const
     if (!IsPossiblePid(In_PID))
         return {};
     return WithProcess(In_PID, PROCESS_QUERY_INFORMATION, String(), [](HANDLE process) {
-        std::array<WCHAR, 260> buffer = {};
+        std::array<WCHAR, 260> buffer{};
         const DWORD length = GetProcessImageFileNameW(process, buffer.data(), static_cast<DWORD>(buffer.size()));
         return String(buffer.data(), std::min<std::size_t>(length, buffer.size()));
     });
@@ -60,7 +60,7 @@ String TaskManLight::GetFileNameFromPID(DWORD In_PID) const
 
 std::int16_t TaskManLight::GetLogicalDrives(std::vector<String>& Out_DriveMatrix) const
 {
-    std::array<CHAR, 260> buffer = {};
+    std::array<CHAR, 260> buffer{};
     const DWORD length = std::min<DWORD>(GetLogicalDriveStringsA(static_cast<DWORD>(buffer.size()), buffer.data()), buffer.size());
     Out_DriveMatrix.clear();
     String drive;
@@ -80,10 +80,11 @@ String TaskManLight::GetNtDeviceNameByLogicalDrive(StringView LogicalDrive) cons
 {
     if (LogicalDrive.empty())
         return {};
-    std::array<WCHAR, 261> buffer = {};
+    std::array<WCHAR, 261> buffer{};
     const DWORD length = QueryDosDeviceW(String(LogicalDrive).c_str(), buffer.data(), 260);
     // The count includes two zeros, the name's own and the list's. A drive may have older names behind the first.
-    return length > 2 ? String(String(buffer.data(), length - 2).c_str()) : String();
+    const StringView names(buffer.data(), length > 2 ? length - 2 : 0);
+    return base::UpToZero(names);
 }
 
 String TaskManLight::GetPathFromNTPath(StringView In_NTPath) const
@@ -101,9 +102,9 @@ String TaskManLight::GetPathFromNTPath(StringView In_NTPath) const
 Flag TaskManLight::GetDLLsFromPID(DWORD In_PID, std::vector<String>& Out_DLL) const
 {
     return WithProcess(In_PID, queryAndRead, Flag{0}, [&](HANDLE process) {
-        std::array<HMODULE, 1024> modules = {};
+        std::array<HMODULE, 1024> modules{};
         DWORD needed = 0;
-        if (!EnumProcessModules(process, modules.data(), sizeof(modules), &needed) || needed == 0)
+        if (!EnumProcessModules(process, modules.data(), sizeof modules, &needed) || needed == 0)
             return false;
         const std::size_t count = std::min<std::size_t>(needed / sizeof(HMODULE), modules.size());
         Out_DLL.clear();

@@ -33,7 +33,7 @@ Flag TaskManLight::LockComputer() const
 
 base::String TaskManLight::GetActualUser() const
 {
-    std::array<WCHAR, 519> buffer = {};
+    std::array<WCHAR, 519> buffer{};
     DWORD size = static_cast<DWORD>(buffer.size());
     if (!GetUserNameW(buffer.data(), &size) || size == 0)
         return {};

@@ -70,14 +70,14 @@ String TaskManLight::GetWindowTitle(HWND In_hWnd) const
 {
     if (!IsWindow(In_hWnd))
         return {};
-    std::array<WCHAR, 260> buffer = {};
+    std::array<WCHAR, 260> buffer{};
     InternalGetWindowText(In_hWnd, buffer.data(), static_cast<int>(buffer.size()));
     return buffer.data();
 }
 
 String TaskManLight::GetClassNameFromHWnd(HWND In_hWnd, bool In_RealClassName) const
 {
-    std::array<WCHAR, 260> buffer = {};
+    std::array<WCHAR, 260> buffer{};
     if (In_RealClassName)
         RealGetWindowClassW(In_hWnd, buffer.data(), static_cast<UINT>(buffer.size()));
     else

@@ -2,7 +2,7 @@
 
 # Debian packages, each with a file or command that shows it is there.
 packages_needed=(
-    g++:g++ g++-multilib:/usr/lib/gcc/x86_64-linux-gnu/12/32/libstdc++.a cmake:cmake ninja-build:ninja python3:python3 git:git clang-format:clang-format libgtest-dev:/usr/src/googletest/CMakeLists.txt
+    g++:g++ g++-multilib:/usr/lib/gcc/x86_64-linux-gnu/12/32/libstdc++.a cmake:cmake ninja-build:ninja python3:python3 git:git clang-format:clang-format clang-tidy:clang-tidy libgtest-dev:/usr/src/googletest/CMakeLists.txt
     g++-mingw-w64-x86-64:x86_64-w64-mingw32-g++-posix g++-mingw-w64-i686:i686-w64-mingw32-g++-posix
     wine:wine wine64:/usr/lib/wine/wine64 fonts-wine:/usr/share/wine/fonts/tahoma.ttf xvfb:Xvfb imagemagick:import
 )

@@ -16,8 +16,8 @@ void InitCommonControlsAndShell()
 {
     if (shellLibrary)
         return;
-    INITCOMMONCONTROLSEX classes = {};
-    classes.dwSize = sizeof(classes);
+    INITCOMMONCONTROLSEX classes{};
+    classes.dwSize = sizeof classes;
     classes.dwICC = 0xFFFF;
     InitCommonControlsEx(&classes);
     shellLibrary.Reset(LoadLibraryW(TEXT("shell32.dll")));

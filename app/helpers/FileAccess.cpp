@@ -71,7 +71,7 @@ PathAccess Check(std::vector<BYTE>& descriptor, DWORD mask)
         return PathAccess::Failed;
     GENERIC_MAPPING mapping = {FILE_GENERIC_READ, FILE_GENERIC_WRITE, FILE_GENERIC_EXECUTE, FILE_ALL_ACCESS};
     MapGenericMask(&mask, &mapping);
-    alignas(PRIVILEGE_SET) std::array<BYTE, 32> privileges = {};
+    alignas(PRIVILEGE_SET) std::array<BYTE, 32> privileges{};
     DWORD privilegesSize = static_cast<DWORD>(privileges.size());
     DWORD grantedMask = 0;
     BOOL status = FALSE;

@@ -26,12 +26,12 @@ public:
     /// Tells the encoding and stands behind the mark; false when the file cannot be read.
     bool Begin()
     {
-        std::array<BYTE, 2> mark = {};
+        std::array<BYTE, 2> mark{};
         DWORD read = 0;
         if (!file_ || !ReadFile(file_.Get(), mark.data(), static_cast<DWORD>(mark.size()), &read, nullptr))
             return false;
         wide_ = read == mark.size() && mark[0] == 0xFF && mark[1] == 0xFE;
-        LARGE_INTEGER start = {};
+        LARGE_INTEGER start{};
         return wide_ || SetFilePointerEx(file_.Get(), start, nullptr, FILE_BEGIN);
     }
 
@@ -95,7 +95,7 @@ String ReadIniString(StringView path, StringView section, StringView key, String
     if (!IsReadable(file))
         return String(fallback);
     constexpr DWORD asked = 255;
-    std::array<WCHAR, 256> buffer = {};
+    std::array<WCHAR, 256> buffer{};
     const DWORD length = GetPrivateProfileStringW(base::Trim(section).c_str(), base::Trim(key).c_str(), String(fallback).c_str(),
                                                   buffer.data(), asked, file.c_str());
     // Windows tells a cut value only by a length of one less than asked for.

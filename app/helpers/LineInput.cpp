@@ -6,8 +6,8 @@ namespace {
 
 bool IsAtEnd(HANDLE file)
 {
-    LARGE_INTEGER size = {};
-    LARGE_INTEGER position = {};
+    LARGE_INTEGER size{};
+    LARGE_INTEGER position{};
     return !GetFileSizeEx(file, &size) || !SetFilePointerEx(file, LARGE_INTEGER(), &position, FILE_CURRENT) ||
            position.QuadPart >= size.QuadPart;
 }
@@ -24,7 +24,7 @@ std::size_t FindSeparator(std::string_view text, std::string_view separator, std
 
 std::string LineInputEx(HANDLE file, std::string_view separator, const LineInputOptions& options)
 {
-    const std::string end(options.separatorAtEnd ? separator : std::string_view());
+    std::string end(options.separatorAtEnd ? separator : std::string_view());
     if (IsAtEnd(file))
         return end;
     std::string line;
@@ -39,7 +39,7 @@ std::string LineInputEx(HANDLE file, std::string_view separator, const LineInput
         const std::size_t from = before < separator.size() ? 0 : before - separator.size() + 1;
         const std::size_t found = FindSeparator(line, separator, from, options.bytesPerCharacter);
         if (found != std::string::npos) {
-            LARGE_INTEGER back = {};
+            LARGE_INTEGER back{};
             back.QuadPart = static_cast<LONGLONG>(found + separator.size()) - static_cast<LONGLONG>(line.size());
             if (!SetFilePointerEx(file, back, nullptr, FILE_CURRENT))
                 return end;

@@ -27,8 +27,8 @@ int MsgBoxEx(StringView text, DWORD style, StringView title, HWND owner, StringV
     const String shownText(text);
     const String shownTitle = title.empty() ? GetAppExeName() : String(title);
     const String icon(iconName);
-    MSGBOXPARAMSW box = {};
-    box.cbSize = sizeof(box);
+    MSGBOXPARAMSW box{};
+    box.cbSize = sizeof box;
     box.hwndOwner = owner ? owner : DefaultOwner();
     box.hInstance = GetModuleHandleW(nullptr);
     box.lpszText = shownText.c_str();

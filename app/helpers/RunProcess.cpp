@@ -22,7 +22,7 @@ String Edited(const String& path, PathFunction function)
     String buffer = path;
     buffer.resize(std::max<std::size_t>(path.size() + 3, MAX_PATH));
     function(buffer.data());
-    return buffer.c_str();
+    return base::UpToZero(buffer);
 }
 
 /// PathQuoteSpacesW leaves a path as it is when the quotes would make it longer than MAX_PATH.
@@ -55,11 +55,11 @@ DWORD RunProcess(StringView path, StringView arguments, bool wait, bool showNorm
     if (const String trimmed = base::Trim(arguments); !trimmed.empty())
         commandLine += TEXT(' ') + trimmed;
 
-    STARTUPINFOW startup = {};
-    startup.cb = sizeof(startup);
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESHOWWINDOW;
     startup.wShowWindow = showNormally ? SW_SHOWNORMAL : SW_HIDE;
-    PROCESS_INFORMATION started = {};
+    PROCESS_INFORMATION started{};
     // CreateProcessW writes into the command line while it looks for the program's name in it.
     if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, flags, nullptr, folder.c_str(), &startup, &started))
         return 0;

@@ -40,7 +40,7 @@ bool CreateFolders(StringView path)
 
 String GetSpecialFolder(int id, bool addTrailingBackslash, bool keepSystem32)
 {
-    FolderBuffer buffer = {};
+    FolderBuffer buffer{};
     switch (id) {
         case temporaryFolder:
             GetTempPathW(askedLength, buffer.data());
@@ -64,7 +64,7 @@ String GetSpecialFolder(int id, bool addTrailingBackslash, bool keepSystem32)
         PathAddBackslashW(path.data());
     else
         PathRemoveBackslashW(path.data());
-    return path.c_str();
+    return base::UpToZero(path);
 }
 
 String GetUserDataFolder(bool create)

@@ -50,7 +50,7 @@ TEST_F(Form1Layout, EveryControl_StandsWhereItWasDrawn)
 {
     const base::Handle<base::NullHandleTraits<HDC, &DeleteDC>> screen(CreateCompatibleDC(nullptr));
     ASSERT_EQ(GetDeviceCaps(screen.Get(), LOGPIXELSX), 96);
-    RECT client = {};
+    RECT client{};
     GetClientRect(form.hWnd(), &client);
     EXPECT_EQ(client.right, tests::kClientSize.cx);
     EXPECT_EQ(client.bottom, tests::kClientSize.cy);
@@ -76,7 +76,7 @@ TEST_F(Form1Layout, EveryControl_StandsWhereItWasDrawn)
         ASSERT_EQ(control.OwnHandle() == nullptr, kind == TEXT("Timer"));
         if (kind == TEXT("Timer"))
             continue;
-        RECT place = {};
+        RECT place{};
         GetWindowRect(control.OwnHandle(), &place);
         MapWindowPoints(nullptr, GetParent(control.OwnHandle()), reinterpret_cast<POINT*>(&place), 2);
         EXPECT_EQ(place.left, design.left / tests::kTwipsPerPixel);
@@ -113,8 +113,8 @@ std::string LookOf(host::Control& control)
     } else if (auto* const frame = dynamic_cast<controls::Frame*>(&control)) {
         look << text(frame->Font());
     } else {
-        LOGFONTW font = {};
-        GetObjectW(reinterpret_cast<HFONT>(SendMessageW(control.hWnd(), WM_GETFONT, 0, 0)), sizeof(font), &font);
+        LOGFONTW font{};
+        GetObjectW(reinterpret_cast<HFONT>(SendMessageW(control.hWnd(), WM_GETFONT, 0, 0)), sizeof font, &font);
         const String face = font.lfFaceName;
         look << std::string(face.begin(), face.end()) << " " << std::dec << -font.lfHeight << " px";
     }

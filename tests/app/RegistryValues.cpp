@@ -53,7 +53,7 @@ TEST_F(RegistryValues, Text_EndsAtItsFirstZero)
 TEST_F(RegistryValues, OtherTypes_AreDecimalOrEmpty)
 {
     const DWORD number = 3000000000u;
-    Store(REG_DWORD, &number, sizeof(number));
+    Store(REG_DWORD, &number, sizeof number);
     EXPECT_EQ(Read(REG_DWORD), TEXT("3000000000"));
     Store(REG_BINARY, "/Hidden", 7);
     EXPECT_EQ(Read(REG_BINARY), TEXT(""));

@@ -19,6 +19,13 @@ TEST(String, Trim_TakesBlanksOnlyAndOnlyAtTheEnds)
     EXPECT_EQ(base::Trim(String(1, static_cast<WCHAR>(0xA0))).size(), 1u) << "the blank that does not break";
 }
 
+TEST(String, UpToZero_LeavesWhatHasNone)
+{
+    EXPECT_EQ(base::UpToZero(String(TEXT("a\0b"), 4)), TEXT("a"));
+    EXPECT_EQ(base::UpToZero(TEXT("ab")), TEXT("ab"));
+    EXPECT_EQ(base::UpToZero(String(2, TEXT('\0'))), TEXT(""));
+}
+
 TEST(String, ToDecimal_TakesAllOf64Bits)
 {
     EXPECT_EQ(base::ToDecimal(0), TEXT("0"));

@@ -22,7 +22,7 @@ void EndToEnd::TearDown()
 
 base::String EndToEnd::Put(const WCHAR* variable, base::StringView name)
 {
-    WCHAR path[MAX_PATH] = {};
+    WCHAR path[MAX_PATH]{};
     GetEnvironmentVariableW(variable, path, MAX_PATH);
     // A path in the host's form is turned into the form that Windows programs use.
     std::ranges::replace(path, TEXT('/'), TEXT('\\'));

@@ -19,8 +19,8 @@ base::ServiceHandle OpenInstalled(DWORD access)
 
 std::optional<base::String> AutoStartValue()
 {
-    WCHAR text[1024] = {};
-    DWORD size = sizeof(text);
+    WCHAR text[1024]{};
+    DWORD size = sizeof text;
     if (RegGetValueW(HKEY_LOCAL_MACHINE, RUN_KEY, NAME, RRF_RT_REG_SZ, nullptr, text, &size) != ERROR_SUCCESS)
         return std::nullopt;
     return text;
@@ -41,13 +41,13 @@ std::optional<ServiceFacts> InstalledService()
     const base::ServiceHandle service = OpenInstalled(SERVICE_QUERY_CONFIG);
     if (!service)
         return std::nullopt;
-    alignas(16) BYTE buffer[4096] = {};
+    alignas(16) BYTE buffer[4096]{};
     DWORD needed = 0;
     auto& config = *reinterpret_cast<QUERY_SERVICE_CONFIGW*>(buffer);
-    if (!QueryServiceConfigW(service.Get(), &config, sizeof(buffer), &needed))
+    if (!QueryServiceConfigW(service.Get(), &config, sizeof buffer, &needed))
         return std::nullopt;
     ServiceFacts facts{config.dwStartType, config.lpBinaryPathName, config.lpServiceStartName, {}};
-    if (QueryServiceConfig2W(service.Get(), SERVICE_CONFIG_DESCRIPTION, buffer, sizeof(buffer), &needed)) {
+    if (QueryServiceConfig2W(service.Get(), SERVICE_CONFIG_DESCRIPTION, buffer, sizeof buffer, &needed)) {
         const WCHAR* text = reinterpret_cast<SERVICE_DESCRIPTIONW*>(buffer)->lpDescription;
         facts.description = text ? text : TEXT("");
     }
@@ -57,7 +57,7 @@ std::optional<ServiceFacts> InstalledService()
 DWORD ServiceState()
 {
     const base::ServiceHandle service = OpenInstalled(SERVICE_QUERY_STATUS);
-    SERVICE_STATUS status = {};
+    SERVICE_STATUS status{};
     return service && QueryServiceStatus(service.Get(), &status) ? status.dwCurrentState : 0;
 }
 
@@ -86,7 +86,7 @@ bool RemoveService()
 {
     // A service that is starting takes no stop request until it runs.
     (void)Eventually([] { return ServiceState() == SERVICE_STOPPED || ServiceState() == SERVICE_RUNNING || !InstalledService(); });
-    SERVICE_STATUS status = {};
+    SERVICE_STATUS status{};
     if (ServiceState() == SERVICE_RUNNING)
         ControlService(OpenInstalled(SERVICE_STOP).Get(), SERVICE_CONTROL_STOP, &status);
     (void)Eventually([] { return ServiceState() == SERVICE_STOPPED || !InstalledService(); });
@@ -96,9 +96,9 @@ bool RemoveService()
 
 base::KernelHandle Launch(const base::String& exe)
 {
-    STARTUPINFOW startup = {};
-    startup.cb = sizeof(startup);
-    PROCESS_INFORMATION process = {};
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process{};
     base::String commandLine = TEXT("\"") + exe + TEXT("\"");
     const base::String folder = exe.substr(0, exe.rfind(TEXT('\\')));
     if (!CreateProcessW(exe.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(), &startup, &process))

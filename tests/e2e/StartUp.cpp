@@ -79,7 +79,7 @@ TEST_F(EndToEnd, EveryControl_IsWhereItWasDesigned)
     for (const tests::Designed& control : tests::kFormMap) {
         if (std::string_view(control.kind) == "Timer")
             continue;
-        RECT actual = {};
+        RECT actual{};
         EXPECT_TRUE(GetWindowRect(utility.Own(control.name), &actual)) << control.name << ": no window, or more than one, is at its place";
         EXPECT_TRUE(utility.Shown(control.name)) << control.name << " hosts no system window";
         // A check box takes its width from its font, a combo box its height.

@@ -91,9 +91,9 @@ HWND Utility::Find(const char* name, base::StringView className) const
     ClientToScreen(window_, &search.place);
     const auto visit = [](HWND child, LPARAM parameter) -> BOOL {
         auto& wanted = *reinterpret_cast<Search*>(parameter);
-        WCHAR actual[64] = {};
+        WCHAR actual[64]{};
         GetClassNameW(child, actual, ARRAYSIZE(actual));
-        RECT rect = {};
+        RECT rect{};
         GetWindowRect(child, &rect);
         if (wanted.className == actual && IsWindowVisible(child) && rect.left == wanted.place.x && rect.top == wanted.place.y) {
             wanted.found = child;

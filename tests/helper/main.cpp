@@ -30,7 +30,7 @@ int main(int argumentCount, char** arguments)
     SetTimer(nullptr, 0, lifeTime, nullptr);
     std::printf("%lu\n", thread);
     std::fflush(stdout);
-    MSG message = {};
+    MSG message{};
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {
         if (message.message == WM_TIMER && !message.hwnd)
             return 1;

@@ -110,7 +110,7 @@ TEST(ToolkitExamples, Threads)
 
 TEST(ToolkitExamples, Memory)
 {
-    SIZE_T now = 0, peak = 0, other[6] = {};
+    SIZE_T now = 0, peak = 0, other[6]{};
     DWORD pageFaults = 0;
     if (tools.GetMemoryUsageFromPID(tools.GetMyPID(), now, peak, pageFaults, other[0], other[1], other[2], other[3], other[4], other[5]))
         tools.TrimWorkingSetCurrentProcess();

@@ -80,7 +80,7 @@ struct Row {
     Outcome (*use)(Scene& s);
     Outcome whole, failed;
     /// Calls whose failure ends in something else: "GetProcessId", or "GetProcessId, call 2" for the second call that can fail.
-    std::map<std::string, Outcome> others = {};
+    std::map<std::string, Outcome> others{};
     bool wow64 = false;
 };
 

@@ -9,7 +9,7 @@ namespace tests {
 
 void HelperProcess::Start(const std::string& script)
 {
-    WCHAR own[MAX_PATH] = {};
+    WCHAR own[MAX_PATH]{};
     GetModuleFileNameW(nullptr, own, MAX_PATH);
     base::String path(own);
     path.replace(path.rfind(L'\\') + 1, base::String::npos, L"toolkit_helper.exe");
@@ -17,14 +17,14 @@ void HelperProcess::Start(const std::string& script)
 
     base::KernelHandle reading;
     base::KernelHandle writing;
-    SECURITY_ATTRIBUTES inherited = {sizeof(inherited), nullptr, TRUE};
+    SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
     CreatePipe(reading.Receive(), writing.Receive(), &inherited, 0);
     SetHandleInformation(reading.Get(), HANDLE_FLAG_INHERIT, 0);
-    STARTUPINFOW startup = {};
-    startup.cb = sizeof(startup);
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESTDHANDLES;
     startup.hStdOutput = writing.Get();
-    PROCESS_INFORMATION started = {};
+    PROCESS_INFORMATION started{};
     if (!CreateProcessW(path.c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &started))
         return;
     CloseHandle(started.hThread);

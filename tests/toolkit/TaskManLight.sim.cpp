@@ -136,8 +136,8 @@ TEST_F(TaskManLight, Modules_AreCutAt1024)
 TEST_F(TaskManLight, Handles_AreOpenedWithTheRightsThatAreNeeded)
 {
     const DWORD process = processes.Launch(u"C:\\a.exe"), thread = processes.AddThread(process);
-    DWORD_PTR masks[2] = {};
-    SIZE_T sizes[8] = {};
+    DWORD_PTR masks[2]{};
+    SIZE_T sizes[8]{};
     DWORD faults = 0;
     std::vector<String> names;
     const std::pair<std::function<void()>, const char*> members[] = {
@@ -204,7 +204,7 @@ TEST_F(TaskManLight, Figures_AreNeitherCutNorMixedUp)
     EXPECT_EQ(available, (DWORD_PTR{1} << processors) - 1);
     constexpr SIZE_T workingSet = SIZE_T{0x123456} << (sizeof(SIZE_T) * 2);
     processes.Find(process)->workingSet = workingSet;
-    SIZE_T sizes[8] = {};
+    SIZE_T sizes[8]{};
     DWORD faults = 0;
     tools.GetMemoryUsageFromPID(process, sizes[0], sizes[1], faults, sizes[2], sizes[3], sizes[4], sizes[5], sizes[6], sizes[7]);
     const SIZE_T expected[] = {workingSet, 0x700000, 0x20000, 0x21000, 0x10000, 0x11000, 0x300000, 0x400000};
@@ -253,8 +253,8 @@ TEST_F(TaskManLight, DesktopIconsAndTaskBar_ShowAndHide)
 {
     tools.DeskTopVisible(false);
     tools.TaskBarVisible(false);
-    WNDCLASSEXW description = {};
-    description.cbSize = sizeof(description);
+    WNDCLASSEXW description{};
+    description.cbSize = sizeof description;
     description.lpfnWndProc = DefWindowProcW;
     for (const WCHAR* name : {TEXT("Progman"), TEXT("Shell_TrayWnd")}) {
         description.lpszClassName = name;

@@ -29,7 +29,7 @@ protected:
     }
     static String ModuleName(HANDLE process)
     {
-        WCHAR name[MAX_PATH] = {};
+        WCHAR name[MAX_PATH]{};
         GetModuleFileNameExW(process, nullptr, name, MAX_PATH);
         return name;
     }
@@ -149,7 +149,7 @@ TEST_F(TaskManLightProcesses, Instances_AreThoseOfTheSameImageWithAWindow)
 TEST_F(TaskManLightProcesses, Affinity_IsThatOfTheProcess)
 {
     const HelperProcess helper("");
-    DWORD_PTR own = 0, available = 0, read[2] = {};
+    DWORD_PTR own = 0, available = 0, read[2]{};
     ASSERT_TRUE(GetProcessAffinityMask(helper.Handle(), &own, &available));
     const DWORD_PTR lowest = available & (~available + 1);
     EXPECT_EQ(tools.SetAffinityMaskFromPID(helper.Id(), lowest), 1);

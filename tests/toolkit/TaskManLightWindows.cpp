@@ -52,7 +52,7 @@ bool IsUnowned(HWND window)
 
 bool IsUnownedWithTitle(HWND window)
 {
-    WCHAR title[2] = {};
+    WCHAR title[2]{};
     return IsUnowned(window) && GetWindowTextW(window, title, 2) > 0;
 }
 

@@ -15,8 +15,8 @@ constexpr const WCHAR* className = TEXT("VelmoraTestWindow");
 
 TestWindows::TestWindows()
 {
-    WNDCLASSEXW description = {};
-    description.cbSize = sizeof(description);
+    WNDCLASSEXW description{};
+    description.cbSize = sizeof description;
     description.lpfnWndProc = Procedure;
     description.hInstance = GetModuleHandleW(nullptr);
     description.lpszClassName = className;

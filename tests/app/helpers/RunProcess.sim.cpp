@@ -84,7 +84,7 @@ TEST_F(RunProcess, Pump_LeavesTheQuitMessageToTheProgram)
     PostQuitMessage(3);
     helpers::PumpMessages(true);
     EXPECT_EQ(GetWindowTextLengthW(window), 3);
-    MSG message = {};
+    MSG message{};
     EXPECT_TRUE(PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE));
     EXPECT_EQ(message.message, static_cast<UINT>(WM_QUIT));
     EXPECT_EQ(message.wParam, 3u);
