@@ -53,9 +53,9 @@ TEST(Base64, InvalidText_DecodesToNothing)
 {
     for (const WCHAR* text :
          {TEXT("YWJ"), TEXT("YWJjZ"), TEXT("YW=j"), TEXT("YWJj\r\n  "), TEXT("YW j"), TEXT("YW-_"), TEXT("\x00C0WJj"), TEXT("\x20ACWJj")})
-        EXPECT_TRUE(Base64DecodeBytes(text).empty());
+        EXPECT_TRUE(Base64DecodeBytes(text).empty()) << testing::PrintToString(String(text));
     for (const WCHAR* text : {TEXT(""), TEXT("A"), TEXT("W"), TEXT("YWJj"), TEXT("aYWJj"), TEXT("AYWJ"), TEXT("AYW=j")})
-        EXPECT_EQ(Base64Decode(text, Base64Prefixed), TEXT(""));
+        EXPECT_EQ(Base64Decode(text, Base64Prefixed), TEXT("")) << testing::PrintToString(String(text));
 }
 
 TEST(Base64, SurplusPadding_IsDropped)

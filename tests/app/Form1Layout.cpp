@@ -1,7 +1,6 @@
 // The window as designed, against its measures. It is loaded in design mode, so that nothing of the machine is asked.
 #include "app/Form1.h"
 #include "controls/RegisterControls.h"
-#include "tests/app/FormMap.h"
 
 #include <gtest/gtest.h>
 
@@ -12,24 +11,56 @@ using base::String;
 
 namespace {
 
-String Wide(const char* text)
+std::string Shown(base::StringView text)
 {
-    return {text, text + std::string_view(text).size()};
+    return {text.begin(), text.end()};
 }
 
-String CaptionOf(host::Control& control)
+std::string Shown(const std::shared_ptr<host::Font>& font)
 {
-    if (auto* const frame = dynamic_cast<controls::Frame*>(&control))
-        return frame->Caption();
-    if (auto* const button = dynamic_cast<controls::CommandButton*>(&control))
-        return button->Caption();
-    if (auto* const check = dynamic_cast<controls::CheckBox*>(&control))
-        return check->Caption();
-    if (auto* const label = dynamic_cast<host::Label*>(&control))
-        return label->Caption();
-    if (auto* const text = dynamic_cast<controls::TextBox*>(&control))
-        return text->Text();
-    return {};
+    return Shown(font->Name()) + " " + std::to_string(font->Size()).substr(0, 4);
+}
+
+/// Left and top in its container, width and height, in pixels. A check box is as wide as its font makes it, a drop-down list as high.
+std::string PlaceOf(const host::Control& control)
+{
+    RECT place{};
+    GetWindowRect(control.OwnHandle(), &place);
+    MapWindowPoints(nullptr, GetParent(control.OwnHandle()), reinterpret_cast<POINT*>(&place), 2);
+    const auto size = [&](const WCHAR* free, LONG pixels) { return control.Kind() == free ? "?" : std::to_string(pixels); };
+    return std::to_string(place.left) + "," + std::to_string(place.top) + " " + size(TEXT("CheckBox"), place.right - place.left) + "x" +
+           size(TEXT("ComboBox"), place.bottom - place.top);
+}
+
+/// What else was chosen when the control was drawn; colours in hexadecimal.
+std::string LookOf(host::Control& control)
+{
+    std::ostringstream look;
+    look << std::showbase;
+    if (auto* const timer = dynamic_cast<host::Timer*>(&control)) {
+        look << timer->Interval() << (timer->Enabled() ? " ms" : " off");
+    } else if (auto* const button = dynamic_cast<controls::CommandButton*>(&control)) {
+        look << "'" << Shown(button->Caption()) << "' " << Shown(button->Font()) << ", style " << button->Style() << std::hex << " focus "
+             << button->ShowFocus() << " contour " << button->ContourColor() << " highlight " << button->HighLightColor() << " mask "
+             << button->MaskColor() << " rounded " << button->RoundedBordersByTheme() << " tip " << button->TooltipBackColor() << "/"
+             << button->ToolTipForeColor();
+    } else if (auto* const check = dynamic_cast<controls::CheckBox*>(&control)) {
+        look << "'" << Shown(check->Caption()) << "' " << Shown(check->Font()) << ", value " << int{check->Value()} << " size "
+             << check->AutoSize();
+    } else if (auto* const box = dynamic_cast<controls::TextBox*>(&control)) {
+        look << "'" << Shown(box->Text()) << "' " << Shown(box->Font()) << ", password " << box->UseSystemPasswordChar() << " true type "
+             << box->ForceTrueType();
+    } else if (auto* const frame = dynamic_cast<controls::Frame*>(&control)) {
+        look << "'" << Shown(frame->Caption()) << "' " << Shown(frame->Font());
+    } else if (auto* const label = dynamic_cast<host::Label*>(&control)) {
+        LOGFONTW font{};
+        GetObjectW(reinterpret_cast<HFONT>(SendMessageW(control.hWnd(), WM_GETFONT, 0, 0)), sizeof font, &font);
+        look << "'" << Shown(label->Caption()) << "' " << Shown(font.lfFaceName) << " " << -font.lfHeight << " px";
+    }
+    if (const auto* const tip = dynamic_cast<controls::ToolTip*>(&control))
+        if (!tip->TooltipTitle().empty() || tip->ToolTipIcon() != 0 || tip->ToolTipBalloon())
+            look << " with a tip of its own";
+    return look.str() + (control.Enabled() ? "" : ", disabled");
 }
 
 class Form1Layout : public testing::Test {
@@ -46,116 +77,67 @@ protected:
     host::Form form;
 };
 
-TEST_F(Form1Layout, EveryControl_StandsWhereItWasDrawn)
+TEST_F(Form1Layout, EveryControl_IsAsItWasDrawn)
 {
-    const base::Handle<base::NullHandleTraits<HDC, &DeleteDC>> screen(CreateCompatibleDC(nullptr));
-    ASSERT_EQ(GetDeviceCaps(screen.Get(), LOGPIXELSX), 96);
+    const std::string sans = "MS Sans Serif 8.25", micro = "Microsoft Sans Serif 8.25", label = "Microsoft Sans Serif 11 px";
+    const std::string password = "'' " + micro + ", password 1 true type 1", box = sans + ", value 0 size 1";
+    const std::string button = "' " + sans + ", style 10 focus 0x1 contour 0x800000 highlight 0x8000000f mask 0 rounded 0 tip 0xe1ffff/0";
+    const struct {
+        const char *name, *kind, *container, *place;
+        int tabIndex;  // -1: any
+        std::string look;
+        const char* toolTip = "";
+    } design[] = {
+        {"DFrame1", "Frame", "", "8,8 305x73", 12, "'Set Password (need restart Velmora)' " + sans},
+        {"TextPassword", "TextBox", "DFrame1", "80,32 209x19", 0, password, "Password to send for shutdown this PC"},
+        {"Label1", "Label", "DFrame1", "16,33 57x17", -1, "'Password:' " + label},
+        {"FrameAutoStart", "Frame", "", "8,88 305x105", 14, "'Auto Start (optional)' " + sans},
+        {"CheckAutoStart", "CheckBox", "FrameAutoStart", "16,24 ?x17", 1, "'Auto start when Windows starts' " + box,
+         "Auto start ''Velmora.exe'' when Windows starts"},
+        {"CheckHideTrayIcon", "CheckBox", "FrameAutoStart", "16,48 ?x17", 2, "'Hide Tray Icon' " + box + ", disabled",
+         "Not show Velmora tray icon"},
+        {"CheckSoundStart", "CheckBox", "FrameAutoStart", "16,72 ?x17", 3, "'Starting Sound' " + box + ", disabled",
+         "Play a sound advise at startup"},
+        {"FrameService", "Frame", "", "8,192 305x169", 15, "'Install as Service (optional)' " + sans},
+        {"cmdInstall", "CommandButton", "FrameService", "16,32 113x33", 4, "'Install Service" + button},
+        {"cmdStart", "CommandButton", "FrameService", "176,32 113x33", 5, "'Start Service" + button},
+        {"lblAccount", "Label", "FrameService", "16,80 57x17", -1, "'Account:' " + label},
+        {"txtAccount", "TextBox", "FrameService", "96,80 185x19", 6, "'' " + micro + ", password 0 true type 0"},
+        {"lblPassword", "Label", "FrameService", "16,104 57x17", -1, "'Password:' " + label},
+        {"txtPassword", "TextBox", "FrameService", "96,104 81x19", 7, password},
+        {"chkSystem", "CheckBox", "FrameService", "184,104 ?x21", 20, "'System Account' " + micro + ", value 1 size 1"},
+        {"lblStartup", "Label", "FrameService", "16,128 73x17", -1, "'Startup Type:' " + label},
+        {"ComboStartup", "ComboBox", "FrameService", "96,128 193x?", -1, ""},
+        {"tmrCheck", "Timer", "FrameService", "", -1, "1000 ms"},
+        {"FrameStartVelmora", "Frame", "", "8,376 305x97", 19, "'Start Velmora Now' " + sans},
+        {"CommandStartVelmora", "CommandButton", "FrameStartVelmora", "16,32 129x41", 9, "'Start Velmora" + button},
+        {"CommandCloseVelmora", "CommandButton", "FrameStartVelmora", "160,32 129x41", 10, "'Close Velmora" + button},
+        {"TimerMonitorIfVelmoraRunning", "Timer", "FrameStartVelmora", "", -1, "2000 ms"},
+        {"CommandOk", "CommandButton", "", "72,488 177x41", 11, "'OK" + button},
+    };
+    const std::vector<host::Control*> controls = form.Controls();
+    ASSERT_EQ(controls.size(), std::size(design));
+    auto drawn = controls.begin();
+    for (const auto& [name, kind, container, place, tabIndex, look, toolTip] : design) {
+        SCOPED_TRACE(name);
+        host::Control& control = **drawn++;
+        const host::Extender& extender = control.GetExtender();
+        EXPECT_EQ(Shown(extender.Name()), name);
+        EXPECT_EQ(Shown(control.Kind()), kind);
+        const auto* const inside = dynamic_cast<const host::Control*>(&extender.Container());
+        EXPECT_EQ(inside ? Shown(inside->GetExtender().Name()) : "", container);
+        EXPECT_EQ(control.OwnHandle() ? PlaceOf(control) : "", place);
+        EXPECT_TRUE(tabIndex == -1 || extender.TabIndex() == tabIndex) << extender.TabIndex();
+        EXPECT_EQ(LookOf(control), look);
+        EXPECT_EQ(Shown(extender.ToolTipText()), toolTip);
+    }
     RECT client{};
     GetClientRect(form.hWnd(), &client);
-    EXPECT_EQ(client.right, tests::kClientSize.cx);
-    EXPECT_EQ(client.bottom, tests::kClientSize.cy);
+    EXPECT_EQ(client.right, 322);
+    EXPECT_EQ(client.bottom, 547);
     EXPECT_EQ(form.Caption(), TEXT("Velmora Setup Utility"));
     EXPECT_TRUE(form.KeyPreview());
-
-    const std::vector<host::Control*> controls = form.Controls();
-    ASSERT_EQ(controls.size(), std::size(tests::kFormMap));
-    for (std::size_t i = 0; i < controls.size(); ++i) {
-        const tests::Designed& design = tests::kFormMap[i];
-        host::Control& control = *controls[i];
-        const host::Extender& extender = control.GetExtender();
-        SCOPED_TRACE(design.name);
-        const String kind = Wide(design.kind);
-        EXPECT_EQ(control.Kind(), kind);
-        EXPECT_EQ(extender.Name(), Wide(design.name));
-        EXPECT_EQ(&extender.Container(), *design.container ? dynamic_cast<host::Container*>(form.Find(Wide(design.container))) : &form);
-        EXPECT_EQ(extender.ToolTipText(), Wide(design.toolTip));
-        EXPECT_EQ(CaptionOf(control), Wide(design.caption));
-        if (design.tabIndex != -1) {
-            EXPECT_EQ(extender.TabIndex(), design.tabIndex);
-        }
-        ASSERT_EQ(control.OwnHandle() == nullptr, kind == TEXT("Timer"));
-        if (kind == TEXT("Timer"))
-            continue;
-        RECT place{};
-        GetWindowRect(control.OwnHandle(), &place);
-        MapWindowPoints(nullptr, GetParent(control.OwnHandle()), reinterpret_cast<POINT*>(&place), 2);
-        EXPECT_EQ(place.left, design.left / tests::kTwipsPerPixel);
-        EXPECT_EQ(place.top, design.top / tests::kTwipsPerPixel);
-        // Check boxes that size themselves are as wide as the machine's font makes them, a drop-down list is as high as its own.
-        if (kind != TEXT("CheckBox")) {
-            EXPECT_EQ(place.right - place.left, design.width / tests::kTwipsPerPixel);
-        }
-        if (kind != TEXT("ComboBox")) {
-            EXPECT_EQ(place.bottom - place.top, design.height / tests::kTwipsPerPixel);
-        }
-    }
-}
-
-/// Font, size in points, and what else was chosen when the control was drawn; colours in hexadecimal.
-std::string LookOf(host::Control& control)
-{
-    const auto text = [](const std::shared_ptr<host::Font>& font) {
-        return std::string(font->Name().begin(), font->Name().end()) + " " + std::to_string(font->Size()).substr(0, 4);
-    };
-    std::ostringstream look;
-    look << std::hex << std::showbase;
-    if (auto* const timer = dynamic_cast<host::Timer*>(&control)) {
-        look << std::dec << timer->Interval() << (timer->Enabled() ? " ms" : " off");
-    } else if (auto* const button = dynamic_cast<controls::CommandButton*>(&control)) {
-        look << text(button->Font()) << ", style " << std::dec << button->Style() << std::hex << " focus " << button->ShowFocus()
-             << " contour " << button->ContourColor() << " highlight " << button->HighLightColor() << " mask " << button->MaskColor()
-             << " rounded " << button->RoundedBordersByTheme() << " tip " << button->TooltipBackColor() << "/"
-             << button->ToolTipForeColor();
-    } else if (auto* const check = dynamic_cast<controls::CheckBox*>(&control)) {
-        look << text(check->Font()) << ", value " << static_cast<int>(check->Value()) << " size " << check->AutoSize();
-    } else if (auto* const box = dynamic_cast<controls::TextBox*>(&control)) {
-        look << text(box->Font()) << ", password " << box->UseSystemPasswordChar() << " true type " << box->ForceTrueType();
-    } else if (auto* const frame = dynamic_cast<controls::Frame*>(&control)) {
-        look << text(frame->Font());
-    } else {
-        LOGFONTW font{};
-        GetObjectW(reinterpret_cast<HFONT>(SendMessageW(control.hWnd(), WM_GETFONT, 0, 0)), sizeof font, &font);
-        const String face = font.lfFaceName;
-        look << std::string(face.begin(), face.end()) << " " << std::dec << -font.lfHeight << " px";
-    }
-    if (const auto* const tip = dynamic_cast<controls::ToolTip*>(&control))
-        if (!tip->TooltipTitle().empty() || tip->ToolTipIcon() != 0 || tip->ToolTipBalloon())
-            look << " with a tip of its own";
-    return look.str() + (control.Enabled() ? "" : ", disabled");
-}
-
-TEST_F(Form1Layout, EveryControl_LooksAsItWasDrawn)
-{
-    const std::string button =
-        "MS Sans Serif 8.25, style 10 focus 0x1 contour 0x800000 highlight 0x8000000f mask 0 rounded 0 tip 0xe1ffff/0";
-    const std::string frame = "MS Sans Serif 8.25", label = "Microsoft Sans Serif 11 px";
-    const std::string password = "Microsoft Sans Serif 8.25, password 0x1 true type 0x1";
-    const std::pair<const char*, std::string> looks[] = {{"DFrame1", frame},
-                                                         {"TextPassword", password},
-                                                         {"Label1", label},
-                                                         {"FrameAutoStart", frame},
-                                                         {"CheckAutoStart", "MS Sans Serif 8.25, value 0 size 0x1"},
-                                                         {"CheckHideTrayIcon", "MS Sans Serif 8.25, value 0 size 0x1, disabled"},
-                                                         {"CheckSoundStart", "MS Sans Serif 8.25, value 0 size 0x1, disabled"},
-                                                         {"FrameService", frame},
-                                                         {"cmdInstall", button},
-                                                         {"cmdStart", button},
-                                                         {"lblAccount", label},
-                                                         {"txtAccount", "Microsoft Sans Serif 8.25, password 0 true type 0"},
-                                                         {"lblPassword", label},
-                                                         {"txtPassword", password},
-                                                         {"chkSystem", "Microsoft Sans Serif 8.25, value 0x1 size 0x1"},
-                                                         {"lblStartup", label},
-                                                         {"tmrCheck", "1000 ms"},
-                                                         {"FrameStartVelmora", frame},
-                                                         {"CommandStartVelmora", button},
-                                                         {"CommandCloseVelmora", button},
-                                                         {"TimerMonitorIfVelmoraRunning", "2000 ms"},
-                                                         {"CommandOk", button}};
-    for (const auto& [name, look] : looks)
-        EXPECT_EQ(LookOf(*form.Find(Wide(name))), look) << name;
-    const auto& startup = *form.Find<host::ComboBox>(TEXT("ComboStartup"));
-    EXPECT_EQ(SendMessageW(startup.hWnd(), CB_GETCOUNT, 0, 0), 3);
+    EXPECT_EQ(SendMessageW(form.Find<host::ComboBox>(TEXT("ComboStartup"))->hWnd(), CB_GETCOUNT, 0, 0), 3);
 }
 
 /// Takes out what the machine's fonts decide.

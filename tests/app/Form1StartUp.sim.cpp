@@ -132,21 +132,6 @@ TEST_F(Form1StartUp, FramesOfAnOrdinaryUser_StayOffAtEveryTick)
     EXPECT_EQ(Button(TEXT("cmdInstall")).Caption(), TEXT("Install Service"));
 }
 
-TEST_F(Form1StartUp, Captions_AreDrawn)
-{
-    ASSERT_TRUE(Open());
-    auto& button = Button(TEXT("CommandOk"));
-    const auto picture = [&] {
-        pc.Settle();
-        return The<Desktop>().Snapshot(button.OwnHandle());
-    };
-    const Image drawn = picture();
-    button.Caption(TEXT(""));
-    EXPECT_FALSE(drawn == picture());
-    button.Caption(TEXT("OK"));
-    EXPECT_TRUE(drawn == picture());
-}
-
 TEST_F(Form1StartUp, DoubleClick_ReachesAFrame)
 {
     ASSERT_TRUE(Open());
@@ -174,18 +159,6 @@ TEST_F(Form1StartUp, Keys_CloseTheWindowOnlyWithTheRightModifiers)
     ASSERT_TRUE(Open());
     desktop.Press(VK_ESCAPE);
     EXPECT_FALSE(IsOpen()) << "Alt was let go while no window was there";
-}
-
-TEST_F(Form1StartUp, F6_LeadsThroughAllFrames)
-{
-    ASSERT_TRUE(Open());
-    Form().Find(TEXT("TextPassword"))->SetFocus();
-    for (const WCHAR* name : {TEXT("CheckAutoStart"), TEXT("cmdInstall"), TEXT("CommandStartVelmora"), TEXT("CommandOk"), TEXT("chkSystem"),
-                              TEXT("TextPassword")}) {
-        pc.Settle();
-        The<Desktop>().Press(VK_F6);
-        EXPECT_EQ(Form().ActiveControl()->GetExtender().Name(), name);
-    }
 }
 
 TEST_F(Form1StartUp, Closing_LetsGoOfEverything)

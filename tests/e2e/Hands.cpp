@@ -53,7 +53,7 @@ TEST_F(Hands, RightClickAndItsMenu_LeaveTheKeyboardWorking)
 {
     utility_->Press({VK_TAB});
     ASSERT_TRUE(IsFocused("CheckAutoStart"));
-    const RECT box = tests::DesignedRect(tests::DesignOf("TextPassword"));
+    const RECT box = DesignOf("TextPassword").place;
     tests::MoveMouse(utility_->Window(), box.left + 20, (box.top + box.bottom) / 2);
     tests::MouseButton(MOUSEEVENTF_RIGHTDOWN);
     tests::MouseButton(MOUSEEVENTF_RIGHTUP);
@@ -72,7 +72,7 @@ TEST_F(Hands, RightClickAndItsMenu_LeaveTheKeyboardWorking)
 
 TEST_F(Hands, ButtonLetGoElsewhere_TogglesNothing)
 {
-    const RECT check = tests::DesignedRect(tests::DesignOf("CheckAutoStart"));
+    const RECT check = DesignOf("CheckAutoStart").place;
     tests::MoveMouse(utility_->Window(), check.left + 8, (check.top + check.bottom) / 2);
     tests::MouseButton(MOUSEEVENTF_LEFTDOWN);
     tests::MoveMouse(utility_->Window(), check.left + 60, check.bottom + 90);

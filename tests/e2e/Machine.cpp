@@ -6,13 +6,13 @@ namespace e2e {
 
 namespace {
 
-constexpr WCHAR RUN_KEY[] = TEXT("SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run");
-constexpr WCHAR NAME[] = TEXT("Velmora");
+constexpr WCHAR runKey[] = TEXT("SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run");
+constexpr WCHAR name[] = TEXT("Velmora");
 
 base::ServiceHandle OpenInstalled(DWORD access)
 {
     const base::ServiceHandle manager(OpenSCManagerW(nullptr, nullptr, SC_MANAGER_CONNECT));
-    return base::ServiceHandle(OpenServiceW(manager.Get(), NAME, access));
+    return base::ServiceHandle(OpenServiceW(manager.Get(), name, access));
 }
 
 }  // namespace
@@ -21,19 +21,14 @@ std::optional<base::String> AutoStartValue()
 {
     WCHAR text[1024]{};
     DWORD size = sizeof text;
-    if (RegGetValueW(HKEY_LOCAL_MACHINE, RUN_KEY, NAME, RRF_RT_REG_SZ, nullptr, text, &size) != ERROR_SUCCESS)
+    if (RegGetValueW(HKEY_LOCAL_MACHINE, runKey, name, RRF_RT_REG_SZ, nullptr, text, &size) != ERROR_SUCCESS)
         return std::nullopt;
     return text;
 }
 
-void SetAutoStartValue(const base::String& text)
-{
-    RegSetKeyValueW(HKEY_LOCAL_MACHINE, RUN_KEY, NAME, REG_SZ, text.c_str(), static_cast<DWORD>((text.size() + 1) * sizeof(WCHAR)));
-}
-
 void RemoveAutoStartValue()
 {
-    RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, RUN_KEY, NAME);
+    RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, runKey, name);
 }
 
 std::optional<ServiceFacts> InstalledService()
@@ -66,7 +61,7 @@ bool InstallService(const base::String& exe, DWORD startType)
     const base::ServiceHandle manager(OpenSCManagerW(nullptr, nullptr, SC_MANAGER_ALL_ACCESS));
     const base::String path = TEXT("\"") + exe + TEXT("\"");
     return static_cast<bool>(
-        base::ServiceHandle(CreateServiceW(manager.Get(), NAME, TEXT("Velmora Service"), SERVICE_ALL_ACCESS, SERVICE_WIN32_OWN_PROCESS,
+        base::ServiceHandle(CreateServiceW(manager.Get(), name, TEXT("Velmora Service"), SERVICE_ALL_ACCESS, SERVICE_WIN32_OWN_PROCESS,
                                            startType, SERVICE_ERROR_NORMAL, path.c_str(), nullptr, nullptr, nullptr, nullptr, nullptr)));
 }
 

@@ -10,7 +10,6 @@ namespace e2e {
 
 /// The value that starts the agent at logon.
 [[nodiscard]] std::optional<base::String> AutoStartValue();
-void SetAutoStartValue(const base::String& text);
 void RemoveAutoStartValue();
 
 struct ServiceFacts {

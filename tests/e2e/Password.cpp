@@ -35,15 +35,6 @@ TEST_F(EndToEnd, TypedPassword_IsStoredByOkAndShownAgainMasked)
     }
 }
 
-TEST_F(EndToEnd, EmptyBoxWithoutFile_CreatesNone)
-{
-    Utility utility(exe_);
-    ASSERT_TRUE(utility.Opened());
-    utility.Click("CommandOk");
-    ASSERT_TRUE(utility.Ended());
-    EXPECT_EQ(GetFileAttributesW(settings_.c_str()), INVALID_FILE_ATTRIBUTES);
-}
-
 TEST_F(EndToEnd, EscAltF5AndTheCloseBox_DropWhatWasTyped)
 {
     for (int way = 0; way < 3; ++way) {

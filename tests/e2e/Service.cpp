@@ -14,42 +14,14 @@ std::string_view PanelOf(const Utility& utility)
 
 }  // namespace
 
-TEST_F(EndToEnd, Service_InstalledWithEachStartupTypeAndUninstalled)
+TEST_F(EndToEnd, Service_InstalledAsChosenAndUninstalled)
 {
     Utility utility(exe_);
     ASSERT_TRUE(utility.Opened());
     utility.Click("CheckAutoStart");
     ASSERT_TRUE(Eventually([&] { return utility.Checked("CheckAutoStart") && utility.Enabled("CheckHideTrayIcon"); }));
-    const std::pair<WCHAR, DWORD> cases[] = {
-        {TEXT('A'), SERVICE_AUTO_START}, {TEXT('M'), SERVICE_DEMAND_START}, {TEXT('D'), SERVICE_DISABLED}};
-    for (const auto& [letter, startType] : cases) {
-        SCOPED_TRACE(startType);
-        utility.Choose("ComboStartup", letter);
-        ASSERT_TRUE(Eventually([&] { return utility.Selected("ComboStartup") == static_cast<int>(startType) - SERVICE_AUTO_START; }));
-        utility.Click("cmdInstall");
-        ASSERT_TRUE(Eventually([] { return InstalledService().has_value(); }));
-        EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "stopped"; }));
-        const ServiceFacts facts = InstalledService().value();
-        EXPECT_EQ(facts.startType, startType);
-        EXPECT_EQ(facts.binaryPath, TEXT("\"") + agent_ + TEXT("\""));
-        EXPECT_EQ(facts.account, TEXT("LocalSystem"));
-        EXPECT_EQ(facts.description, TEXT("Server remoto di Korvane installato come servizio (opzionale), serve a permettere lo "
-                                          "spegnimento di questo PC da remoto in una LAN"));
-        for (const char* name : {"CheckAutoStart", "CheckHideTrayIcon", "ComboStartup", "chkSystem", "txtAccount"})
-            EXPECT_FALSE(utility.Enabled(name)) << name;
-        EXPECT_FALSE(utility.Checked("CheckAutoStart"));
-
-        utility.Click("cmdInstall");
-        EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "not installed"; }));
-        EXPECT_TRUE(Eventually([] { return !InstalledService(); }));
-        EXPECT_TRUE(utility.Enabled("CheckAutoStart") && utility.Enabled("ComboStartup") && !utility.Enabled("txtAccount"));
-    }
-}
-
-TEST_F(EndToEnd, Service_InstalledWithANamedAccount)
-{
-    Utility utility(exe_);
-    ASSERT_TRUE(utility.Opened());
+    utility.Choose("ComboStartup", TEXT('D'));
+    ASSERT_TRUE(Eventually([&] { return utility.Selected("ComboStartup") == 2; }));
     utility.Click("chkSystem");
     ASSERT_TRUE(Eventually([&] { return utility.Enabled("txtAccount"); }));
     utility.Enter("txtAccount", TEXT("office\\jdoe"));
@@ -57,7 +29,21 @@ TEST_F(EndToEnd, Service_InstalledWithANamedAccount)
     EXPECT_TRUE(Eventually([&] { return tests::TextOf(utility.Shown("txtAccount")) == TEXT("office\\jdoe"); }));
     utility.Click("cmdInstall");
     ASSERT_TRUE(Eventually([] { return InstalledService().has_value(); }));
-    EXPECT_EQ(InstalledService().value().account, TEXT("office\\jdoe"));
+    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "stopped"; }));
+    const ServiceFacts facts = InstalledService().value();
+    EXPECT_EQ(facts.startType, static_cast<DWORD>(SERVICE_DISABLED));
+    EXPECT_EQ(facts.binaryPath, TEXT("\"") + agent_ + TEXT("\""));
+    EXPECT_EQ(facts.account, TEXT("office\\jdoe"));
+    EXPECT_EQ(facts.description, TEXT("Server remoto di Korvane installato come servizio (opzionale), serve a permettere lo "
+                                      "spegnimento di questo PC da remoto in una LAN"));
+    for (const char* name : {"CheckAutoStart", "CheckHideTrayIcon", "ComboStartup", "chkSystem", "txtAccount"})
+        EXPECT_FALSE(utility.Enabled(name)) << name;
+    EXPECT_FALSE(utility.Checked("CheckAutoStart"));
+
+    utility.Click("cmdInstall");
+    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "not installed"; }));
+    EXPECT_TRUE(Eventually([] { return !InstalledService(); }));
+    EXPECT_TRUE(utility.Enabled("CheckAutoStart") && utility.Enabled("ComboStartup") && utility.Enabled("txtAccount"));
 }
 
 TEST_F(EndToEnd, Service_InstalledAndUninstalledWithTheKeyboardAlone)
@@ -88,49 +74,35 @@ TEST_F(EndToEnd, Service_InstalledAndUninstalledWithTheKeyboardAlone)
     EXPECT_TRUE(utility.Ended());
 }
 
-TEST_F(EndToEnd, Service_StartedAndStoppedByItsButton)
+TEST_F(EndToEnd, Service_StartedAndStoppedByItsButton_AndFollowedWhateverOthersDo)
 {
-    ASSERT_TRUE(InstallService(agent_, SERVICE_DEMAND_START));
+    ASSERT_TRUE(InstallService(agent_, SERVICE_DISABLED));
     Utility utility(exe_);
     ASSERT_TRUE(utility.Opened());
     EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "stopped"; }));
-    EXPECT_EQ(utility.Selected("ComboStartup"), 1);
+    EXPECT_EQ(utility.Selected("ComboStartup"), 2);
     EXPECT_EQ(tests::TextOf(utility.Shown("txtAccount")), TEXT("LocalSystem"));
     EXPECT_FALSE(utility.Checked("chkSystem"));
+    ASSERT_TRUE(ChangeServiceStartType(SERVICE_DEMAND_START));
+    EXPECT_TRUE(Eventually([&] { return utility.Selected("ComboStartup") == 1; }, serviceTick));
 
     utility.Enter("TextPassword", TEXT("abc"));
     utility.Click("cmdStart");
     ASSERT_TRUE(Eventually([&] { return ServiceState() == SERVICE_RUNNING; })) << utility.Situation();
     EXPECT_EQ(tests::BytesOf(settings_), "[Settings]\r\nPwd=AYWJj\r\n");
-    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "running"; }, SERVICE_TICK));
+    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "running"; }, serviceTick));
     EXPECT_EQ(tests::BytesOf(log_), "service running\r\n");
     EXPECT_TRUE(Eventually([&] { return utility.HasFocus("cmdStart"); })) << utility.Situation();
 
     utility.Click("cmdStart");
     ASSERT_TRUE(Eventually([&] { return ServiceState() == SERVICE_STOPPED; })) << utility.Situation();
-    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "stopped"; }, SERVICE_TICK));
-}
-
-TEST_F(EndToEnd, Service_ChangedBySomebodyElse_IsFollowedWithinATick)
-{
-    Utility utility(exe_);
-    ASSERT_TRUE(utility.Opened());
-    ASSERT_TRUE(InstallService(agent_, SERVICE_DEMAND_START));
-    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "stopped"; }, SERVICE_TICK));
-    EXPECT_EQ(utility.Selected("ComboStartup"), 1);
-
-    ASSERT_TRUE(ChangeServiceStartType(SERVICE_DISABLED));
-    EXPECT_TRUE(Eventually([&] { return utility.Selected("ComboStartup") == 2; }, SERVICE_TICK));
-    ASSERT_TRUE(ChangeServiceStartType(SERVICE_AUTO_START));
-    EXPECT_TRUE(Eventually([&] { return utility.Selected("ComboStartup") == 0; }, SERVICE_TICK));
+    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "stopped"; }, serviceTick));
 
     // Windows starts one service at a time and refuses while it is at another.
     ASSERT_TRUE(Eventually([] { return StartInstalledService(); }));
-    ASSERT_TRUE(Eventually([&] { return ServiceState() == SERVICE_RUNNING; }));
-    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "running"; }, SERVICE_TICK));
-
+    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "running"; }));
     ASSERT_TRUE(RemoveService());
-    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "not installed"; }, SERVICE_TICK));
+    EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "not installed"; }, serviceTick));
     EXPECT_TRUE(utility.Enabled("CheckAutoStart"));
 }
 

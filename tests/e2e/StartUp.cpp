@@ -23,13 +23,6 @@ void ExpectMessageAndEnd(Utility& utility, base::StringView text)
 
 }  // namespace
 
-TEST_F(EndToEnd, AgentMissing_SaysSoAndEnds)
-{
-    DeleteFileW(agent_.c_str());
-    Utility utility(exe_);
-    ExpectMessageAndEnd(utility, TEXT("\"Velmora.exe\" needs to be on this directory."));
-}
-
 TEST_F(EndToEnd, SecondCopy_EndsWithoutAWord)
 {
     Utility first(exe_);
@@ -76,18 +69,18 @@ TEST_F(EndToEnd, EveryControl_IsWhereItWasDesigned)
 {
     Utility utility(exe_);
     ASSERT_TRUE(utility.Opened());
-    for (const tests::Designed& control : tests::kFormMap) {
-        if (std::string_view(control.kind) == "Timer")
+    for (const Designed& control : Design()) {
+        if (control.kind == "Timer")
             continue;
         RECT actual{};
         EXPECT_TRUE(GetWindowRect(utility.Own(control.name), &actual)) << control.name << ": no window, or more than one, is at its place";
         EXPECT_TRUE(utility.Shown(control.name)) << control.name << " hosts no system window";
         // A check box takes its width from its font, a combo box its height.
-        if (std::string_view(control.kind) != "CheckBox") {
-            EXPECT_EQ(actual.right - actual.left, control.width / tests::kTwipsPerPixel) << control.name;
+        if (control.kind != "CheckBox") {
+            EXPECT_EQ(actual.right - actual.left, control.place.right - control.place.left) << control.name;
         }
-        if (std::string_view(control.kind) != "ComboBox") {
-            EXPECT_EQ(actual.bottom - actual.top, control.height / tests::kTwipsPerPixel) << control.name;
+        if (control.kind != "ComboBox") {
+            EXPECT_EQ(actual.bottom - actual.top, control.place.bottom - control.place.top) << control.name;
         }
     }
 }

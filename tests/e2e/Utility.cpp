@@ -46,7 +46,7 @@ DWORD Utility::ExitCode() const
     return code;
 }
 
-bool Utility::HasFocus(const char* name) const
+bool Utility::HasFocus(std::string_view name) const
 {
     const HWND focus = ThreadOf(window_).hwndFocus;
     return focus && focus == Shown(name);
@@ -55,9 +55,9 @@ bool Utility::HasFocus(const char* name) const
 std::string Utility::Situation() const
 {
     const auto nameOf = [this](HWND window) -> std::string {
-        for (const tests::Designed& control : tests::kFormMap)
-            if (window && std::string_view(control.kind) != "Timer" && (window == Own(control.name) || window == Shown(control.name)))
-                return std::string(control.name) + (IsWindowEnabled(window) ? "" : " (disabled)");
+        for (const Designed& control : Design())
+            if (window && control.kind != "Timer" && (window == Own(control.name) || window == Shown(control.name)))
+                return control.name + (IsWindowEnabled(window) ? "" : " (disabled)");
         return !window ? "nothing" : window == window_ ? "the window" : "something else";
     };
     const GUITHREADINFO info = ThreadOf(window_);
@@ -79,9 +79,9 @@ HWND Utility::FindTopLevel(const WCHAR* className) const
     return window;
 }
 
-HWND Utility::Find(const char* name, base::StringView className) const
+HWND Utility::Find(std::string_view name, base::StringView className) const
 {
-    const RECT designed = tests::DesignedRect(tests::DesignOf(name));
+    const RECT designed = DesignOf(name).place;
     struct Search {
         base::StringView className;
         POINT place;
@@ -105,19 +105,19 @@ HWND Utility::Find(const char* name, base::StringView className) const
     return search.count == 1 ? search.found : nullptr;
 }
 
-HWND Utility::Own(const char* name) const
+HWND Utility::Own(std::string_view name) const
 {
-    const std::string_view kind = tests::DesignOf(name).kind;
+    const std::string& kind = DesignOf(name).kind;
     return Find(name, kind == "ComboBox" ? TEXT("ComboBox") : kind == "Label" ? TEXT("Static") : TEXT("VelmoraUserControl"));
 }
 
-HWND Utility::Shown(const char* name) const
+HWND Utility::Shown(std::string_view name) const
 {
-    const std::string_view kind = tests::DesignOf(name).kind;
+    const std::string& kind = DesignOf(name).kind;
     return kind == "CheckBox" ? Find(name, TEXT("Button")) : kind == "TextBox" ? Find(name, TEXT("Edit")) : Own(name);
 }
 
-bool Utility::Enabled(const char* name) const
+bool Utility::Enabled(std::string_view name) const
 {
     HWND window = Shown(name);
     while (window && window != window_ && IsWindowEnabled(window))
@@ -125,13 +125,13 @@ bool Utility::Enabled(const char* name) const
     return window && IsWindowEnabled(window);
 }
 
-void Utility::Click(const char* name) const
+void Utility::Click(std::string_view name) const
 {
     BringToFront();
     // Clicks that lie this far apart are never taken for a double click.
     static LONG side = 0;
     side = side ? 0 : GetSystemMetrics(SM_CXDOUBLECLK) + 1;
-    const RECT rect = tests::DesignedRect(tests::DesignOf(name));
+    const RECT rect = DesignOf(name).place;
     // Near the left end, where a check box has its mark.
     tests::MoveMouse(window_, rect.left + 8 + side, (rect.top + rect.bottom) / 2);
     tests::ClickMouse();
@@ -159,7 +159,7 @@ void Utility::Press(std::initializer_list<WORD> virtualKeys) const
         tests::SendKey(*key, KEYEVENTF_KEYUP);
 }
 
-void Utility::Enter(const char* name, base::StringView text) const
+void Utility::Enter(std::string_view name, base::StringView text) const
 {
     Click(name);
     Press({VK_END});
@@ -173,7 +173,7 @@ void Utility::Enter(const char* name, base::StringView text) const
     }
 }
 
-void Utility::Choose(const char* name, WCHAR firstLetter) const
+void Utility::Choose(std::string_view name, WCHAR firstLetter) const
 {
     Click(name);
     tests::PressKey(static_cast<WORD>(firstLetter));

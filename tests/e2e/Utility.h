@@ -3,7 +3,7 @@
 
 #include "base/Handles.h"
 #include "base/String.h"
-#include "tests/app/FormMap.h"
+#include "tests/e2e/Design.h"
 #include "tests/e2e/Eventually.h"
 
 #include <initializer_list>
@@ -21,7 +21,7 @@ public:
 
     /// Waits for the window to be open and in front.
     [[nodiscard]] bool Opened();
-    [[nodiscard]] bool Ended(Milliseconds patience = SOON) const;
+    [[nodiscard]] bool Ended(Milliseconds patience = soon) const;
     /// What the process ended with, STILL_ACTIVE while it runs.
     [[nodiscard]] DWORD ExitCode() const;
     [[nodiscard]] HWND Window() const { return window_; }
@@ -33,35 +33,35 @@ public:
     // The controls go by their names on the form and are found by their designed place.
 
     /// The control's own window; NULL when no visible window or more than one of its class is at its place.
-    [[nodiscard]] HWND Own(const char* name) const;
+    [[nodiscard]] HWND Own(std::string_view name) const;
     /// The window that a person sees and that has the control's text or check mark: the system's "Button" or "Edit" where the control
     /// hosts one, which lies over the control's own window, and else the own window.
-    [[nodiscard]] HWND Shown(const char* name) const;
+    [[nodiscard]] HWND Shown(std::string_view name) const;
     /// Whether input reaches it: neither the control nor anything around it is disabled.
-    [[nodiscard]] bool Enabled(const char* name) const;
-    [[nodiscard]] bool Checked(const char* name) const { return SendMessageW(Shown(name), BM_GETCHECK, 0, 0) == BST_CHECKED; }
+    [[nodiscard]] bool Enabled(std::string_view name) const;
+    [[nodiscard]] bool Checked(std::string_view name) const { return SendMessageW(Shown(name), BM_GETCHECK, 0, 0) == BST_CHECKED; }
     /// The index of the combo box's entry.
-    [[nodiscard]] int Selected(const char* name) const { return static_cast<int>(SendMessageW(Own(name), CB_GETCURSEL, 0, 0)); }
+    [[nodiscard]] int Selected(std::string_view name) const { return static_cast<int>(SendMessageW(Own(name), CB_GETCURSEL, 0, 0)); }
 
     /// Whether the keyboard goes to what a person sees of it.
-    [[nodiscard]] bool HasFocus(const char* name) const;
+    [[nodiscard]] bool HasFocus(std::string_view name) const;
     /// Focus, capture, what is below the mouse and what is in front: for the words of a failure.
     [[nodiscard]] std::string Situation() const;
 
     // What a person does. Every one of them brings the window to the front first.
 
-    void Click(const char* name) const;
+    void Click(std::string_view name) const;
     void ClickCloseBox() const;
     /// Presses the keys in order, the last one with all others held, and lets them go in reverse.
     void Press(std::initializer_list<WORD> virtualKeys) const;
     /// Clicks into the box, selects all that is there and types over it.
-    void Enter(const char* name, base::StringView text) const;
+    void Enter(std::string_view name, base::StringView text) const;
     /// Opens the list and picks the entry whose first letter this is.
-    void Choose(const char* name, WCHAR firstLetter) const;
+    void Choose(std::string_view name, WCHAR firstLetter) const;
 
 private:
     [[nodiscard]] HWND FindTopLevel(const WCHAR* className) const;
-    [[nodiscard]] HWND Find(const char* name, base::StringView className) const;
+    [[nodiscard]] HWND Find(std::string_view name, base::StringView className) const;
     void BringToFront() const;
 
     base::KernelHandle process_;

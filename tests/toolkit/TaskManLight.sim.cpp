@@ -133,42 +133,6 @@ TEST_F(TaskManLight, Modules_AreCutAt1024)
     }
 }
 
-TEST_F(TaskManLight, Handles_AreOpenedWithTheRightsThatAreNeeded)
-{
-    const DWORD process = processes.Launch(u"C:\\a.exe"), thread = processes.AddThread(process);
-    DWORD_PTR masks[2]{};
-    SIZE_T sizes[8]{};
-    DWORD faults = 0;
-    std::vector<String> names;
-    const std::pair<std::function<void()>, const char*> members[] = {
-        {[&] { tools.ExistsPID(process); }, "0x400"},
-        {[&] { tools.GetPriorityFromPID(process); }, "0x400"},
-        {[&] { tools.SetPriorityFromPID(process, IDLE_PRIORITY_CLASS); }, "0x200"},
-        {[&] { tools.TrimWorkingSet(process); }, "0x100"},
-        {[&] { tools.GetAffinityMaskFromPID(process, masks[0], masks[1]); }, "0x400"},
-        {[&] { tools.SetAffinityMaskFromPID(process, 1); }, "0x200"},
-        {[&] {
-             tools.GetMemoryUsageFromPID(process, sizes[0], sizes[1], faults, sizes[2], sizes[3], sizes[4], sizes[5], sizes[6], sizes[7]);
-         },
-         "0x410"},
-        {[&] { tools.GetDLLsFromPID(process, names); }, "0x410"},
-        {[&] { tools.GetNTPathFromPID(process); }, "0x400"},
-        {[&] { tools.GetPathFromPID(process); }, "0x410"},
-        {[&] { tools.SospendiThread(thread); }, "2"},
-        {[&] { tools.RiattivaThread(thread); }, "2"},
-        {[&] { tools.KillThread(thread); }, "0x41"},
-        {[&] { tools.KillProcessByPID(process); }, "0x401"}};
-    for (const auto& [use, rights] : members) {
-        pc.Trace().Start();
-        use();
-        std::vector<std::string> asked;
-        for (const CallRecord& call : pc.Trace().Records())
-            if (call.name == "OpenProcess" || call.name == "OpenThread")
-                asked.push_back(call.arguments.substr(0, call.arguments.find(',')));
-        EXPECT_EQ(asked, std::vector<std::string>{rights});
-    }
-}
-
 TEST_F(TaskManLight, ProcessList_GrowsUntilItFits)
 {
     std::vector<DWORD> all;

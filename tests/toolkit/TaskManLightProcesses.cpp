@@ -146,20 +146,6 @@ TEST_F(TaskManLightProcesses, Instances_AreThoseOfTheSameImageWithAWindow)
     EXPECT_EQ(tools.GetAllMyOtherInstancesPID(found), 0);
 }
 
-TEST_F(TaskManLightProcesses, Affinity_IsThatOfTheProcess)
-{
-    const HelperProcess helper("");
-    DWORD_PTR own = 0, available = 0, read[2]{};
-    ASSERT_TRUE(GetProcessAffinityMask(helper.Handle(), &own, &available));
-    const DWORD_PTR lowest = available & (~available + 1);
-    EXPECT_EQ(tools.SetAffinityMaskFromPID(helper.Id(), lowest), 1);
-    EXPECT_EQ(tools.GetAffinityMaskFromPID(helper.Id(), read[0], read[1]), 1);
-    EXPECT_EQ(read[0], lowest);
-    EXPECT_EQ(read[1], available);
-    ASSERT_TRUE(GetProcessAffinityMask(helper.Handle(), &own, &available));
-    EXPECT_EQ(own, lowest);
-}
-
 TEST_F(TaskManLightProcesses, Threads_AreCountedAndKilledWithTheirOwnCode)
 {
     const HelperProcess helper("thread");

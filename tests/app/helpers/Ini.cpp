@@ -26,17 +26,22 @@ std::string FileOf(const String& value, bool wide)
     return wide ? "\xFF\xFE"s + tests::WideBytes(text) : std::string(text.begin(), text.end());
 }
 
+std::string Case(std::size_t length, bool wide)
+{
+    return std::to_string(length) + (wide ? " wide" : " narrow") + " characters";
+}
+
 TEST_F(Ini, ValuesOfEveryLength_AreReadWhole)
 {
     for (const bool wide : {false, true}) {
-        for (const std::size_t length :
-             {std::size_t{1}, std::size_t{253}, std::size_t{254}, std::size_t{255}, std::size_t{300}, std::size_t{5000}}) {
+        for (const std::size_t length : {1u, 253u, 254u, 255u, 300u, 5000u}) {
+            SCOPED_TRACE(Case(length, wide));
             String value;
             for (std::size_t i = 0; i < length; ++i)
                 value += static_cast<WCHAR>(TEXT('A') + i % 26);
             const String file = scratch.Write(TEXT("a.ini"), FileOf(value, wide));
-            EXPECT_EQ(ReadIniString(file, TEXT("Settings"), TEXT("Pwd"), TEXT("none")), value) << length << wide;
-            EXPECT_EQ(ReadIniStringEx(file, TEXT("Settings"), TEXT("Pwd"), TEXT("none")), value) << length << wide;
+            EXPECT_EQ(ReadIniString(file, TEXT("Settings"), TEXT("Pwd"), TEXT("none")), value);
+            EXPECT_EQ(ReadIniStringEx(file, TEXT("Settings"), TEXT("Pwd"), TEXT("none")), value);
         }
     }
 }
@@ -53,9 +58,9 @@ TEST_F(Ini, WhatIsMissing_GivesTheDefault)
     const String file = scratch.Write(TEXT("a.ini"), "[A]\r\nk=1\r\n[B]\r\n[C]\r\nk=3");
     for (const auto read : {ReadIniString, ReadIniStringEx}) {
         EXPECT_EQ(read(file, TEXT("B"), TEXT("k"), TEXT("none")), TEXT("none")) << "the key of another section";
-        EXPECT_EQ(read(file, TEXT("D"), TEXT("k"), TEXT("none")), TEXT("none"));
+        EXPECT_EQ(read(file, TEXT("D"), TEXT("k"), TEXT("none")), TEXT("none")) << "no such section";
         EXPECT_EQ(read(file, TEXT("C"), TEXT("k"), TEXT("none")), TEXT("3")) << "the last line has no end";
-        EXPECT_EQ(read(scratch.Path() + TEXT("b.ini"), TEXT("A"), TEXT("k"), TEXT("none")), TEXT("none"));
+        EXPECT_EQ(read(scratch.Path() + TEXT("b.ini"), TEXT("A"), TEXT("k"), TEXT("none")), TEXT("none")) << "no such file";
         EXPECT_EQ(read(TEXT("a.ini"), TEXT("A"), TEXT("k"), TEXT("none")), TEXT("none")) << "no full path";
     }
 }
@@ -65,7 +70,8 @@ TEST_F(Ini, OwnParser_GivesTheDefaultForAnEmptyValueAndAnEmptyFile)
     const String file = scratch.Write(TEXT("a.ini"), "[A]\r\nk=\r\n");
     EXPECT_EQ(ReadIniStringEx(file, TEXT("A"), TEXT("k"), TEXT("none")), TEXT("none"));
     for (const char* bytes : {"", "\xFF", "\xFF\xFE", "\r\n"})
-        EXPECT_EQ(ReadIniStringEx(scratch.Write(TEXT("a.ini"), bytes), TEXT("A"), TEXT("k"), TEXT("none")), TEXT("none"));
+        EXPECT_EQ(ReadIniStringEx(scratch.Write(TEXT("a.ini"), bytes), TEXT("A"), TEXT("k"), TEXT("none")), TEXT("none"))
+            << testing::PrintToString(bytes);
 }
 
 TEST_F(Ini, OwnParser_FindsLinesThatEndAtAChunksEnd)
@@ -77,7 +83,7 @@ TEST_F(Ini, OwnParser_FindsLinesThatEndAtAChunksEnd)
             const String text = TEXT("[A]\r\nx=") + String(length, TEXT('y')) + TEXT("\r\nk=found\r\n");
             const String file =
                 scratch.Write(TEXT("a.ini"), wide ? "\xFF\xFE"s + tests::WideBytes(text) : std::string(text.begin(), text.end()));
-            ASSERT_EQ(ReadIniStringEx(file, TEXT("A"), TEXT("k"), TEXT("")), TEXT("found")) << length << wide;
+            ASSERT_EQ(ReadIniStringEx(file, TEXT("A"), TEXT("k"), TEXT("")), TEXT("found")) << Case(length, wide);
         }
     }
 }

@@ -21,7 +21,7 @@ TEST(Paths, GetFolderFromPath_EndsBehindLastBackslash)
                                                            {TEXT("b.ini"), TEXT("b.ini")},
                                                            {TEXT(""), TEXT("")}};
     for (const auto& [path, folder] : cases)
-        EXPECT_EQ(helpers::GetFolderFromPath(path), folder);
+        EXPECT_EQ(helpers::GetFolderFromPath(path), folder) << Shown(path);
 }
 
 TEST(Paths, IsValidFileName_RejectsDotsAtTheEndsAndForbiddenCharacters)
@@ -30,7 +30,7 @@ TEST(Paths, IsValidFileName_RejectsDotsAtTheEndsAndForbiddenCharacters)
         EXPECT_TRUE(IsValidFileName(name)) << Shown(name);
     for (const WCHAR* name : {TEXT(""), TEXT("  "), TEXT(".hidden"), TEXT("name."), TEXT("a:b"), TEXT("a\\b"), TEXT("a/b"), TEXT("a*"),
                               TEXT("a?"), TEXT("<a"), TEXT("a>"), TEXT("a|b"), TEXT("a\"b"), TEXT("a\nb"), TEXT("a\rb")})
-        EXPECT_FALSE(IsValidFileName(name)) << "length " << Shown(name);
+        EXPECT_FALSE(IsValidFileName(name)) << Shown(name);
 }
 
 TEST(Paths, IsValidPath_WantsARootAndAFileName)

@@ -15,7 +15,7 @@ TEST_F(OwnPath, IsWholeHoweverLong)
         const base::String folder = TEXT("C:\\") + base::String(length, TEXT('f')) + TEXT("\\");
         SimPc::Current().Get<Processes>().OwnImage(folder + TEXT("Foo.Bar.exe"));
         tests::ForgetCaches();
-        EXPECT_EQ(helpers::GetAppPath(), folder);
+        EXPECT_EQ(helpers::GetAppPath(), folder) << length;
         EXPECT_EQ(helpers::GetAppExeName(), TEXT("Foo.Bar")) << "in a folder of " << length << " characters";
     }
 }

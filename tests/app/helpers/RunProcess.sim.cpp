@@ -35,6 +35,7 @@ TEST_F(RunProcess, CommandLine_QuotesOnlyPathsWithBlanks)
         {TEXT("\"C:\\A b\\a.exe\""), TEXT(""), u"\"C:\\A b\\a.exe\"", u"C:\\A b\\"},
         {folder + TEXT("a.exe"), TEXT("/x"), TEXT("\"") + folder + TEXT("a.exe\" /x"), folder}};
     for (const auto& [path, arguments, commandLine, workingFolder] : cases) {
+        SCOPED_TRACE(testing::PrintToString(path));
         EXPECT_NE(helpers::RunProcess(path, arguments, false, true, NORMAL_PRIORITY_CLASS), 0u);
         const auto& request = processes.Requests().back();
         EXPECT_EQ(request.commandLine, commandLine);
@@ -51,7 +52,7 @@ TEST_F(RunProcess, CommandLine_QuotesOnlyPathsWithBlanks)
 TEST_F(RunProcess, MissingFile_IsNotTried)
 {
     for (const WCHAR* path : {TEXT(""), TEXT("  "), TEXT("C:\\missing.exe"), TEXT("C:\\Windows")})
-        EXPECT_EQ(helpers::RunProcess(path, {}, false, true, 0), 0u);
+        EXPECT_EQ(helpers::RunProcess(path, {}, false, true, 0), 0u) << testing::PrintToString(base::String(path));
     EXPECT_TRUE(processes.Requests().empty());
 }
 
