@@ -34,9 +34,9 @@ protected:
     /// The smallest rectangle around what is not white.
     [[nodiscard]] RECT Ink() const
     {
-        RECT ink{kWidth, kHeight, 0, 0};
-        for (int y = 0; y < kHeight; ++y)
-            for (int x = 0; x < kWidth; ++x)
+        RECT ink{paperWidth, paperHeight, 0, 0};
+        for (int y = 0; y < paperHeight; ++y)
+            for (int x = 0; x < paperWidth; ++x)
                 if (paper_.At(x, y) != RGB(255, 255, 255))
                     ink = {std::min<LONG>(ink.left, x), std::min<LONG>(ink.top, y), std::max<LONG>(ink.right, x + 1),
                            std::max<LONG>(ink.bottom, y + 1)};
@@ -45,13 +45,13 @@ protected:
 
     void Clear() const
     {
-        const RECT all{0, 0, kWidth, kHeight};
+        const RECT all{0, 0, paperWidth, paperHeight};
         FillRect(paper_.Dc(), &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
     }
 
-    static constexpr int kWidth = 120;
-    static constexpr int kHeight = 60;
-    const Paper paper_{kWidth, kHeight};
+    static constexpr int paperWidth = 120;
+    static constexpr int paperHeight = 60;
+    const Paper paper_{paperWidth, paperHeight};
 };
 
 TEST_F(Texts, CalcRectAgreesWithTheExtent_AndPrefixesTakeNoRoom)
@@ -91,7 +91,7 @@ TEST_F(Texts, WordBreak_TakesNoMoreThanTheWidth_SaveForAWordThatIsWider)
 
 TEST_F(Texts, Alignment_PutsTheInkWhereItSays)
 {
-    const RECT all{0, 0, kWidth, kHeight};
+    const RECT all{0, 0, paperWidth, paperHeight};
     const auto draw = [&](UINT format) {
         Clear();
         RECT box = all;
@@ -101,8 +101,8 @@ TEST_F(Texts, Alignment_PutsTheInkWhereItSays)
     const RECT topLeft = draw(0).second;
     const RECT bottomRight = draw(DT_BOTTOM | DT_RIGHT).second;
     const auto [height, middle] = draw(DT_CENTER | DT_VCENTER);
-    const int spareWidth = kWidth - Extent(TEXT("HHH")).cx;
-    const int spareHeight = kHeight - LineHeight();
+    const int spareWidth = paperWidth - Extent(TEXT("HHH")).cx;
+    const int spareHeight = paperHeight - LineHeight();
     EXPECT_EQ(bottomRight.left - topLeft.left, spareWidth);
     EXPECT_EQ(bottomRight.top - topLeft.top, spareHeight);
     EXPECT_EQ(middle.left - topLeft.left, spareWidth / 2);
@@ -114,7 +114,7 @@ TEST_F(Texts, TheAccessKeyIsUnderlined_UnlessHidden)
 {
     const auto bottom = [&](LPCWSTR text, UINT format) {
         Clear();
-        RECT box{0, 0, kWidth, kHeight};
+        RECT box{0, 0, paperWidth, paperHeight};
         DrawTextW(paper_.Dc(), text, -1, &box, DT_SINGLELINE | format);
         return Ink().bottom;
     };

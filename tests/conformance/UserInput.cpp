@@ -8,12 +8,14 @@ namespace {
 
 using tests::MessageLog;
 
-constexpr DWORD kTop = WS_OVERLAPPEDWINDOW | WS_VISIBLE;
-constexpr DWORD kChild = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS;
+constexpr DWORD topStyle = WS_OVERLAPPEDWINDOW | WS_VISIBLE;
+constexpr DWORD childStyle = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS;
 
 class Input : public testing::Test {
 protected:
-    Input() : top_(log_.Create("top", kTop, nullptr, {100, 100, 400, 300})), child_(log_.Create("child", kChild, top_, {10, 10, 110, 60}))
+    Input()
+        : top_(log_.Create("top", topStyle, nullptr, {100, 100, 400, 300})),
+          child_(log_.Create("child", childStyle, top_, {10, 10, 110, 60}))
     {
         tests::MoveMouse(700, 500);  // away from all
         log_.Clear();
@@ -35,7 +37,7 @@ protected:
 
 TEST_F(Input, ClickOnAChildOfAnInactiveWindow_ActivatesFirst)
 {
-    log_.Create("other", kTop, nullptr, {500, 100, 600, 200});
+    log_.Create("other", topStyle, nullptr, {500, 100, 600, 200});
     MoveToChild();
     log_.Clear();
     tests::MouseButton(MOUSEEVENTF_LEFTDOWN);

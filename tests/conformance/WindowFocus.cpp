@@ -5,15 +5,15 @@ namespace {
 
 using tests::MessageLog;
 
-constexpr DWORD kTop = WS_OVERLAPPEDWINDOW;
-constexpr DWORD kChild = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS;
+constexpr DWORD topStyle = WS_OVERLAPPEDWINDOW;
+constexpr DWORD childStyle = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS;
 
 TEST(WindowFocus, SetFocus_ActivatesTheWindowAboveAndTellsBothSides)
 {
     MessageLog log;
-    const HWND one = log.Create("one", kTop | WS_VISIBLE);
-    const HWND child = log.Create("child", kChild, one, {0, 0, 40, 20});
-    log.Create("other", kTop | WS_VISIBLE);
+    const HWND one = log.Create("one", topStyle | WS_VISIBLE);
+    const HWND child = log.Create("child", childStyle, one, {0, 0, 40, 20});
+    log.Create("other", topStyle | WS_VISIBLE);
     log.Clear();
     EXPECT_EQ(SetFocus(child), one) << "activation had moved the focus there";
     EXPECT_TRUE(log.Is({WM_ACTIVATE, WM_SETFOCUS, WM_KILLFOCUS}, {"other WM_ACTIVATE 0", "one WM_ACTIVATE 1", "other WM_KILLFOCUS",
@@ -28,8 +28,8 @@ TEST(WindowFocus, SetFocus_ActivatesTheWindowAboveAndTellsBothSides)
 TEST(WindowFocus, DisabledWindow_LosesTheFocusAndCannotHaveIt)
 {
     MessageLog log;
-    const HWND top = log.Create("top", kTop | WS_VISIBLE);
-    const HWND child = log.Create("child", kChild, top, {0, 0, 40, 20});
+    const HWND top = log.Create("top", topStyle | WS_VISIBLE);
+    const HWND child = log.Create("child", childStyle, top, {0, 0, 40, 20});
     SetFocus(child);
     log.Clear();
     EXPECT_FALSE(EnableWindow(child, FALSE)) << "was it disabled before?";

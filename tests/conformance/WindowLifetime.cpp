@@ -6,16 +6,16 @@ namespace {
 
 using tests::MessageLog;
 
-constexpr DWORD kTop = WS_OVERLAPPEDWINDOW;
-constexpr DWORD kChild = WS_CHILD | WS_CLIPSIBLINGS;
+constexpr DWORD topStyle = WS_OVERLAPPEDWINDOW;
+constexpr DWORD childStyle = WS_CHILD | WS_CLIPSIBLINGS;
 
 TEST(WindowLifetime, Destroying_GoesDownAndComesBackUp)
 {
     MessageLog log;
-    const HWND top = log.Create("top", kTop);
-    const HWND child = log.Create("child", kChild, top, {0, 0, 50, 50});
-    log.Create("grandchild", kChild, child, {0, 0, 10, 10});
-    log.Create("second", kChild, top, {0, 0, 50, 50});
+    const HWND top = log.Create("top", topStyle);
+    const HWND child = log.Create("child", childStyle, top, {0, 0, 50, 50});
+    log.Create("grandchild", childStyle, child, {0, 0, 10, 10});
+    log.Create("second", childStyle, top, {0, 0, 50, 50});
     const HWND owned = log.Create("owned", WS_POPUP, top);
     log.Clear();
     EXPECT_TRUE(DestroyWindow(top));
@@ -29,8 +29,8 @@ TEST(WindowLifetime, Destroying_GoesDownAndComesBackUp)
 TEST(WindowLifetime, DestroyedChild_HidesFirstAndHandsTheFocusToItsParent)
 {
     MessageLog log;
-    const HWND top = log.Create("top", kTop | WS_VISIBLE);
-    const HWND child = log.Create("child", kChild | WS_VISIBLE, top, {5, 6, 55, 36});
+    const HWND top = log.Create("top", topStyle | WS_VISIBLE);
+    const HWND child = log.Create("child", childStyle | WS_VISIBLE, top, {5, 6, 55, 36});
     SetFocus(child);
     log.Clear();
     DestroyWindow(child);

@@ -5,8 +5,8 @@ namespace {
 
 using tests::MessageLog;
 
-constexpr COLORREF kRed = RGB(255, 0, 0);
-constexpr COLORREF kBlue = RGB(0, 0, 255);
+constexpr COLORREF red = RGB(255, 0, 0);
+constexpr COLORREF blue = RGB(0, 0, 255);
 
 /// A popup and a child in its corner, both painted and at rest.
 class Painting : public testing::Test {
@@ -74,31 +74,31 @@ TEST_F(Painting, Children_AreInvalidWithTheirParentUnlessItClipsThem)
 
 TEST_F(Painting, DeviceContext_IsClippedToWhatCanBeSeen)
 {
-    Fill(child_, kBlue);
-    EXPECT_EQ(PixelOf(top_, 20, 20), kBlue);
-    EXPECT_EQ(PixelOf(top_, 69, 59), kBlue);
-    EXPECT_NE(PixelOf(top_, 70, 59), kBlue) << "a child draws inside itself only";
-    Fill(top_, kRed);
-    EXPECT_EQ(PixelOf(child_, 5, 5), kRed) << "a parent draws over its children";
+    Fill(child_, blue);
+    EXPECT_EQ(PixelOf(top_, 20, 20), blue);
+    EXPECT_EQ(PixelOf(top_, 69, 59), blue);
+    EXPECT_NE(PixelOf(top_, 70, 59), blue) << "a child draws inside itself only";
+    Fill(top_, red);
+    EXPECT_EQ(PixelOf(child_, 5, 5), red) << "a parent draws over its children";
     SetWindowLongW(top_, GWL_STYLE, GetWindowLongW(top_, GWL_STYLE) | static_cast<LONG>(WS_CLIPCHILDREN));
-    Fill(child_, kBlue);
-    Fill(top_, kRed);
-    EXPECT_EQ(PixelOf(child_, 5, 5), kBlue) << "unless it clips them";
-    EXPECT_EQ(PixelOf(top_, 5, 5), kRed);
+    Fill(child_, blue);
+    Fill(top_, red);
+    EXPECT_EQ(PixelOf(child_, 5, 5), blue) << "unless it clips them";
+    EXPECT_EQ(PixelOf(top_, 5, 5), red);
     const HWND behind = log_.Create("behind", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, top_, {40, 20, 90, 60});
-    Fill(behind, kRed);
-    EXPECT_EQ(PixelOf(child_, 25, 5), kBlue) << "a sibling in front";
-    EXPECT_EQ(PixelOf(behind, 40, 5), kRed);
+    Fill(behind, red);
+    EXPECT_EQ(PixelOf(child_, 25, 5), blue) << "a sibling in front";
+    EXPECT_EQ(PixelOf(behind, 40, 5), red);
 }
 
 TEST_F(Painting, HidingAndMoving_ExposeTheParent)
 {
-    Fill(top_, kRed);
-    Fill(child_, kBlue);
+    Fill(top_, red);
+    Fill(child_, blue);
     MoveWindow(child_, 120, 20, 50, 40, TRUE);
     tests::PumpMessages(20);
     EXPECT_EQ(PixelOf(top_, 30, 30), GetSysColor(COLOR_BTNFACE)) << "the background comes back where it was";
-    EXPECT_EQ(PixelOf(top_, 5, 5), kRed) << "and nowhere else";
+    EXPECT_EQ(PixelOf(top_, 5, 5), red) << "and nowhere else";
     ShowWindow(child_, SW_HIDE);
     tests::PumpMessages(20);
     EXPECT_EQ(PixelOf(top_, 130, 30), GetSysColor(COLOR_BTNFACE));

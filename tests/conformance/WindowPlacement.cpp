@@ -5,14 +5,14 @@ namespace {
 
 using tests::MessageLog;
 
-constexpr DWORD kTop = WS_OVERLAPPEDWINDOW;
-constexpr DWORD kChild = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS;
+constexpr DWORD topStyle = WS_OVERLAPPEDWINDOW;
+constexpr DWORD childStyle = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS;
 
 TEST(WindowPlacement, SizeAndMove_FollowFromWhatChanged)
 {
     MessageLog log;
-    const HWND top = log.Create("top", kTop | WS_VISIBLE);
-    const HWND child = log.Create("child", kChild, top, {10, 10, 60, 40});
+    const HWND top = log.Create("top", topStyle | WS_VISIBLE);
+    const HWND child = log.Create("child", childStyle, top, {10, 10, 60, 40});
     log.Clear();
     MoveWindow(child, 12, 12, 60, 40, TRUE);
     EXPECT_TRUE(

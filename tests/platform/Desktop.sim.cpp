@@ -11,7 +11,7 @@ using platform::Desktop;
 using platform::SimPc;
 using tests::MessageLog;
 
-constexpr Actor kAgent{900, 904};
+constexpr Actor agent{900, 904};
 
 SimPc& Pc()
 {
@@ -26,7 +26,7 @@ Desktop& Screen()
 HWND OpenAgentWindow()
 {
     HWND window = nullptr;
-    Pc().ActAs(kAgent, [&] {
+    Pc().ActAs(agent, [&] {
         WNDCLASSEXW windowClass{};
         windowClass.cbSize = sizeof windowClass;
         windowClass.lpfnWndProc = DefWindowProcW;
@@ -56,7 +56,7 @@ TEST(OtherProcess, TakesTheForegroundUnlessItIsLocked)
     EXPECT_TRUE(log.Is({WM_ACTIVATEAPP, WM_NCACTIVATE, WM_ACTIVATE, WM_SETFOCUS, WM_KILLFOCUS},
                        {"own WM_ACTIVATEAPP 1", "own WM_NCACTIVATE 1", "own WM_ACTIVATE 1", "own WM_SETFOCUS"}));
     EXPECT_TRUE(LockSetForegroundWindow(LSFW_LOCK));
-    Pc().ActAs(kAgent, [&] { EXPECT_FALSE(SetForegroundWindow(theirs)); });
+    Pc().ActAs(agent, [&] { EXPECT_FALSE(SetForegroundWindow(theirs)); });
     EXPECT_EQ(GetForegroundWindow(), own);
     Screen().MouseMove(50, 90);
     EXPECT_EQ(Screen().WindowAt({50, 90}), own);

@@ -7,7 +7,7 @@
 namespace tests {
 
 namespace {
-constexpr auto* kClass = TEXT("ControlParent");
+constexpr auto* parentClass = TEXT("ControlParent");
 }
 
 ControlParent::ControlParent()
@@ -16,9 +16,9 @@ ControlParent::ControlParent()
     windowClass.cbSize = sizeof windowClass;
     windowClass.lpfnWndProc = Procedure;
     windowClass.hInstance = GetModuleHandleW(nullptr);
-    windowClass.lpszClassName = kClass;
+    windowClass.lpszClassName = parentClass;
     RegisterClassExW(&windowClass);
-    window_ = CreateWindowExW(0, kClass, TEXT("Parent"), WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50, 50, 600, 400, nullptr, nullptr,
+    window_ = CreateWindowExW(0, parentClass, TEXT("Parent"), WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50, 50, 600, 400, nullptr, nullptr,
                               windowClass.hInstance, nullptr);
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
@@ -27,7 +27,7 @@ ControlParent::~ControlParent()
 {
     SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
     DestroyWindow(window_);
-    UnregisterClassW(kClass, GetModuleHandleW(nullptr));
+    UnregisterClassW(parentClass, GetModuleHandleW(nullptr));
 }
 
 HWND ControlParent::Add(LPCWSTR className, DWORD style, LPCWSTR text, int width, int height)

@@ -7,7 +7,7 @@ namespace tests {
 
 namespace {
 
-constexpr const WCHAR* kClassName = TEXT("MessageLogWindow");
+constexpr const WCHAR* className = TEXT("MessageLogWindow");
 MessageLog* current = nullptr;
 
 struct MessageName {
@@ -20,7 +20,7 @@ std::vector<MessageName> Named(auto... names)
 }
 
 #define NAMED(message) MessageName(message, #message)
-const std::vector<MessageName> kNames =
+const std::vector<MessageName> expectedMessages =
     Named(NAMED(WM_NCCREATE), NAMED(WM_NCCALCSIZE), NAMED(WM_CREATE), NAMED(WM_DESTROY), NAMED(WM_NCDESTROY), NAMED(WM_MOVE),
           NAMED(WM_SIZE), NAMED(WM_SHOWWINDOW), NAMED(WM_WINDOWPOSCHANGING), NAMED(WM_WINDOWPOSCHANGED), NAMED(WM_PARENTNOTIFY),
           NAMED(WM_ACTIVATE), NAMED(WM_NCACTIVATE), NAMED(WM_ACTIVATEAPP), NAMED(WM_CHILDACTIVATE), NAMED(WM_SETFOCUS), NAMED(WM_KILLFOCUS),
@@ -30,8 +30,8 @@ const std::vector<MessageName> kNames =
           NAMED(WM_RBUTTONUP), NAMED(WM_CONTEXTMENU), NAMED(WM_KEYDOWN), NAMED(WM_KEYUP), NAMED(WM_CHAR), NAMED(WM_SYSKEYDOWN),
           NAMED(WM_SYSKEYUP), NAMED(WM_SYSCHAR), NAMED(WM_UPDATEUISTATE), NAMED(WM_THEMECHANGED), NAMED(WM_SYSCOLORCHANGE));
 /// Left out unless asked for.
-const std::vector<MessageName> kOptionalNames = Named(NAMED(WM_PAINT), NAMED(WM_ERASEBKGND), NAMED(WM_NCPAINT), NAMED(WM_SETCURSOR),
-                                                      NAMED(WM_NCHITTEST), NAMED(WM_GETTEXT), NAMED(WM_GETMINMAXINFO));
+const std::vector<MessageName> optionalMessages = Named(NAMED(WM_PAINT), NAMED(WM_ERASEBKGND), NAMED(WM_NCPAINT), NAMED(WM_SETCURSOR),
+                                                        NAMED(WM_NCHITTEST), NAMED(WM_GETTEXT), NAMED(WM_GETMINMAXINFO));
 #undef NAMED
 
 const MessageName* Find(std::span<const MessageName> names, UINT message)
@@ -43,8 +43,8 @@ const MessageName* Find(std::span<const MessageName> names, UINT message)
 /// Messages whose wParam says which of two opposite things happens carry it in their text.
 std::string Describe(UINT message, WPARAM wParam)
 {
-    const MessageName* usual = Find(kNames, message);
-    const std::string text = (usual ? usual : Find(kOptionalNames, message))->name;
+    const MessageName* usual = Find(expectedMessages, message);
+    const std::string text = (usual ? usual : Find(optionalMessages, message))->name;
     switch (message) {
         case WM_ACTIVATE:
         case WM_NCACTIVATE:
@@ -75,7 +75,7 @@ MessageLog::MessageLog()
     windowClass.lpfnWndProc = Procedure;
     windowClass.hInstance = GetModuleHandleW(nullptr);
     windowClass.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_BTNFACE + 1));
-    windowClass.lpszClassName = kClassName;
+    windowClass.lpszClassName = className;
     RegisterClassExW(&windowClass);
 }
 
@@ -84,7 +84,7 @@ MessageLog::~MessageLog()
     for (const Window& window : windows_)
         if (IsWindow(window.handle))
             DestroyWindow(window.handle);
-    UnregisterClassW(kClassName, GetModuleHandleW(nullptr));
+    UnregisterClassW(className, GetModuleHandleW(nullptr));
     current = nullptr;
 }
 
@@ -93,7 +93,7 @@ HWND MessageLog::Create(const char* name, DWORD style, HWND parent, RECT place, 
     creating_ = name;
     const std::string narrow = name;
     const std::basic_string<WCHAR> text(narrow.begin(), narrow.end());
-    const HWND window = CreateWindowExW(exStyle, kClassName, text.c_str(), style, place.left, place.top, place.right - place.left,
+    const HWND window = CreateWindowExW(exStyle, className, text.c_str(), style, place.left, place.top, place.right - place.left,
                                         place.bottom - place.top, parent, nullptr, GetModuleHandleW(nullptr), nullptr);
     creating_.clear();
     return window;
@@ -108,7 +108,7 @@ std::string MessageLog::NameOf(HWND window) const
 
 bool MessageLog::Wanted(UINT message) const
 {
-    return Find(kNames, message) || std::ranges::find(also_, message) != also_.end();
+    return Find(expectedMessages, message) || std::ranges::find(also_, message) != also_.end();
 }
 
 LRESULT CALLBACK MessageLog::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)

@@ -7,12 +7,12 @@ namespace tests {
 namespace {
 
 /// Windows needs a moment to hand input on.
-constexpr DWORD kMoment = 30;
+constexpr DWORD moment = 30;
 
 void Send(INPUT input)
 {
     EXPECT_EQ(SendInput(1, &input, sizeof input), 1u);
-    PumpMessages(kMoment);
+    PumpMessages(moment);
 }
 
 INPUT Mouse(DWORD flags)

@@ -10,8 +10,8 @@ namespace agent {
 
 namespace {
 
-constexpr DWORD STEP_MILLISECONDS = 300;
-constexpr DWORD STEPS = 5;
+constexpr DWORD stepMilliseconds = 300;
+constexpr DWORD steps = 5;
 WCHAR serviceName[] = TEXT("Velmora");
 SERVICE_STATUS_HANDLE statusHandle;
 base::KernelHandle stopRequested;
@@ -23,15 +23,15 @@ void Report(DWORD state, DWORD checkPoint = 0)
     status.dwCurrentState = state;
     status.dwControlsAccepted = state == SERVICE_RUNNING ? SERVICE_ACCEPT_STOP : 0;
     status.dwCheckPoint = checkPoint;
-    status.dwWaitHint = checkPoint ? STEP_MILLISECONDS * 10 : 0;
+    status.dwWaitHint = checkPoint ? stepMilliseconds * 10 : 0;
     SetServiceStatus(statusHandle, &status);
 }
 
 void TakeTime(DWORD pendingState)
 {
-    for (DWORD checkPoint = 1; checkPoint <= STEPS; ++checkPoint) {
+    for (DWORD checkPoint = 1; checkPoint <= steps; ++checkPoint) {
         Report(pendingState, checkPoint);
-        Sleep(STEP_MILLISECONDS);
+        Sleep(stepMilliseconds);
     }
 }
 

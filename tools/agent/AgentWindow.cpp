@@ -6,8 +6,8 @@ namespace agent {
 
 namespace {
 
-constexpr WCHAR MAIN_CLASS[] = TEXT("VelmoraAgent");
-constexpr WCHAR IDENTIFICATION_CLASS[] = TEXT("VelmoraAgentIdentification");
+constexpr WCHAR mainClass[] = TEXT("VelmoraAgent");
+constexpr WCHAR identificationClass[] = TEXT("VelmoraAgentIdentification");
 
 LRESULT CALLBACK MainProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
@@ -40,9 +40,9 @@ void RegisterWindowClass(HINSTANCE instance, const WCHAR* name, WNDPROC procedur
 
 int RunWindow(HINSTANCE instance, bool hidden)
 {
-    RegisterWindowClass(instance, MAIN_CLASS, &MainProcedure);
-    RegisterWindowClass(instance, IDENTIFICATION_CLASS, &IdentificationProcedure);
-    const HWND window = CreateWindowExW(0, MAIN_CLASS, TEXT("Velmora"), WS_OVERLAPPEDWINDOW & ~WS_THICKFRAME, 420, 80, 320, 110, nullptr,
+    RegisterWindowClass(instance, mainClass, &MainProcedure);
+    RegisterWindowClass(instance, identificationClass, &IdentificationProcedure);
+    const HWND window = CreateWindowExW(0, mainClass, TEXT("Velmora"), WS_OVERLAPPEDWINDOW & ~WS_THICKFRAME, 420, 80, 320, 110, nullptr,
                                         nullptr, instance, nullptr);
     if (!window)
         return 1;
@@ -51,7 +51,7 @@ int RunWindow(HINSTANCE instance, bool hidden)
     if (!hidden)
         ShowWindow(window, SW_SHOWNORMAL);
     // Owned by the main window, so that it is not taken for a main window itself.
-    CreateWindowExW(0, IDENTIFICATION_CLASS, TEXT("VELMORA-IDENTIFICATION-WINDOW"), WS_POPUP, 0, 0, 0, 0, window, nullptr, instance,
+    CreateWindowExW(0, identificationClass, TEXT("VELMORA-IDENTIFICATION-WINDOW"), WS_POPUP, 0, 0, 0, 0, window, nullptr, instance,
                     nullptr);
 
     MSG message;

@@ -11,9 +11,9 @@ namespace desk {
 
 namespace {
 
-constexpr std::u16string_view kAgent = u"C:\\Tools\\Velmora.exe";
-constexpr std::u16string_view kSettings = u"C:\\Tools\\Velmora.ini";
-constexpr std::u16string_view kRunKey = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
+constexpr std::u16string_view agentExe = u"C:\\Tools\\Velmora.exe";
+constexpr std::u16string_view settingsFile = u"C:\\Tools\\Velmora.ini";
+constexpr std::u16string_view runKey = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
 
 std::string Utf8(std::u16string_view text)
 {
@@ -32,18 +32,18 @@ std::string Utf8(std::u16string_view text)
 
 std::string DescribeServices(platform::SimPc& pc)
 {
-    static constexpr const char* kStates[] = {"unknown", "stopped", "starting", "stopping", "running", "continuing", "pausing", "paused"};
-    static constexpr const char* kStarts[] = {"boot", "system", "automatic", "manual", "disabled"};
+    static constexpr const char* states[] = {"unknown", "stopped", "starting", "stopping", "running", "continuing", "pausing", "paused"};
+    static constexpr const char* starts[] = {"boot", "system", "automatic", "manual", "disabled"};
     const platform::Service* const service = pc.Get<platform::Services>().Find(u"Velmora");
     if (!service)
         return "no service Velmora\n";
-    return "service Velmora: " + std::string(kStates[service->state]) + ", " + kStarts[service->startType] + ", " + Utf8(service->path) +
+    return "service Velmora: " + std::string(states[service->state]) + ", " + starts[service->startType] + ", " + Utf8(service->path) +
            ", " + Utf8(service->account) + "\n";
 }
 
 std::string DescribeRegistry(platform::SimPc& pc)
 {
-    const auto value = pc.Get<platform::Registry>().GetText(HKEY_LOCAL_MACHINE, kRunKey, u"Velmora");
+    const auto value = pc.Get<platform::Registry>().GetText(HKEY_LOCAL_MACHINE, runKey, u"Velmora");
     return value ? "Run\\Velmora = " + Utf8(*value) + "\n" : "no value Run\\Velmora\n";
 }
 
@@ -69,7 +69,7 @@ std::string DescribeMessages(platform::SimPc& pc)
 
 void Prepare(platform::SimPc& pc)
 {
-    platform::AgentProgram::Install(pc, kAgent);
+    platform::AgentProgram::Install(pc, agentExe);
     pc.Get<platform::Services>().DefaultTimes(1500, 1500);
 }
 
@@ -84,7 +84,7 @@ std::string Describe(platform::SimPc& pc, const std::string& what)
     if (what == "messages")
         return DescribeMessages(pc);
     if (what == "settings")
-        return pc.Get<platform::Volumes>().ReadFile(kSettings).value_or("no settings file") + "\n";
+        return pc.Get<platform::Volumes>().ReadFile(settingsFile).value_or("no settings file") + "\n";
     return {};
 }
 
