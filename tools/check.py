@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # Holds the tree against the rules of the house: arrows between rooms, headers that stand alone, the list of Windows functions, formatting.
-"""Usage: tools/check.py [--write]   (--write renews platform/winapi.list)"""
+"""Usage: tools/check.py [--write | --arrows]   (--write renews platform/winapi.list, --arrows prints which folder includes which)"""
 import concurrent.futures
 import os
 import re
@@ -18,6 +18,42 @@ ARROWS = {
     'helpers': {'base'},
     'app': {'helpers', 'toolkit', 'controls', 'host', 'base'},
 }
+# Inside a room: the folders below each one; it may include those, and what they may include. A folder stands after all that are below it, so
+# that no circle can be written down. The file that makes the controls known to a factory is a folder of its own here: it names them all.
+CONTROLS = ['CheckBox', 'CommandButton', 'Frame', 'TextBox']
+FOLDERS = {
+    'controls': [],
+    **{f'controls/{name}': ['controls'] for name in CONTROLS},
+    'controls/RegisterControls': [f'controls/{name}' for name in CONTROLS],
+    'app/helpers': [],
+    'app': ['app/helpers'],
+    # The stand-in PC. Everything up to windows only keeps state; from messages on, windows hear of what happens.
+    **{f'platform/src/{area}': [f'platform/src/{lower}' for lower in below] for area, below in {
+        'core': [],
+        'text': ['core'],
+        'memory': ['core'],
+        'machine': ['core'],
+        'user': ['text', 'memory', 'machine'],
+        'registry': ['user'],
+        'file': ['user'],
+        'path': ['file'],
+        'profile': ['file'],
+        'gdi': ['core'],
+        'window': ['gdi', 'text'],
+        'message': ['window'],
+        'input': ['message'],
+        'behaviour': ['input'],
+        'process': ['behaviour', 'file'],
+        'service': ['process'],
+        'module': ['process'],
+        'theme': ['module', 'behaviour'],
+        'classes': ['theme'],
+        'shell': ['window', 'memory'],
+        'ole': ['input', 'shell'],
+    }.items()},
+}
+# What the tests' hands do stands on top of all areas.
+FOLDERS['platform/sim'] = [folder for folder in FOLDERS if folder.startswith('platform/src/')]
 CODE = ('.h', '.cpp')
 # Pages whose C++ blocks are lines of a test program.
 EXAMPLES = {'docs/toolkit.md': 'tests/toolkit/Examples.cpp'}
@@ -51,6 +87,52 @@ def check_arrows(files):
                 target = room_of(match[1])
                 if target != room and target not in ARROWS[room]:
                     yield f'{path}:{number}: the room {room} may not see {target}'
+
+
+def folder_of(path, files):
+    """The entry of FOLDERS that a file belongs to. A header of platform/sim is part of the area that implements it."""
+    name = path.rsplit('.', 1)[0]
+    if name.startswith('platform/sim/'):
+        areas = [file for file in files if file.startswith('platform/src/') and file.endswith(f'/{os.path.basename(name)}.cpp')]
+        if path.endswith('.h') and areas:
+            name = areas[0]
+    inside = [folder for folder in FOLDERS if name == folder or name.startswith(folder + '/')]
+    return max(inside, key=len, default=None)
+
+
+def folder_arrows(files):
+    """Every include between two folders of one room, as (including file, line, its folder, the folder of the header)."""
+    folders = {path: folder_of(path, files) for path in files if path.endswith(CODE)}
+    for path, folder in folders.items():
+        for number, line in enumerate(read(path).splitlines() if folder else [], 1):
+            match = re.match(r'\s*#\s*include\s+"([^"]+/[^"]+)"', line)
+            target = folders.get(match[1]) if match else None
+            if target and target != folder and room_of(match[1]) == room_of(path):
+                yield path, number, folder, target
+
+
+def check_folders(files):
+    below = {}
+    for folder, direct in FOLDERS.items():
+        for lower in direct:
+            if lower not in below:
+                yield f'tools/check.py: {folder} stands before {lower}, which it may include: the folders go in a circle'
+        below[folder] = set(direct).union(*(below.get(lower, set()) for lower in direct))
+    for path in files:
+        if path.startswith(('platform/src/', 'platform/sim/')) and path.endswith(CODE) and not folder_of(path, files):
+            yield f'{path}: in no folder that tools/check.py knows'
+    for path, number, folder, target in folder_arrows(files):
+        if target not in below[folder]:
+            yield f'{path}:{number}: {folder} may not include {target}'
+
+
+def print_folder_arrows(files):
+    arrows = {}
+    for _, _, folder, target in folder_arrows(files):
+        arrows.setdefault(folder, set()).add(target)
+    for folder in FOLDERS:
+        if folder in arrows:
+            print(f'{folder:26} -> {" ".join(os.path.basename(target) for target in FOLDERS if target in arrows[folder])}')
 
 
 def check_first_lines_and_marks(files):
@@ -134,7 +216,9 @@ def check_format(files):
 def main():
     os.chdir(subprocess.run(['git', 'rev-parse', '--show-toplevel'], capture_output=True, text=True, check=True).stdout.strip())
     files = tracked_files()
-    problems = [*check_arrows(files), *check_first_lines_and_marks(files), *check_functions(files, '--write' in sys.argv[1:]),
+    if '--arrows' in sys.argv[1:]:
+        return print_folder_arrows(files)
+    problems = [*check_arrows(files), *check_folders(files), *check_first_lines_and_marks(files), *check_functions(files, '--write' in sys.argv[1:]),
                 *check_examples(), *check_format(files), *check_headers_alone(files)]
     for problem in problems:
         print(problem)

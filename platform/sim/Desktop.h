@@ -20,7 +20,7 @@ enum KeyShift : int { kNoShift = 0, kShift = 1, kControl = 2, kAlt = 4 };
 
 class Desktop : public Area {
 public:
-    explicit Desktop(SimPc& pc);
+    using Area::Area;
 
     // -- The screen: one monitor, whose bottom 40 pixels belong to the taskbar --
 
@@ -29,7 +29,6 @@ public:
     void Dpi(int dotsPerInch);
     /// Pixels (1280 x 800).
     [[nodiscard]] SIZE ScreenSize() const;
-    void ScreenSize(SIZE size);
     [[nodiscard]] RECT WorkArea() const;
 
     // -- What the user does. Each step lets everybody handle what it causes (`SimPc::Settle`). Points are screen pixels --
@@ -55,7 +54,7 @@ public:
     void ClickCloseBox(HWND window);
 
     /// Called when a thread of another process takes WM_QUIT from its queue: its message loop has ended.
-    std::function<void(Actor thread, int exitCode)> OnQuit;
+    void OnQuit(std::function<void(Actor thread, int exitCode)> action);
 
     // -- What can be seen --
 
@@ -75,9 +74,6 @@ public:
     /// The window below a point of the screen that takes part in mouse input.
     [[nodiscard]] HWND WindowAt(POINT screen) const;
     [[nodiscard]] POINT CursorPosition() const;
-    /// Times that MessageBeep was called.
-    [[nodiscard]] int Beeps() const { return beeps_; }
-    void CountBeep() { ++beeps_; }
     /// Timers that are running for a process.
     [[nodiscard]] std::size_t TimersOf(DWORD process) const;
 
@@ -89,27 +85,15 @@ public:
     /// A thread that handles no messages: posted ones wait, sent ones with a time limit run into it (ERROR_TIMEOUT).
     void Hang(Actor thread, bool hangs = true);
     /// Whether keyboard cues (access key underlines, focus rectangles) are always shown (SPI_GETKEYBOARDCUES; off).
-    [[nodiscard]] bool KeyboardCues() const { return keyboardCues_; }
-    void KeyboardCues(bool shown) { keyboardCues_ = shown; }
+    void KeyboardCues(bool shown);
 
     /// Face name of the font of captions, menus and messages (SPI_GETNONCLIENTMETRICS; "Segoe UI").
-    [[nodiscard]] const std::u16string& MessageFont() const { return messageFont_; }
-    void MessageFont(std::u16string faceName) { messageFont_ = std::move(faceName); }
+    void MessageFont(std::u16string faceName);
     /// Gives the program's module an icon resource of this name, so that LoadImageW and LoadIconW find it.
-    void AddIconResource(std::u16string name) { iconResources_.push_back(std::move(name)); }
-    [[nodiscard]] bool HasIconResource(std::u16string_view name) const;
-
-    /// Adds a window class of the system, known to every process. `cursor` is an IDC_ name.
-    void RegisterSystemClass(LPCWSTR name, WNDPROC procedure, UINT style, int extraBytes, LPCWSTR cursor = IDC_ARROW,
-                             HBRUSH background = nullptr);
+    void AddIconResource(std::u16string name);
 
 private:
     void Settle();
-
-    bool keyboardCues_ = false;
-    int beeps_ = 0;
-    std::u16string messageFont_ = u"Segoe UI";
-    std::vector<std::u16string> iconResources_;
 };
 
 }  // namespace platform

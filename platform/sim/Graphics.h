@@ -1,9 +1,9 @@
-// Graphics: the drawing side of the stand-in PC. Device contexts on images, GDI objects, system colours, fonts, resolution.
+// Graphics: the drawing side of the stand-in PC. Device contexts on images, GDI objects, system colours, fonts.
 #pragma once
 
 #include "platform/sim/Image.h"
-#include "platform/sim/Region.h"
 #include "platform/sim/SimPc.h"
+#include "platform/src/gdi/Region.h"
 
 #include <wingdi.h>
 
@@ -62,9 +62,6 @@ public:
 
     // -- Settings --
 
-    /// Dots per inch in both directions (96).
-    [[nodiscard]] int Dpi() const { return dpi_; }
-    void Dpi(int dotsPerInch) { dpi_ = dotsPerInch; }
     /// COLOR_SCROLLBAR (0) .. COLOR_MENUBAR (30) as COLORREF. 0 for other numbers.
     [[nodiscard]] COLORREF SystemColor(int index) const;
     void SystemColor(int index, COLORREF color);
@@ -74,9 +71,6 @@ public:
     [[nodiscard]] HGDIOBJ StockObject(int index) const;
     /// Index of the stock bitmap that every new memory device context holds.
     static constexpr int kDefaultBitmap = 21;
-    /// Width and height that GetDeviceCaps reports.
-    [[nodiscard]] SIZE ScreenSize() const { return screenSize_; }
-    void ScreenSize(SIZE size) { screenSize_ = size; }
 
     /// The font families that the PC knows, in the order in which they are enumerated.
     struct Family {
@@ -99,8 +93,6 @@ public:
     void AddText(DrawnText text) { texts_.push_back(std::move(text)); }
 
 private:
-    int dpi_ = 96;
-    SIZE screenSize_{1024, 768};
     std::array<COLORREF, 31> colors_{};
     std::array<HBRUSH, 31> brushes_{};
     std::map<int, HGDIOBJ> stock_;

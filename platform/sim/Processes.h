@@ -61,8 +61,9 @@ public:
     explicit Processes(SimPc& pc);
     ~Processes() override;
 
-    /// The program under test: "C:\Tools\Velmora Setup Utility.exe" until told otherwise; the file is put there.
+    /// The program under test.
     [[nodiscard]] Process& Own() { return *own_; }
+    /// It was started from another path; the file is put there.
     void OwnImage(std::u16string_view path);
 
     /// Makes an executable file that starts `make(processId)`.

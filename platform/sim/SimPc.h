@@ -41,7 +41,8 @@ protected:
 
 class SimPc {
 public:
-    SimPc();
+    /// `program` is the path of the program under test.
+    explicit SimPc(std::u16string program = u"C:\\Tools\\Program.exe");
     ~SimPc();
     SimPc(const SimPc&) = delete;
     SimPc& operator=(const SimPc&) = delete;
@@ -87,6 +88,8 @@ public:
         action();
     }
 
+    [[nodiscard]] const std::u16string& Program() const { return program_; }
+
     /// The calling thread's last error.
     [[nodiscard]] DWORD LastError() const { return lastError_; }
     void LastError(DWORD error) { lastError_ = error; }
@@ -117,6 +120,8 @@ public:
     void ForgetComplaints() { complaints_.clear(); }
 
 private:
+    /// `Current` is this PC from now on.
+    void SwitchOn();
     static std::size_t NextAreaIndex();
     template <class T>
     static std::size_t AreaIndex()
@@ -125,6 +130,7 @@ private:
         return index;
     }
 
+    std::u16string program_;
     SimClock clock_;
     Faults faults_;
     CallTrace trace_;

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "app/Form1.h"
-#include "platform/sim/AgentProgram.h"
 #include "platform/sim/SimPc.h"
+#include "tests/support/AgentProgram.h"
 
 #include <memory>
 #include <optional>
@@ -56,7 +56,7 @@ public:
     void SetAutoStart(std::u16string_view text);
 
     platform::SimPc& pc;
-    std::shared_ptr<platform::AgentHabits> agent;
+    std::shared_ptr<AgentHabits> agent;
 
 private:
     host::ControlFactory factory_;

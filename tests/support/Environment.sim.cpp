@@ -1,6 +1,7 @@
 #include "tests/support/Environment.h"
 
 #include "platform/sim/SimPc.h"
+#include "tests/support/AgentProgram.h"
 #include "tests/support/FaultSweep.h"
 
 #include <gtest/gtest.h>
@@ -30,7 +31,7 @@ void SwitchOff()
 
 void SwitchOn()
 {
-    pc = std::make_unique<platform::SimPc>();
+    pc = std::make_unique<platform::SimPc>(utilityPath);
 }
 
 /// Gives each test a PC of its own.

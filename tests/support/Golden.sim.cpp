@@ -1,7 +1,7 @@
 #include "tests/support/Golden.h"
 
 #include "platform/sim/Graphics.h"
-#include "platform/sim/Png.h"
+#include "tests/support/Png.h"
 
 #include <gtest/gtest.h>
 
@@ -26,7 +26,7 @@ std::filesystem::path Save(const std::string& set, const std::string& name, cons
 {
     const std::filesystem::path path = root / "build/golden" / set / (name + ".png");
     std::filesystem::create_directories(path.parent_path());
-    platform::WritePng(picture, path.string());
+    tests::WritePng(picture, path.string());
     return path;
 }
 

@@ -33,9 +33,8 @@ void HelperProcess::Start(const std::string& script)
         thread_ = processes.AddThread(id);
         processes.FindThread(thread_)->suspended = 1;
     }
-    pc.Get<platform::Desktop>().OnQuit = [&processes](platform::Actor actor, int code) {
-        processes.End(actor.process, static_cast<DWORD>(code));
-    };
+    pc.Get<platform::Desktop>().OnQuit(
+        [&processes](platform::Actor actor, int code) { processes.End(actor.process, static_cast<DWORD>(code)); });
     pc.Block(0);
 }
 

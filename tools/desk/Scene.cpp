@@ -1,17 +1,16 @@
 #include "tools/desk/Scene.h"
 
-#include "platform/sim/AgentProgram.h"
 #include "platform/sim/MessageBoxes.h"
 #include "platform/sim/Processes.h"
 #include "platform/sim/Registry.h"
 #include "platform/sim/Services.h"
 #include "platform/sim/Volumes.h"
+#include "tests/support/AgentProgram.h"
 
 namespace desk {
 
 namespace {
 
-constexpr std::u16string_view agentExe = u"C:\\Tools\\Velmora.exe";
 constexpr std::u16string_view settingsFile = u"C:\\Tools\\Velmora.ini";
 constexpr std::u16string_view runKey = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
 
@@ -69,7 +68,7 @@ std::string DescribeMessages(platform::SimPc& pc)
 
 void Prepare(platform::SimPc& pc)
 {
-    platform::AgentProgram::Install(pc, agentExe);
+    tests::AgentProgram::Install(pc);
     pc.Get<platform::Services>().DefaultTimes(1500, 1500);
 }
 

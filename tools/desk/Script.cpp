@@ -1,7 +1,7 @@
 #include "tools/desk/Script.h"
 
 #include "platform/sim/Desktop.h"
-#include "platform/sim/Png.h"
+#include "tests/support/Png.h"
 #include "tools/desk/Scene.h"
 
 #include <cctype>
@@ -79,7 +79,7 @@ std::string Perform(platform::SimPc& pc, host::Form& form, const std::string& li
     else if (verb == "close")
         desktop.ClickCloseBox(form.hWnd());
     else if (verb == "snapshot")
-        return platform::WritePng(desktop.Snapshot(form.hWnd()), rest) ? "" : "? cannot write " + rest + "\n";
+        return tests::WritePng(desktop.Snapshot(form.hWnd()), rest) ? "" : "? cannot write " + rest + "\n";
     else if (verb == "show") {
         const std::string text = Describe(pc, rest);
         return text.empty() ? "? nothing to show of " + rest + "\n" : text;

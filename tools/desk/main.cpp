@@ -2,6 +2,7 @@
 #include "app/Form1.h"
 #include "controls/RegisterControls.h"
 #include "host/MessageLoop.h"
+#include "tests/support/AgentProgram.h"
 #include "tools/desk/Scene.h"
 #include "tools/desk/Script.h"
 
@@ -9,7 +10,7 @@
 
 int main()
 {
-    platform::SimPc pc;
+    platform::SimPc pc(tests::utilityPath);
     desk::Prepare(pc);
     pc.OnPump([] { host::MessageLoop::RunPending(); });
 

@@ -1,7 +1,7 @@
 // Gallery: pictures from words.
 #include "tools/gallery/Gallery.h"
 
-#include "platform/sim/Png.h"
+#include "tests/support/Png.h"
 #include "tools/gallery/Face.h"
 #include "tools/gallery/Sheet.h"
 
@@ -21,7 +21,7 @@ int Complain(const std::string& what)
 
 int Save(const platform::Image& picture, std::string_view file)
 {
-    return platform::WritePng(picture, std::string(file)) ? 0 : Complain("cannot write " + std::string(file));
+    return tests::WritePng(picture, std::string(file)) ? 0 : Complain("cannot write " + std::string(file));
 }
 
 int DrawOne(std::span<const std::string_view> words, std::string_view file)

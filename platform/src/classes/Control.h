@@ -3,7 +3,7 @@
 
 #include "platform/sim/Graphics.h"
 #include "platform/sim/SimPc.h"
-#include "platform/src/window/Inner.h"
+#include "platform/src/behaviour/Inner.h"
 
 #include <windows.h>
 

@@ -1,5 +1,5 @@
 // EditChange: everything that changes the text of an Edit, and what the parent hears of it.
-#include "platform/sim/Clipboard.h"
+#include "platform/src/classes/Clipboard.h"
 #include "platform/src/classes/Edit.h"
 #include "platform/src/text/Case.h"
 

@@ -1,5 +1,4 @@
 // EditInput: keys and mouse in an Edit.
-#include "platform/sim/Desktop.h"
 #include "platform/src/classes/Edit.h"
 
 #include <algorithm>
@@ -25,11 +24,6 @@ constexpr char16_t kControlBackspace = 127;
 bool Held(int key)
 {
     return inner::GetKeyState(key) < 0;
-}
-
-void Beep()
-{
-    SimPc::Current().Get<Desktop>().CountBeep();
 }
 
 }  // namespace
@@ -70,10 +64,8 @@ void Edit::TypeCharacter(char16_t character)
     }
     if (readOnly_ || character == kControlBackspace || (character < u' ' && !(character == kTab && multiLine_)))
         return;
-    if (Has(ES_NUMBER) && !(character >= u'0' && character <= u'9')) {
-        Beep();
+    if (Has(ES_NUMBER) && !(character >= u'0' && character <= u'9'))
         return;
-    }
     ReplaceSelection({&character, 1}, EditText::Record::Typed);
 }
 

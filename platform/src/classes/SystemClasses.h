@@ -5,10 +5,8 @@
 
 namespace platform {
 
-class Desktop;
-
-/// Makes the system's classes known to every process. The desktop calls it once.
-void RegisterSystemClasses(Desktop& desktop);
+/// Makes the classes that the system brings along known, when the PC is switched on.
+void RegisterSystemClasses();
 
 LRESULT CALLBACK ButtonProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT CALLBACK EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

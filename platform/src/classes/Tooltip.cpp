@@ -1,9 +1,10 @@
 // Tooltip: when a tip comes, where it stands and when it goes.
 #include "platform/src/classes/Tooltip.h"
 
-#include "platform/sim/Desktop.h"
 #include "platform/src/classes/SystemClasses.h"
 #include "platform/src/core/Gate.h"
+#include "platform/src/gdi/Screen.h"
+#include "platform/src/input/Hardware.h"
 #include "platform/src/window/Window.h"
 
 #include <algorithm>
@@ -69,10 +70,10 @@ int Tooltip::ToolAt(HWND window, POINT client) const
 
 bool Tooltip::MouseIsOn(const Tool& tool) const
 {
-    const auto& desktop = SimPc::Current().Get<Desktop>();
     const HWND window = WindowOfTool(tool);
-    const POINT point = inner::MapPoint(nullptr, window, desktop.CursorPosition());
-    return desktop.WindowAt(desktop.CursorPosition()) == window && ((tool.flags & TTF_IDISHWND) || Holds(tool.rectangle, point));
+    const Window* under = WindowUnder(Queues().cursor);
+    const POINT point = inner::MapPoint(nullptr, window, Queues().cursor);
+    return under && under->handle == window && ((tool.flags & TTF_IDISHWND) || Holds(tool.rectangle, point));
 }
 
 void Tooltip::Relay(HWND tool, UINT message, LPARAM lParam)
@@ -152,9 +153,8 @@ void Tooltip::Pop()
 
 POINT Tooltip::PlaceFor(const Tool& tool, SIZE size) const
 {
-    const auto& desktop = SimPc::Current().Get<Desktop>();
-    const RECT area = desktop.WorkArea();
-    POINT place = desktop.CursorPosition();
+    const RECT area = SimPc::Current().Get<Screen>().WorkArea();
+    POINT place = Queues().cursor;
     place.y += kCursorHeight;
     if (tool.flags & TTF_CENTERTIP) {
         const RECT rectangle = tool.flags & TTF_IDISHWND ? inner::GetClientRect(WindowOfTool(tool)) : tool.rectangle;

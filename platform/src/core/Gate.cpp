@@ -21,6 +21,12 @@ struct LastCall {
 };
 LastCall lastCall;
 
+/// Traces and faults are about the program under test. What other programs do in a scene is not its doing.
+bool IsOthers(const SimPc& pc)
+{
+    return pc.CurrentActor().process != SimPc::Own().process;
+}
+
 }  // namespace
 
 std::string Describe(const WCHAR* text)
@@ -61,13 +67,14 @@ void Gate::Count(SimPc& pc, const char* function)
 
 void Gate::Record(SimPc& pc, const char* function, std::string arguments)
 {
-    pc.Trace().Add(CallRecord{function, std::move(arguments)});
+    if (!IsOthers(pc))
+        pc.Trace().Add(CallRecord{function, std::move(arguments)});
 }
 
 bool Gate::Strike(const char* function, DWORD error)
 {
     SimPc& pc = SimPc::Current();
-    if (!pc.GetFaults().Strikes(function, error))
+    if (IsOthers(pc) || !pc.GetFaults().Strikes(function, error))
         return false;
     pc.LastError(error);
     return true;

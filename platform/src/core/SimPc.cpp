@@ -13,7 +13,7 @@ namespace {
 SimPc* current = nullptr;
 }
 
-SimPc::SimPc()
+void SimPc::SwitchOn()
 {
     assert(!current && "one stand-in PC at a time");
     current = this;
@@ -94,14 +94,6 @@ void SimPc::Unsupported(std::string what)
 {
     complaints_.push_back(std::move(what));
     lastError_ = ERROR_CALL_NOT_IMPLEMENTED;
-}
-
-std::vector<CallRecord> CallTrace::Of(std::string_view name) const
-{
-    std::vector<CallRecord> found;
-    std::copy_if(records_.begin(), records_.end(), std::back_inserter(found),
-                 [&](const CallRecord& record) { return record.name == name; });
-    return found;
 }
 
 }  // namespace platform

@@ -1,7 +1,6 @@
 // Files by handle. https://learn.microsoft.com/windows/win32/api/fileapi/
 #include "platform/src/core/Gate.h"
 #include "platform/src/file/FileNode.h"
-#include "platform/src/process/ProcessHandle.h"
 #include "platform/src/text/Buffers.h"
 
 #include <windows.h>

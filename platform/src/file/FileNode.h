@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/sim/Volumes.h"
-#include "platform/src/process/KernelObject.h"
+#include "platform/src/core/KernelObject.h"
 #include "platform/src/text/Case.h"
 
 #include <map>

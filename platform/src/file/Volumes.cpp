@@ -28,7 +28,7 @@ Volumes::Volumes(SimPc& pc) : Area(pc)
     for (const char16_t* folder :
          {u"Desktop", u"Documents", u"AppData\\Roaming\\Microsoft\\Windows\\Start Menu\\Programs\\Startup", u"AppData\\Local\\Temp"})
         MakeFolder(u"C:\\Users\\Anna\\" + std::u16string(folder));
-    WriteFile(u"C:\\Tools\\Velmora Setup Utility.exe", "MZ");
+    WriteFile(pc.Program(), "MZ");
     SetRights(u"C:\\Users\\Anna", {});
     SetRights(u"C:\\Tools", {});
 }

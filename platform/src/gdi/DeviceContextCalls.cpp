@@ -1,6 +1,7 @@
 // Device contexts of memory, and what all device contexts remember: colours, modes, origins.
 #include "platform/src/core/Gate.h"
 #include "platform/src/gdi/DeviceContext.h"
+#include "platform/src/gdi/Screen.h"
 
 #include <windows.h>
 
@@ -28,8 +29,8 @@ int WINAPI GetDeviceCaps(HDC dc, int index)
     const auto context = FindDc(dc);
     if (!context)
         return 0;
-    const Graphics& graphics = SimPc::Current().Get<Graphics>();
-    const DeviceContext::Device device = context->device.value_or(DeviceContext::Device{graphics.Dpi(), graphics.ScreenSize()});
+    const Screen& screen = SimPc::Current().Get<Screen>();
+    const DeviceContext::Device device = context->device.value_or(DeviceContext::Device{screen.Dpi(), screen.Size()});
     const auto millimetres = [&](LONG pixels) { return static_cast<int>(pixels * 254 / device.dpi / 10); };
     switch (index) {
         case TECHNOLOGY:

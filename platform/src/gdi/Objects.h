@@ -4,7 +4,7 @@
 #include "platform/sim/Graphics.h"
 #include "platform/sim/HandleTable.h"
 #include "platform/sim/Image.h"
-#include "platform/sim/Region.h"
+#include "platform/src/gdi/Region.h"
 
 #include <memory>
 #include <utility>

@@ -1,5 +1,5 @@
 // Region: set algebra on bands of rectangles.
-#include "platform/sim/Region.h"
+#include "platform/src/gdi/Region.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // Region: ellipses and rounded rectangles as rows of pixels.
-#include "platform/sim/Region.h"
+#include "platform/src/gdi/Region.h"
 
 #include <algorithm>
 #include <cmath>

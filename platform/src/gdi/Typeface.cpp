@@ -1,6 +1,8 @@
 // Typeface: scaling and measuring.
 #include "platform/src/gdi/Typeface.h"
 
+#include "platform/src/gdi/Screen.h"
+
 #include <algorithm>
 
 namespace platform {
@@ -56,7 +58,7 @@ Typeface::Typeface(const LOGFONTW& font)
       weight_(font.lfWeight ? font.lfWeight : FW_NORMAL)
 {
     // A negative height is that of the characters, a positive one that of the cell; 0 asks for the default of 12 points.
-    const int wanted = font.lfHeight ? font.lfHeight : -Rounded(12 * SimPc::Current().Get<Graphics>().Dpi(), 72);
+    const int wanted = font.lfHeight ? font.lfHeight : -Rounded(12 * SimPc::Current().Get<Screen>().Dpi(), 72);
     height_ = wanted < 0 ? Rounded(-wanted * kCellHeight, kCellAscent) : wanted;
     height_ = std::max(height_, 1);
     emHeight_ = wanted < 0 ? -wanted : Rounded(height_ * kCellAscent, kCellHeight);
@@ -116,7 +118,7 @@ TEXTMETRICW Typeface::Metrics() const
     metrics.tmAveCharWidth = fixedPitch_ ? Advance(u'x') : averageWidth_;
     metrics.tmMaxCharWidth = fixedPitch_ ? Advance(u'x') : Advance(u'@');
     metrics.tmWeight = weight_;
-    metrics.tmDigitizedAspectX = metrics.tmDigitizedAspectY = SimPc::Current().Get<Graphics>().Dpi();
+    metrics.tmDigitizedAspectX = metrics.tmDigitizedAspectY = SimPc::Current().Get<Screen>().Dpi();
     metrics.tmFirstChar = u' ';
     metrics.tmLastChar = u'\u20AC';
     metrics.tmDefaultChar = u'\u25A1';

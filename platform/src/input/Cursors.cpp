@@ -1,12 +1,13 @@
 // Cursors and icons: the system's own, and those of the program's resources.
 #include "platform/src/input/Cursors.h"
 
-#include "platform/sim/Desktop.h"
 #include "platform/sim/Graphics.h"
 #include "platform/src/core/Gate.h"
 #include "platform/src/message/MessageQueues.h"
+#include "platform/src/text/Case.h"
 #include "platform/src/window/Metrics.h"
 
+#include <algorithm>
 #include <map>
 
 namespace platform {
@@ -67,7 +68,7 @@ bool IsStockName(LPCWSTR name)
 
 bool IsProgramIcon(HINSTANCE instance, LPCWSTR name)
 {
-    return instance && !IS_INTRESOURCE(name) && SimPc::Current().Get<Desktop>().HasIconResource(name);
+    return instance && !IS_INTRESOURCE(name) && SimPc::Current().Get<ProgramIcons>().Has(name);
 }
 
 std::uint32_t ColorOf(std::u16string_view name)
@@ -83,6 +84,11 @@ std::uint32_t ColorOf(std::u16string_view name)
 HCURSOR StockCursor(LPCWSTR name)
 {
     return Stock().Get(IMAGE_CURSOR, reinterpret_cast<ULONG_PTR>(name));
+}
+
+bool ProgramIcons::Has(std::u16string_view name) const
+{
+    return std::any_of(names_.begin(), names_.end(), [&](const std::u16string& known) { return SameName(known, name); });
 }
 
 }  // namespace platform
@@ -135,6 +141,5 @@ HCURSOR WINAPI SetCursor(HCURSOR cursor)
 BOOL WINAPI MessageBeep(UINT type)
 {
     SIM_CALL(FALSE, ERROR_ACCESS_DENIED, type);
-    SimPc::Current().Get<Desktop>().CountBeep();
     return TRUE;
 }

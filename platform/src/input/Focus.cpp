@@ -2,8 +2,7 @@
 
 #include "platform/src/core/Gate.h"
 #include "platform/src/input/Hardware.h"
-#include "platform/src/window/Inner.h"
-#include "platform/src/window/Placement.h"
+#include "platform/src/input/Inner.h"
 
 namespace platform {
 
@@ -106,7 +105,7 @@ bool Activate(Window& window, UINT how)
             return false;
     }
     input->active = window.handle;
-    RaiseWithOwned(window);
+    Tree().Raise(window);
     if (newProgram)
         AnnounceProgram(window.actor, true, 0);
     const HWND handle = window.handle;

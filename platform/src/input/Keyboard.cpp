@@ -1,7 +1,7 @@
 // The keyboard: which window gets a key, what message that makes, and what character a key types.
 #include "platform/src/core/Gate.h"
 #include "platform/src/input/Hardware.h"
-#include "platform/src/window/Inner.h"
+#include "platform/src/input/Inner.h"
 
 #include <string_view>
 

@@ -2,8 +2,8 @@
 #include "platform/src/core/Gate.h"
 #include "platform/src/input/Focus.h"
 #include "platform/src/input/Hardware.h"
-#include "platform/src/window/Inner.h"
-#include "platform/src/window/Placement.h"
+#include "platform/src/input/Inner.h"
+#include "platform/src/message/ParentNotify.h"
 
 #include <cstdlib>
 

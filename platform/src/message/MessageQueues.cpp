@@ -1,17 +1,9 @@
 // The queues of all threads.
 #include "platform/src/message/MessageQueues.h"
 
-#include "platform/sim/Desktop.h"
-#include "platform/src/window/Inner.h"
-
 #include <algorithm>
 
 namespace platform {
-
-MessageQueues::MessageQueues(SimPc& pc) : Area(pc)
-{
-    pc.AddBackground([this] { return RunOthers(); });
-}
 
 ThreadQueue& MessageQueues::Of(Actor actor)
 {
@@ -25,6 +17,11 @@ ThreadQueue& MessageQueues::Of(Actor actor)
 ThreadQueue& MessageQueues::Current()
 {
     return Of(pc_.CurrentActor());
+}
+
+bool MessageQueues::Hangs(const Window& window)
+{
+    return window.actor != pc_.CurrentActor() && Of(window).hangs;
 }
 
 void MessageQueues::Post(ThreadQueue& queue, HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -59,34 +56,6 @@ void MessageQueues::Forget(DWORD process)
             pc_.Clock().Cancel(timer.ticket);
         queue.timers.clear();
     }
-}
-
-bool MessageQueues::RunOthers()
-{
-    if (running_)
-        return false;
-    queues_.remove_if([](const ThreadQueue& queue) { return queue.ended && queue.handlingSent == 0; });
-    running_ = true;
-    bool worked = false;
-    for (ThreadQueue& queue : queues_) {
-        if (queue.hangs || queue.ended || queue.actor.process == SimPc::Own().process)
-            continue;
-        pc_.ActAs(queue.actor, [&] {
-            MSG message;
-            while (inner::PeekMessage(message, nullptr, 0, 0, PM_REMOVE)) {
-                worked = true;
-                if (message.message == WM_QUIT) {
-                    if (auto& onQuit = pc_.Get<Desktop>().OnQuit)
-                        onQuit(queue.actor, static_cast<int>(message.wParam));
-                    break;
-                }
-                inner::TranslateMessage(message);
-                inner::DispatchMessage(message);
-            }
-        });
-    }
-    running_ = false;
-    return worked;
 }
 
 MessageQueues& Queues()

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <deque>
+#include <functional>
 #include <list>
 
 namespace platform {
@@ -69,11 +70,13 @@ struct ThreadQueue {
 
 class MessageQueues : public Area {
 public:
-    explicit MessageQueues(SimPc& pc);
+    using Area::Area;
 
     [[nodiscard]] ThreadQueue& Of(Actor actor);
     [[nodiscard]] ThreadQueue& Of(const Window& window) { return Of(window.actor); }
     [[nodiscard]] ThreadQueue& Current();
+    /// Whether a message that the running thread sent to the window would find nobody who handles it.
+    [[nodiscard]] bool Hangs(const Window& window);
     [[nodiscard]] std::list<ThreadQueue>& All() { return queues_; }
 
     /// The input state of the process in the foreground.
@@ -92,13 +95,12 @@ public:
     void Forget(const Window& window);
     /// A process has ended: its queues go too.
     void Forget(DWORD process);
-    /// Lets the threads of other processes handle what waits for them. True when something was handled.
-    bool RunOthers();
+    /// Called when a thread of another process takes WM_QUIT from its queue: its message loop has ended.
+    std::function<void(Actor thread, int exitCode)> onQuit;
 
 private:
     std::list<ThreadQueue> queues_;
     std::shared_ptr<InputState> foreground_;
-    bool running_ = false;
 };
 
 [[nodiscard]] MessageQueues& Queues();

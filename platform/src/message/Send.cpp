@@ -1,8 +1,7 @@
 // Sending messages: to windows of the own process at once, to those of others as that process.
 #include "platform/src/core/Gate.h"
+#include "platform/src/message/Inner.h"
 #include "platform/src/message/MessageQueues.h"
-#include "platform/src/message/Waiting.h"
-#include "platform/src/window/Inner.h"
 
 namespace platform {
 
@@ -21,11 +20,6 @@ LRESULT Call(const WindowPtr& window, WNDPROC procedure, UINT message, WPARAM wP
     return result;
 }
 
-bool Hangs(const Window& window)
-{
-    return window.actor != SimPc::Current().CurrentActor() && Queues().Of(window).hangs;
-}
-
 }  // namespace
 
 namespace inner {
@@ -35,7 +29,7 @@ LRESULT SendMessage(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
     const WindowPtr window = RequireWindow(handle);
     if (!window || !window->procedure)
         return 0;
-    if (Hangs(*window)) {
+    if (Queues().Hangs(*window)) {
         SimPc::Current().Unsupported("a message sent without a time limit to a thread that hangs");
         return 0;
     }
@@ -81,23 +75,6 @@ LRESULT WINAPI SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     return inner::SendMessage(window, message, wParam, lParam);
 }
 
-LRESULT WINAPI SendMessageTimeoutW(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT flags, UINT timeout, DWORD_PTR* result)
-{
-    SIM_CALL(0, ERROR_TIMEOUT, window, message, wParam, lParam, flags, timeout);
-    const WindowPtr found = RequireWindow(window);
-    if (!found)
-        return 0;
-    if (Hangs(*found)) {
-        if (!(flags & SMTO_ABORTIFHUNG))
-            PassTime(timeout);
-        return SimPc::Current().Fail(ERROR_TIMEOUT, 0);
-    }
-    const LRESULT answer = inner::SendMessage(window, message, wParam, lParam);
-    if (result)
-        *result = static_cast<DWORD_PTR>(answer);
-    return 1;
-}
-
 BOOL WINAPI PostMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     SIM_CALL(FALSE, ERROR_INVALID_WINDOW_HANDLE, window, message, wParam, lParam);
@@ -114,10 +91,4 @@ LRESULT WINAPI CallWindowProcW(WNDPROC procedure, HWND window, UINT message, WPA
 {
     SIM_NOTE(window, message, wParam, lParam);
     return inner::CallWindowProc(procedure, window, message, wParam, lParam);
-}
-
-LRESULT WINAPI DefWindowProcW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    SIM_NOTE(window, message, wParam, lParam);
-    return inner::DefWindowProc(window, message, wParam, lParam);
 }

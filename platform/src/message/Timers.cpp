@@ -1,7 +1,7 @@
 // Timers of windows and threads. They mark themselves due; the queue makes WM_TIMER of that when nothing else waits.
 #include "platform/src/core/Gate.h"
+#include "platform/src/message/Inner.h"
 #include "platform/src/message/MessageQueues.h"
-#include "platform/src/window/Inner.h"
 
 #include <algorithm>
 

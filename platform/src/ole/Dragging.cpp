@@ -3,9 +3,9 @@
 
 #include "platform/src/core/Gate.h"
 #include "platform/src/input/Hardware.h"
+#include "platform/src/input/Inner.h"
 #include "platform/src/memory/Blocks.h"
 #include "platform/src/ole/ForeignDrag.h"
-#include "platform/src/window/Inner.h"
 
 using namespace platform;
 

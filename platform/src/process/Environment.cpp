@@ -1,6 +1,6 @@
 // Environment variables. https://learn.microsoft.com/windows/win32/api/processenv/
-#include "platform/sim/EnvironmentBlock.h"
 #include "platform/src/core/Gate.h"
+#include "platform/src/process/EnvironmentBlock.h"
 #include "platform/src/text/Buffers.h"
 #include "platform/src/text/Case.h"
 

@@ -1,7 +1,7 @@
 // Mutex: one named or nameless mutex, and a handle to it.
 #pragma once
 
-#include "platform/src/process/KernelObject.h"
+#include "platform/src/core/KernelObject.h"
 
 #include <memory>
 

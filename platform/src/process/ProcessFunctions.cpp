@@ -40,11 +40,6 @@ std::shared_ptr<Process> FindProcess(HANDLE handle, DWORD anyAccess)
     return opened->process;
 }
 
-HANDLE OpenHandle(SimPc& pc, std::shared_ptr<KernelObject> object)
-{
-    return AsHandle<HANDLE>(pc.Handles().Open(std::move(object)));
-}
-
 }  // namespace platform
 
 HANDLE WINAPI OpenProcess(DWORD access, BOOL inherit, DWORD processId)

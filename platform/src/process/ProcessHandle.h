@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/sim/Processes.h"
-#include "platform/src/process/KernelObject.h"
+#include "platform/src/core/KernelObject.h"
 
 namespace platform {
 
@@ -28,9 +28,6 @@ public:
 /// Empty with the last error set: 6 no such handle, 5 not granted.
 [[nodiscard]] std::shared_ptr<Process> FindProcess(HANDLE handle, DWORD anyAccess);
 [[nodiscard]] std::shared_ptr<Thread> FindThread(HANDLE handle, DWORD anyAccess);
-
-/// Opens a handle that the program has to close.
-[[nodiscard]] HANDLE OpenHandle(SimPc& pc, std::shared_ptr<KernelObject> object);
 
 /// What both kinds of query right open.
 inline constexpr DWORD kQueryProcess = PROCESS_QUERY_INFORMATION | PROCESS_QUERY_LIMITED_INFORMATION;

@@ -1,12 +1,10 @@
 #include "platform/sim/Processes.h"
 
-#include "platform/sim/Desktop.h"
 #include "platform/sim/Volumes.h"
+#include "platform/src/behaviour/Inner.h"
 #include "platform/src/message/MessageQueues.h"
 #include "platform/src/process/Mutex.h"
 #include "platform/src/text/Case.h"
-#include "platform/src/window/Inner.h"
-#include "platform/src/window/Window.h"
 
 #include <algorithm>
 
@@ -33,7 +31,7 @@ std::shared_ptr<Process> MakeProcess(DWORD id, std::u16string_view image)
 Processes::Processes(SimPc& pc) : Area(pc)
 {
     const Actor own = SimPc::Own();
-    own_ = MakeProcess(own.process, u"C:\\Tools\\Velmora Setup Utility.exe");
+    own_ = MakeProcess(own.process, pc.Program());
     own_->threads.front()->id = own.thread;
     running_[own.process] = own_;
 }
@@ -85,8 +83,9 @@ void Processes::End(DWORD id, DWORD exitCode)
     running_.erase(found);
     ended_[id] = process;
     pc_.ActAs(process->MainActor(), [&] {
-        for (const HWND window : pc_.Get<Desktop>().WindowsOf(id))
-            inner::DestroyWindow(window);
+        for (const WindowPtr& window : Tree().All())
+            if (window->actor.process == id)
+                inner::DestroyWindow(window->handle);
     });
     pc_.Get<MessageQueues>().Forget(id);
 }

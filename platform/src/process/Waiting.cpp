@@ -1,5 +1,7 @@
 // Kernel handles: closing them, waiting for them; mutexes. https://learn.microsoft.com/windows/win32/api/synchapi/
+#include "platform/src/input/Waiting.h"
 #include "platform/src/core/Gate.h"
+#include "platform/src/input/Retrieval.h"
 #include "platform/src/process/Mutex.h"
 #include "platform/src/process/ProcessHandle.h"
 #include "platform/src/text/Buffers.h"
@@ -11,8 +13,20 @@
 using namespace platform;
 
 namespace {
+
 /// Longer than any scene lasts; a wait without end that is not over by then never will be.
 constexpr DWORD kLongEnough = 10 * 60 * 1000;
+
+/// The waitable object behind a handle; empty with the last error set when there is none.
+std::shared_ptr<KernelObject> FindWaitable(HANDLE handle)
+{
+    SimPc& pc = SimPc::Current();
+    auto object = pc.Handles().Find<KernelObject>(handle);
+    if (!object || !object->Waitable())
+        return pc.Fail(object ? ERROR_ACCESS_DENIED : ERROR_INVALID_HANDLE, std::shared_ptr<KernelObject>());
+    return object;
+}
+
 }  // namespace
 
 namespace platform {
@@ -26,15 +40,6 @@ void MutexHandle::WaitEnded()
 {
     mutex->owner = SimPc::Current().CurrentActor().thread;
     ++mutex->depth;
-}
-
-std::shared_ptr<KernelObject> FindWaitable(HANDLE handle)
-{
-    SimPc& pc = SimPc::Current();
-    auto object = pc.Handles().Find<KernelObject>(handle);
-    if (!object || !object->Waitable())
-        return pc.Fail(object ? ERROR_ACCESS_DENIED : ERROR_INVALID_HANDLE, std::shared_ptr<KernelObject>());
-    return object;
 }
 
 }  // namespace platform
@@ -61,6 +66,45 @@ DWORD WINAPI WaitForSingleObject(HANDLE object, DWORD milliseconds)
         return WAIT_TIMEOUT;
     pc.Unsupported("WaitForSingleObject waits for ever");
     return WAIT_FAILED;
+}
+
+DWORD WINAPI MsgWaitForMultipleObjects(DWORD count, const HANDLE* handles, BOOL waitAll, DWORD milliseconds, DWORD wakeMask)
+{
+    SIM_CALL(WAIT_FAILED, ERROR_INVALID_HANDLE, count, handles, waitAll, milliseconds, wakeMask);
+    SimPc& pc = SimPc::Current();
+    std::vector<std::shared_ptr<KernelObject>> objects;
+    for (DWORD index = 0; index < count; ++index) {
+        objects.push_back(FindWaitable(handles[index]));
+        if (!objects.back())
+            return WAIT_FAILED;
+    }
+    ThreadQueue& queue = Queues().Current();
+    const std::uint64_t end = milliseconds == INFINITE ? 0 : pc.Clock().Now() + milliseconds;
+    while (true) {
+        const bool input = ((queue.fresh | (WaitingTypes(queue) & (QS_PAINT | QS_TIMER))) & wakeMask) != 0;
+        const auto signalled = [](const auto& object) { return object->Signalled(); };
+        if (waitAll && count > 0) {
+            if (input && std::all_of(objects.begin(), objects.end(), signalled)) {
+                for (const auto& object : objects)
+                    object->WaitEnded();
+                return 0;
+            }
+        } else {
+            const auto first = std::find_if(objects.begin(), objects.end(), signalled);
+            if (first != objects.end()) {
+                (*first)->WaitEnded();
+                return static_cast<DWORD>(first - objects.begin());
+            }
+            if (input)
+                return count;
+        }
+        if (milliseconds != INFINITE && pc.Clock().Now() >= end)
+            return WAIT_TIMEOUT;
+        if (!LetSomethingHappen(milliseconds == INFINITE ? kForever : end - pc.Clock().Now())) {
+            pc.Unsupported("MsgWaitForMultipleObjects: nothing will ever come");
+            return WAIT_FAILED;
+        }
+    }
 }
 
 HANDLE WINAPI CreateMutexW(LPSECURITY_ATTRIBUTES, BOOL initialOwner, LPCWSTR name)

@@ -2,8 +2,8 @@
 #include "platform/sim/Theme.h"
 #include "platform/src/core/Gate.h"
 #include "platform/src/gdi/Text.h"
+#include "platform/src/message/Inner.h"
 #include "platform/src/theme/ThemeParts.h"
-#include "platform/src/window/Inner.h"
 
 #include <windows.h>
 

@@ -1,7 +1,6 @@
 // Tokens and their privileges. https://learn.microsoft.com/windows/win32/api/securitybaseapi/
 #include "platform/sim/Users.h"
 #include "platform/src/core/Gate.h"
-#include "platform/src/process/ProcessHandle.h"
 #include "platform/src/text/Buffers.h"
 #include "platform/src/user/Token.h"
 
@@ -27,27 +26,7 @@ DWORD SizeFor(std::size_t privileges)
     return static_cast<DWORD>(offsetof(TOKEN_PRIVILEGES, Privileges) + privileges * sizeof(LUID_AND_ATTRIBUTES));
 }
 
-DWORD MapGenericToken(DWORD access)
-{
-    if ((access & (GENERIC_ALL | MAXIMUM_ALLOWED)) != 0)
-        return TOKEN_ALL_ACCESS;
-    return access;
-}
-
 }  // namespace
-
-BOOL WINAPI OpenProcessToken(HANDLE process, DWORD access, PHANDLE token)
-{
-    SIM_CALL(FALSE, ERROR_ACCESS_DENIED, process, access);
-    SimPc& pc = SimPc::Current();
-    const auto opened = FindProcess(process, PROCESS_QUERY_INFORMATION);
-    if (!opened)
-        return FALSE;
-    if (opened->id != SimPc::Own().process)
-        return pc.Fail(ERROR_ACCESS_DENIED, FALSE);
-    *token = AsHandle<HANDLE>(pc.Handles().Open(std::make_shared<Token>(MapGenericToken(access), std::nullopt)));
-    return TRUE;
-}
 
 BOOL WINAPI ImpersonateSelf(SECURITY_IMPERSONATION_LEVEL level)
 {
@@ -60,19 +39,6 @@ BOOL WINAPI RevertToSelf()
 {
     SIM_NOTE();
     SimPc::Current().Get<Users>().Impersonation(std::nullopt);
-    return TRUE;
-}
-
-BOOL WINAPI OpenThreadToken(HANDLE thread, DWORD access, BOOL asSelf, PHANDLE token)
-{
-    SIM_CALL(FALSE, ERROR_NO_TOKEN, thread, access, asSelf);
-    SimPc& pc = SimPc::Current();
-    if (!FindThread(thread, THREAD_QUERY_INFORMATION))
-        return FALSE;
-    const auto impersonation = pc.Get<Users>().Impersonation();
-    if (!impersonation)
-        return pc.Fail(ERROR_NO_TOKEN, FALSE);
-    *token = AsHandle<HANDLE>(pc.Handles().Open(std::make_shared<Token>(MapGenericToken(access), impersonation)));
     return TRUE;
 }
 

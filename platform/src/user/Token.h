@@ -1,7 +1,7 @@
 // Token: a handle to the access token of the program.
 #pragma once
 
-#include "platform/src/process/KernelObject.h"
+#include "platform/src/core/KernelObject.h"
 
 #include <winnt.h>
 

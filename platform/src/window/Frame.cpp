@@ -3,7 +3,7 @@
 #include "platform/sim/Graphics.h"
 #include "platform/src/core/Gate.h"
 #include "platform/src/window/Metrics.h"
-#include "platform/src/window/Painting.h"
+#include "platform/src/window/WindowDcs.h"
 
 #include <algorithm>
 

@@ -1,9 +1,7 @@
 // Where windows are: rectangles, points, shapes.
 #include "platform/sim/Graphics.h"
 #include "platform/src/core/Gate.h"
-#include "platform/src/input/Hardware.h"
 #include "platform/src/window/Inner.h"
-#include "platform/src/window/Painting.h"
 
 namespace platform {
 
@@ -88,30 +86,6 @@ BOOL WINAPI ClientToScreen(HWND window, LPPOINT point)
         return FALSE;
     *point = inner::MapPoint(window, nullptr, *point);
     return TRUE;
-}
-
-int WINAPI SetWindowRgn(HWND window, HRGN region, BOOL redraw)
-{
-    SIM_CALL(0, ERROR_NOT_ENOUGH_MEMORY, window, region, redraw);
-    SimPc& pc = SimPc::Current();
-    const WindowPtr found = RequireWindow(window);
-    if (!found)
-        return 0;
-    std::optional<Region> shape;
-    if (region) {
-        shape = pc.Get<Graphics>().TakeRegion(region);  // The window owns it from here on.
-        if (!shape)
-            return pc.Fail(ERROR_INVALID_HANDLE, 0);
-    }
-    const Region before = VisibleRegion(*found, true, false);
-    found->shape = std::move(shape);
-    UINT flags = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED;
-    if (!redraw)
-        flags |= SWP_NOREDRAW;
-    if (redraw && !found->IsTopLevel())
-        Mark(*found->parent, before.Subtract(VisibleRegion(*found, true, false)), RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
-    inner::SetWindowPos(window, nullptr, 0, 0, 0, 0, flags);
-    return 1;
 }
 
 int WINAPI GetWindowRgn(HWND window, HRGN region)

@@ -1,8 +1,8 @@
 #include "platform/src/window/Metrics.h"
 
-#include "platform/sim/Desktop.h"
-#include "platform/sim/Graphics.h"
 #include "platform/src/core/Gate.h"
+#include "platform/src/gdi/Screen.h"
+#include "platform/src/window/UserSettings.h"
 
 #include <algorithm>
 #include <string_view>
@@ -43,12 +43,11 @@ bool IsScreenSize(int index)
 /// The font that the system uses in captions, menus and messages: 9 points.
 LOGFONTW InterfaceFont()
 {
-    Graphics& graphics = SimPc::Current().Get<Graphics>();
     LOGFONTW font{};
-    font.lfHeight = -(12 * graphics.Dpi() + 48) / 96;
+    font.lfHeight = -(12 * SimPc::Current().Get<Screen>().Dpi() + 48) / 96;
     font.lfWeight = FW_NORMAL;
     font.lfCharSet = DEFAULT_CHARSET;
-    SimPc::Current().Get<Desktop>().MessageFont().copy(font.lfFaceName, LF_FACESIZE - 1);
+    SimPc::Current().Get<UserSettings>().messageFont.copy(font.lfFaceName, LF_FACESIZE - 1);
     return font;
 }
 
@@ -78,10 +77,10 @@ BOOL ParametersInfo(UINT action, PVOID data)
     SimPc& pc = SimPc::Current();
     switch (action) {
         case SPI_GETWORKAREA:
-            *static_cast<RECT*>(data) = pc.Get<Desktop>().WorkArea();
+            *static_cast<RECT*>(data) = pc.Get<Screen>().WorkArea();
             return TRUE;
         case SPI_GETKEYBOARDCUES:
-            *static_cast<BOOL*>(data) = pc.Get<Desktop>().KeyboardCues();
+            *static_cast<BOOL*>(data) = pc.Get<UserSettings>().keyboardCues;
             return TRUE;
         case SPI_GETWHEELSCROLLLINES:
             *static_cast<UINT*>(data) = 3;
@@ -101,13 +100,11 @@ bool KnowsMetric(int index)
 
 int Metric(int index)
 {
-    Graphics& graphics = SimPc::Current().Get<Graphics>();
-    if (IsScreenSize(index)) {
-        const SIZE screen = SimPc::Current().Get<Desktop>().ScreenSize();
-        return index == SM_CXSCREEN || index == SM_CXVIRTUALSCREEN ? screen.cx : screen.cy;
-    }
+    const Screen& screen = SimPc::Current().Get<Screen>();
+    if (IsScreenSize(index))
+        return index == SM_CXSCREEN || index == SM_CXVIRTUALSCREEN ? screen.Size().cx : screen.Size().cy;
     const MetricRow* row = Find(index);
-    return !row ? 0 : row->grows ? (row->value * graphics.Dpi() + 48) / 96 : row->value;
+    return !row ? 0 : row->grows ? (row->value * screen.Dpi() + 48) / 96 : row->value;
 }
 
 }  // namespace platform

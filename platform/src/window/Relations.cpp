@@ -1,10 +1,7 @@
 // Who is whose parent, owner, neighbour; finding and counting windows.
 #include "platform/src/core/Gate.h"
-#include "platform/src/input/Focus.h"
 #include "platform/src/text/Case.h"
 #include "platform/src/window/Inner.h"
-#include "platform/src/window/Painting.h"
-#include "platform/src/window/Placement.h"
 
 #include <algorithm>
 

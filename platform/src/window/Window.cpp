@@ -1,8 +1,7 @@
 // The tree of windows: parents, children and their order from front to back.
 #include "platform/src/window/Window.h"
 
-#include "platform/sim/Desktop.h"
-#include "platform/sim/Graphics.h"
+#include "platform/src/gdi/Screen.h"
 
 #include <algorithm>
 
@@ -33,9 +32,14 @@ bool Window::IsBelow(const Window* ancestor) const
     return false;
 }
 
+POINT OriginOf(const Window& window)
+{
+    return window.IsTopLevel() ? POINT{0, 0} : POINT{window.parent->client.left, window.parent->client.top};
+}
+
 WindowTree::WindowTree(SimPc& pc) : Area(pc), desktop_(MakeRoot(u"#32769")), messageRoot_(MakeRoot(u"Message"))
 {
-    const SIZE screen = pc.Get<Graphics>().ScreenSize();
+    const SIZE screen = pc.Get<Screen>().Size();
     desktop_->frame = desktop_->client = {0, 0, screen.cx, screen.cy};
     desktop_->style |= WS_VISIBLE;
 }
@@ -128,11 +132,18 @@ std::vector<WindowPtr> WindowTree::All() const
     return all;
 }
 
+void WindowTree::Raise(Window& window)
+{
+    Place(window, HWND_TOP);
+    const std::vector<WindowPtr> siblings = Children(*window.parent);
+    for (auto sibling = siblings.rbegin(); sibling != siblings.rend(); ++sibling)
+        if ((*sibling)->owner == &window)
+            Raise(**sibling);
+}
+
 WindowTree& Tree()
 {
-    SimPc& pc = SimPc::Current();
-    (void)pc.Get<class Desktop>();  // It knows the size of the screen and brings the system's classes.
-    return pc.Get<WindowTree>();
+    return SimPc::Current().Get<WindowTree>();
 }
 
 WindowPtr WindowOf(HWND handle)

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "platform/sim/Image.h"
-#include "platform/sim/Region.h"
 #include "platform/sim/SimPc.h"
+#include "platform/src/gdi/Region.h"
 
 #include <windows.h>
 
@@ -98,6 +98,8 @@ public:
     void Remove(Window& window);
     /// Moves a window among its siblings: HWND_TOP, HWND_BOTTOM, HWND_TOPMOST, HWND_NOTOPMOST or a sibling to come after.
     void Place(Window& window, HWND after);
+    /// In front of its siblings; windows that it owns stay in front of it.
+    void Raise(Window& window);
     /// Hangs a window below another parent, on top.
     void Move(Window& window, Window& parent);
     /// Children from top to bottom; safe to walk while windows come and go.
@@ -118,6 +120,9 @@ private:
 [[nodiscard]] WindowPtr WindowOf(HWND handle);
 /// The same; an unknown one sets ERROR_INVALID_WINDOW_HANDLE.
 [[nodiscard]] WindowPtr RequireWindow(HWND handle);
+
+/// The client area of the window above, in screen pixels; positions of children count from its corner.
+[[nodiscard]] POINT OriginOf(const Window& window);
 
 [[nodiscard]] inline RECT Shifted(const RECT& rectangle, int dx, int dy)
 {

@@ -1,7 +1,6 @@
 // Registering window classes and asking about them.
 #include "platform/src/window/WindowClasses.h"
 
-#include "platform/sim/Desktop.h"
 #include "platform/src/core/Gate.h"
 #include "platform/src/text/Case.h"
 
@@ -48,9 +47,7 @@ namespace {
 
 WindowClasses& Classes()
 {
-    SimPc& pc = SimPc::Current();
-    (void)pc.Get<Desktop>();  // It brings the system's classes.
-    return pc.Get<WindowClasses>();
+    return SimPc::Current().Get<WindowClasses>();
 }
 
 }  // namespace

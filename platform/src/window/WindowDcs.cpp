@@ -1,9 +1,10 @@
-// Device contexts of windows and of the screen.
+#include "platform/src/window/WindowDcs.h"
+
 #include "platform/sim/Graphics.h"
 #include "platform/src/core/Gate.h"
 #include "platform/src/gdi/DeviceContext.h"
 #include "platform/src/window/Inner.h"
-#include "platform/src/window/Painting.h"
+#include "platform/src/window/Visibility.h"
 
 #include <algorithm>
 

@@ -1,9 +1,8 @@
 // Showing, hiding, minimising and enabling windows.
+#include "platform/src/behaviour/Inner.h"
+#include "platform/src/behaviour/Placement.h"
 #include "platform/src/core/Gate.h"
 #include "platform/src/input/Focus.h"
-#include "platform/src/window/Inner.h"
-#include "platform/src/window/Painting.h"
-#include "platform/src/window/Placement.h"
 
 namespace platform {
 
@@ -136,18 +135,6 @@ BOOL EnableWindow(HWND handle, BOOL enable)
     return wasDisabled;
 }
 
-BOOL IsWindowEnabled(HWND handle)
-{
-    const WindowPtr window = RequireWindow(handle);
-    return window && !(window->style & WS_DISABLED);
-}
-
-BOOL IsWindowVisible(HWND handle)
-{
-    const WindowPtr window = RequireWindow(handle);
-    return window && window->IsShown();
-}
-
 }  // namespace inner
 
 }  // namespace platform
@@ -164,16 +151,4 @@ BOOL WINAPI EnableWindow(HWND window, BOOL enable)
 {
     SIM_NOTE(window, enable);
     return inner::EnableWindow(window, enable);
-}
-
-BOOL WINAPI IsWindowEnabled(HWND window)
-{
-    SIM_NOTE(window);
-    return inner::IsWindowEnabled(window);
-}
-
-BOOL WINAPI IsWindowVisible(HWND window)
-{
-    SIM_NOTE(window);
-    return inner::IsWindowVisible(window);
 }

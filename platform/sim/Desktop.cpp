@@ -1,21 +1,17 @@
 #include "platform/sim/Desktop.h"
 
-#include "platform/sim/Graphics.h"
-#include "platform/src/classes/SystemClasses.h"
+#include "platform/src/behaviour/Inner.h"
+#include "platform/src/gdi/Screen.h"
 #include "platform/src/input/Cursors.h"
 #include "platform/src/input/Hardware.h"
-#include "platform/src/text/Case.h"
 #include "platform/src/window/Frame.h"
-#include "platform/src/window/Inner.h"
-#include "platform/src/window/WindowClasses.h"
+#include "platform/src/window/UserSettings.h"
 
 #include <algorithm>
 
 namespace platform {
 
 namespace {
-
-constexpr int kTaskbarHeight = 40;
 
 UINT ButtonMessage(MouseButton button, bool up)
 {
@@ -47,38 +43,24 @@ std::vector<HWND> Handles(const std::vector<WindowPtr>& windows)
 
 }  // namespace
 
-Desktop::Desktop(SimPc& pc) : Area(pc)
-{
-    ScreenSize({1280, 800});
-    RegisterSystemClasses(*this);
-}
-
 int Desktop::Dpi() const
 {
-    return pc_.Get<Graphics>().Dpi();
+    return pc_.Get<Screen>().Dpi();
 }
 
 void Desktop::Dpi(int dotsPerInch)
 {
-    pc_.Get<Graphics>().Dpi(dotsPerInch);
+    pc_.Get<Screen>().Dpi(dotsPerInch);
 }
 
 SIZE Desktop::ScreenSize() const
 {
-    return pc_.Get<Graphics>().ScreenSize();
-}
-
-void Desktop::ScreenSize(SIZE size)
-{
-    pc_.Get<Graphics>().ScreenSize(size);
-    Window& root = pc_.Get<WindowTree>().Desktop();
-    root.frame = root.client = {0, 0, size.cx, size.cy};
+    return pc_.Get<Screen>().Size();
 }
 
 RECT Desktop::WorkArea() const
 {
-    const SIZE screen = ScreenSize();
-    return {0, 0, screen.cx, screen.cy - kTaskbarHeight};
+    return pc_.Get<Screen>().WorkArea();
 }
 
 void Desktop::Settle()
@@ -292,21 +274,24 @@ void Desktop::Hang(Actor thread, bool hangs)
     Queues().Of(thread).hangs = hangs;
 }
 
-bool Desktop::HasIconResource(std::u16string_view name) const
+void Desktop::OnQuit(std::function<void(Actor thread, int exitCode)> action)
 {
-    return std::any_of(iconResources_.begin(), iconResources_.end(), [&](const std::u16string& known) { return SameName(known, name); });
+    Queues().onQuit = std::move(action);
 }
 
-void Desktop::RegisterSystemClass(LPCWSTR name, WNDPROC procedure, UINT style, int extraBytes, LPCWSTR cursor, HBRUSH background)
+void Desktop::KeyboardCues(bool shown)
 {
-    WindowClass windowClass;
-    windowClass.name = name;
-    windowClass.procedure = procedure;
-    windowClass.style = style;
-    windowClass.windowExtra = extraBytes;
-    windowClass.cursor = StockCursor(cursor);
-    windowClass.background = background;
-    pc_.Get<WindowClasses>().Register(std::move(windowClass));
+    pc_.Get<UserSettings>().keyboardCues = shown;
+}
+
+void Desktop::MessageFont(std::u16string faceName)
+{
+    pc_.Get<UserSettings>().messageFont = std::move(faceName);
+}
+
+void Desktop::AddIconResource(std::u16string name)
+{
+    pc_.Get<ProgramIcons>().Add(std::move(name));
 }
 
 }  // namespace platform

@@ -1,11 +1,13 @@
 // Png: a PNG file with its pixels as they are. It is for looking at; who keeps one packs it with a tool.
-#include "platform/sim/Png.h"
+#include "tests/support/Png.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <string_view>
+#include <vector>
 
-namespace platform {
+namespace tests {
 
 namespace {
 
@@ -63,9 +65,7 @@ void AddChunk(Bytes& file, std::string_view type, const Bytes& content)
     AddBigEndian(file, Crc32(file, start));
 }
 
-}  // namespace
-
-std::vector<std::uint8_t> EncodePng(const Image& image)
+Bytes EncodePng(const platform::Image& image)
 {
     Bytes raw;
     for (int y = 0; y < image.height; ++y) {
@@ -92,7 +92,9 @@ std::vector<std::uint8_t> EncodePng(const Image& image)
     return file;
 }
 
-bool WritePng(const Image& image, const std::string& path)
+}  // namespace
+
+bool WritePng(const platform::Image& image, const std::string& path)
 {
     std::FILE* const file = std::fopen(path.c_str(), "wb");
     if (!file)
@@ -102,4 +104,4 @@ bool WritePng(const Image& image, const std::string& path)
     return std::fclose(file) == 0 && written;
 }
 
-}  // namespace platform
+}  // namespace tests

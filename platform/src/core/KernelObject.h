@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <memory>
+#include <utility>
 
 namespace platform {
 
@@ -27,7 +28,10 @@ private:
     DWORD access_;
 };
 
-/// The waitable object behind a handle, pseudo-handles included; empty with the last error set when there is none.
-[[nodiscard]] std::shared_ptr<KernelObject> FindWaitable(HANDLE handle);
+/// Opens a handle that the program has to close.
+[[nodiscard]] inline HANDLE OpenHandle(SimPc& pc, std::shared_ptr<KernelObject> object)
+{
+    return AsHandle<HANDLE>(pc.Handles().Open(std::move(object)));
+}
 
 }  // namespace platform

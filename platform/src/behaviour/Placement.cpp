@@ -1,12 +1,15 @@
-#include "platform/src/window/Placement.h"
+#include "platform/src/behaviour/Placement.h"
 
+#include "platform/sim/Graphics.h"
+#include "platform/src/behaviour/Inner.h"
+#include "platform/src/behaviour/Painting.h"
 #include "platform/src/core/Gate.h"
 #include "platform/src/input/Focus.h"
 #include "platform/src/input/Hardware.h"
 #include "platform/src/window/Frame.h"
-#include "platform/src/window/Inner.h"
 #include "platform/src/window/Metrics.h"
-#include "platform/src/window/Painting.h"
+#include "platform/src/window/Visibility.h"
+#include "platform/src/window/WindowDcs.h"
 
 #include <algorithm>
 
@@ -131,11 +134,6 @@ void RedrawAfter(Window& window, const WINDOWPOS& position, const RECT& oldFrame
 
 }  // namespace
 
-POINT OriginOf(const Window& window)
-{
-    return window.IsTopLevel() ? POINT{0, 0} : POINT{window.parent->client.left, window.parent->client.top};
-}
-
 LRESULT CalculateClient(Window& window, const RECT& newFrame, bool created, WINDOWPOS* position)
 {
     const WindowPtr keep = window.shared_from_this();
@@ -166,28 +164,6 @@ void SendSizeAndMove(Window& window)
     const POINT origin = OriginOf(window);
     if (WindowOf(handle))
         inner::SendMessage(handle, WM_MOVE, 0, MAKELPARAM(window.client.left - origin.x, window.client.top - origin.y));
-}
-
-void RaiseWithOwned(Window& window)
-{
-    Tree().Place(window, HWND_TOP);
-    const std::vector<WindowPtr> siblings = WindowTree::Children(*window.parent);
-    for (auto sibling = siblings.rbegin(); sibling != siblings.rend(); ++sibling)
-        if ((*sibling)->owner == &window)
-            RaiseWithOwned(**sibling);
-}
-
-void NotifyParents(const Window& window, UINT message, LONG_PTR id, POINT point)
-{
-    WindowPtr level = const_cast<Window&>(window).shared_from_this();
-    while (level && level->IsChildStyle() && !level->IsTopLevel() && !(level->exStyle & WS_EX_NOPARENTNOTIFY)) {
-        const WindowPtr parent = level->parent->shared_from_this();
-        LPARAM parameter = reinterpret_cast<LPARAM>(window.handle);
-        if (message != WM_CREATE && message != WM_DESTROY)
-            parameter = MAKELPARAM(point.x - parent->client.left, point.y - parent->client.top);
-        inner::SendMessage(parent->handle, WM_PARENTNOTIFY, MAKEWPARAM(message, id), parameter);
-        level = WindowOf(parent->handle);
-    }
 }
 
 MINMAXINFO AskMinMax(const Window& window)
@@ -233,7 +209,7 @@ BOOL SetWindowPos(HWND handle, HWND insertAfter, int x, int y, int width, int he
         return FALSE;
     if (!(position.flags & SWP_NOZORDER)) {
         if (position.hwndInsertAfter == HWND_TOP && window->IsTopLevel())
-            RaiseWithOwned(*window);
+            Tree().Raise(*window);
         else
             Tree().Place(*window, position.hwndInsertAfter);
     }
@@ -305,4 +281,28 @@ BOOL WINAPI MoveWindow(HWND window, int x, int y, int width, int height, BOOL re
     SIM_CALL(FALSE, ERROR_INVALID_WINDOW_HANDLE, window, x, y, width, height, repaint);
     const UINT flags = SWP_NOZORDER | SWP_NOACTIVATE | (repaint ? 0 : SWP_NOREDRAW);
     return inner::SetWindowPos(window, nullptr, x, y, width, height, flags);
+}
+
+int WINAPI SetWindowRgn(HWND window, HRGN region, BOOL redraw)
+{
+    SIM_CALL(0, ERROR_NOT_ENOUGH_MEMORY, window, region, redraw);
+    SimPc& pc = SimPc::Current();
+    const WindowPtr found = RequireWindow(window);
+    if (!found)
+        return 0;
+    std::optional<Region> shape;
+    if (region) {
+        shape = pc.Get<Graphics>().TakeRegion(region);  // The window owns it from here on.
+        if (!shape)
+            return pc.Fail(ERROR_INVALID_HANDLE, 0);
+    }
+    const Region before = VisibleRegion(*found, true, false);
+    found->shape = std::move(shape);
+    UINT flags = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED;
+    if (!redraw)
+        flags |= SWP_NOREDRAW;
+    if (redraw && !found->IsTopLevel())
+        Mark(*found->parent, before.Subtract(VisibleRegion(*found, true, false)), RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    inner::SetWindowPos(window, nullptr, 0, 0, 0, 0, flags);
+    return 1;
 }

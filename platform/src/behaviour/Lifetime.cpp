@@ -1,14 +1,15 @@
 // Creating and destroying windows.
-#include "platform/sim/Desktop.h"
-#include "platform/sim/Graphics.h"
+#include "platform/src/behaviour/Inner.h"
+#include "platform/src/behaviour/Placement.h"
 #include "platform/src/core/Gate.h"
+#include "platform/src/gdi/Screen.h"
 #include "platform/src/input/Focus.h"
 #include "platform/src/input/Hardware.h"
 #include "platform/src/message/MessageQueues.h"
-#include "platform/src/window/Inner.h"
-#include "platform/src/window/Painting.h"
-#include "platform/src/window/Placement.h"
+#include "platform/src/message/ParentNotify.h"
+#include "platform/src/window/Visibility.h"
 #include "platform/src/window/WindowClasses.h"
+#include "platform/src/window/WindowDcs.h"
 
 #include <algorithm>
 
@@ -32,7 +33,7 @@ void CompleteStyles(Window& window)
 void CompletePlace(const Window& window, int& x, int& y, int& width, int& height)
 {
     const bool overlapped = !(window.style & (WS_CHILD | WS_POPUP));
-    const RECT area = SimPc::Current().Get<Desktop>().WorkArea();
+    const RECT area = SimPc::Current().Get<Screen>().WorkArea();
     if (x == CW_USEDEFAULT) {
         const int step = overlapped ? 26 * static_cast<int>(1 + window.parent->children.size() % 10) : 0;
         x = y = step;

@@ -1,28 +1,16 @@
-#include "platform/sim/AgentProgram.h"
+#include "tests/support/AgentProgram.h"
 
 #include "platform/sim/Desktop.h"
-#include "platform/src/window/Inner.h"
 
-namespace platform {
+namespace tests {
+
+using platform::Processes;
+using platform::SimPc;
 
 namespace {
 
-constexpr const WCHAR* kClassName = u"VelmoraAgent";
-
-/// The agent's window class, made once a PC.
-class AgentClass : public Area {
-public:
-    explicit AgentClass(SimPc& pc) : Area(pc) {}
-    void Require(WNDPROC procedure)
-    {
-        if (!made_)
-            pc_.Get<Desktop>().RegisterSystemClass(kClassName, procedure, 0, 0);
-        made_ = true;
-    }
-
-private:
-    bool made_ = false;
-};
+constexpr const WCHAR* className = u"VelmoraAgent";
+constexpr const WCHAR* identification = u"VELMORA-IDENTIFICATION-WINDOW";
 
 }  // namespace
 
@@ -48,25 +36,29 @@ void AgentProgram::Start()
 
 void AgentProgram::OpenWindows()
 {
-    pc_.Get<AgentClass>().Require(&AgentProgram::Procedure);
-    const std::u16string identification(kIdentification);
-    const HWND main = inner::CreateWindowEx(0, kClassName, habits_->mainTitle.c_str(), WS_OVERLAPPEDWINDOW | WS_VISIBLE, 60, 60, 300, 200,
-                                            nullptr, nullptr, nullptr, this);
+    WNDCLASSEXW windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.lpfnWndProc = &AgentProgram::Procedure;
+    windowClass.lpszClassName = className;
+    RegisterClassExW(&windowClass);
+    const HWND main = CreateWindowExW(0, className, habits_->mainTitle.c_str(), WS_OVERLAPPEDWINDOW | WS_VISIBLE, 60, 60, 300, 200, nullptr,
+                                      nullptr, nullptr, nullptr);
     // The identification window belongs to the main one, so that it is never taken for the main window itself.
-    inner::CreateWindowEx(0, kClassName, identification.c_str(), WS_POPUP, 0, 0, 1, 1, main, nullptr, nullptr, this);
+    CreateWindowExW(0, className, identification, WS_POPUP, 0, 0, 1, 1, main, nullptr, nullptr, nullptr);
 }
 
 LRESULT CALLBACK AgentProgram::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message != WM_CLOSE)
-        return inner::DefWindowProc(window, message, wParam, lParam);
-    Processes& processes = SimPc::Current().Get<Processes>();
+        return DefWindowProcW(window, message, wParam, lParam);
+    SimPc& pc = SimPc::Current();
+    Processes& processes = pc.Get<Processes>();
     const auto process = processes.OfWindow(window);
     const auto* const agent = dynamic_cast<const AgentProgram*>(process->program.get());
     // Only the main window ends the agent, as the real one's hidden identification window does not handle closing.
-    if (agent && !agent->habits_->ignoresClose && inner::GetText(window) != kIdentification)
+    if (agent && !agent->habits_->ignoresClose && pc.Get<platform::Desktop>().Text(window) != identification)
         processes.End(process->id);
     return 0;
 }
 
-}  // namespace platform
+}  // namespace tests

@@ -14,13 +14,6 @@ inline constexpr UINT kNoClientMove = 0x1000;
 LRESULT CalculateClient(Window& window, const RECT& newFrame, bool created, WINDOWPOS* position);
 /// WM_SIZE and WM_MOVE as the window stands now.
 void SendSizeAndMove(Window& window);
-/// In front of its siblings; windows that it owns stay in front of it.
-void RaiseWithOwned(Window& window);
-/// WM_PARENTNOTIFY to the windows above a child, up to the first that is no child. `point` (screen) is for mouse events, else the window is
-/// told.
-void NotifyParents(const Window& window, UINT message, LONG_PTR id, POINT point);
-/// The client area of the window above, in screen pixels; positions of children count from its corner.
-[[nodiscard]] POINT OriginOf(const Window& window);
 /// WM_GETMINMAXINFO: the sizes that the window allows.
 [[nodiscard]] MINMAXINFO AskMinMax(const Window& window);
 

@@ -9,7 +9,10 @@
 #include <string>
 #include <string_view>
 
-namespace platform {
+namespace tests {
+
+/// Where the utility stands on the stand-in PC.
+inline constexpr const char16_t* utilityPath = u"C:\\Tools\\Velmora Setup Utility.exe";
 
 /// How the agents of one executable behave; may be changed before one starts and while one runs.
 struct AgentHabits {
@@ -20,23 +23,21 @@ struct AgentHabits {
     bool ignoresClose = false;
 };
 
-class AgentProgram : public Program {
+class AgentProgram : public platform::Program {
 public:
-    static constexpr std::u16string_view kIdentification = u"VELMORA-IDENTIFICATION-WINDOW";
-
     /// Puts an agent executable onto the PC. The habits are shared by all processes that it starts.
-    static std::shared_ptr<AgentHabits> Install(SimPc& pc, std::u16string_view path = u"C:\\Tools\\Velmora.exe");
+    static std::shared_ptr<AgentHabits> Install(platform::SimPc& pc, std::u16string_view path = u"C:\\Tools\\Velmora.exe");
 
-    AgentProgram(SimPc& pc, DWORD processId, std::shared_ptr<AgentHabits> habits);
+    AgentProgram(platform::SimPc& pc, DWORD processId, std::shared_ptr<AgentHabits> habits);
     void Start() override;
 
 private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void OpenWindows();
 
-    SimPc& pc_;
+    platform::SimPc& pc_;
     DWORD processId_;
     std::shared_ptr<AgentHabits> habits_;
 };
 
-}  // namespace platform
+}  // namespace tests

@@ -1,7 +1,6 @@
 // Subclassing by the common controls: a chain of procedures in front of a window's own, the newest first.
+#include "platform/src/behaviour/Inner.h"
 #include "platform/src/core/Gate.h"
-#include "platform/src/message/MessageQueues.h"
-#include "platform/src/window/Inner.h"
 
 #include <commctrl.h>
 

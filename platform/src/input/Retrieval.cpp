@@ -1,10 +1,10 @@
-#include "platform/src/message/Retrieval.h"
+#include "platform/src/input/Retrieval.h"
 
 #include "platform/src/core/Gate.h"
 #include "platform/src/input/Hardware.h"
-#include "platform/src/message/Waiting.h"
-#include "platform/src/window/Inner.h"
-#include "platform/src/window/Painting.h"
+#include "platform/src/input/Inner.h"
+#include "platform/src/input/Waiting.h"
+#include "platform/src/window/Visibility.h"
 
 #include <algorithm>
 
