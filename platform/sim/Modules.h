@@ -26,7 +26,7 @@ public:
     void Export(std::u16string_view library, std::string_view name, FARPROC function);
     void RemoveExport(std::u16string_view library, std::string_view name) { Export(library, name, nullptr); }
 
-    /// Version that DllGetVersion of comctl32 tells (6.16).
+    /// Version that DllGetVersion of comctl32 tells (6.16), and that its controls behave as. The program's manifest decides which it gets.
     void CommonControlsVersion(DWORD major, DWORD minor)
     {
         commonControlsMajor_ = major;

@@ -1,4 +1,4 @@
-// Theme: visual styles of the stand-in PC. On, with common controls of version 6, unless a test says otherwise.
+// Theme: visual styles of the stand-in PC. On, unless a test says otherwise.
 #pragma once
 
 #include "platform/sim/Graphics.h"
@@ -19,11 +19,8 @@ public:
     /// Whether this program may use them (IsAppThemed).
     [[nodiscard]] bool AppThemed() const { return appThemed_; }
     void AppThemed(bool themed) { appThemed_ = themed; }
-    /// Major version that comctl32 reports (DllGetVersion): 6 with a manifest, 5 without.
-    [[nodiscard]] int CommonControlsVersion() const { return commonControlsVersion_; }
-    void CommonControlsVersion(int major) { commonControlsVersion_ = major; }
-    /// True when the system's own controls draw with visual styles.
-    [[nodiscard]] bool Works() const { return active_ && appThemed_ && commonControlsVersion_ >= 6; }
+    /// True when the system's own controls draw with visual styles: those of the common controls before version 6 never do.
+    [[nodiscard]] bool Works() const;
 
     /// The class list that SetWindowTheme gave to a window, e.g. "" to switch styles off for it.
     [[nodiscard]] const std::u16string* WindowTheme(HWND window) const;
@@ -36,7 +33,6 @@ public:
 private:
     bool active_ = true;
     bool appThemed_ = true;
-    int commonControlsVersion_ = 6;
     std::map<HWND, std::u16string> windowThemes_;
 };
 

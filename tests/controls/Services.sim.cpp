@@ -6,6 +6,7 @@
 #include "controls/ThemeState.h"
 #include "platform/sim/Desktop.h"
 #include "platform/sim/Graphics.h"
+#include "platform/sim/Modules.h"
 #include "platform/sim/Shell.h"
 #include "platform/sim/Theme.h"
 #include "tests/controls/FormFixture.h"
@@ -44,17 +45,19 @@ TEST(FontRule, FontThatIsNoTrueTypeText_IsReplaced)
 TEST(ThemeState, StylesComeAndGo_WhileTheVersionStays)
 {
     platform::Theme& theme = platform::SimPc::Current().Get<platform::Theme>();
+    platform::Modules& modules = platform::SimPc::Current().Get<platform::Modules>();
     controls::ThemeState state;
-    theme.CommonControlsVersion(6);
+    modules.CommonControlsVersion(5, 82);
     theme.Active(false);
     EXPECT_FALSE(state.IsThemeAvailable());
     theme.Active(true);
+    modules.CommonControlsVersion(6, 16);
     EXPECT_TRUE(state.IsThemeAvailable()) << "nothing was decided while styles were off";
-    theme.CommonControlsVersion(5);
+    modules.CommonControlsVersion(5, 82);
     theme.AppThemed(false);
     EXPECT_FALSE(state.IsThemeAvailable());
     theme.AppThemed(true);
-    EXPECT_TRUE(state.IsThemeAvailable());
+    EXPECT_TRUE(state.IsThemeAvailable()) << "asked once and kept";
 }
 
 class SharedServices : public FormFixture {};

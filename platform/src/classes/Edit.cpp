@@ -1,7 +1,7 @@
 // Edit: how an Edit comes to be, and its answers to messages that change nothing.
 #include "platform/src/classes/Edit.h"
 
-#include "platform/sim/Theme.h"
+#include "platform/sim/Modules.h"
 #include "platform/src/classes/SystemClasses.h"
 #include "platform/src/window/Window.h"
 
@@ -28,7 +28,7 @@ bool Edit::Create(const CREATESTRUCTW& create)
     readOnly_ = (style & ES_READONLY) != 0;
     // The common controls of version 6 show a black circle, older ones an asterisk.
     if ((style & ES_PASSWORD) && !multiLine_)
-        mask_ = SimPc::Current().Get<Theme>().CommonControlsVersion() >= 6 ? u'\u25CF' : u'*';
+        mask_ = SimPc::Current().Get<Modules>().CommonControlsMajor() >= 6 ? u'\u25CF' : u'*';
     return true;
 }
 

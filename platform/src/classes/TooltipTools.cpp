@@ -1,5 +1,5 @@
 // TooltipTools: the tools that a tooltip knows, its texts, colours and delays.
-#include "platform/sim/Theme.h"
+#include "platform/sim/Modules.h"
 #include "platform/src/classes/Tooltip.h"
 #include "platform/src/core/Widths.h"
 
@@ -20,7 +20,7 @@ constexpr int kDefaultInitialDelay = 500;
 bool KnownSize(UINT size)
 {
     // Version 5 of the common controls refuses the record of version 6, which is longer.
-    const bool longest = SimPc::Current().Get<Theme>().CommonControlsVersion() >= 6;
+    const bool longest = SimPc::Current().Get<Modules>().CommonControlsMajor() >= 6;
     return size == TTTOOLINFOW_V1_SIZE || size == TTTOOLINFOW_V2_SIZE || (longest && size == TTTOOLINFOW_V3_SIZE);
 }
 

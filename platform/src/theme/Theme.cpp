@@ -1,9 +1,15 @@
 // Theme: what windows have of visual styles.
 #include "platform/sim/Theme.h"
 
+#include "platform/sim/Modules.h"
 #include "platform/src/theme/ThemeParts.h"
 
 namespace platform {
+
+bool Theme::Works() const
+{
+    return active_ && appThemed_ && pc_.Get<Modules>().CommonControlsMajor() >= 6;
+}
 
 const std::u16string* Theme::WindowTheme(HWND window) const
 {
