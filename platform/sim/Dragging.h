@@ -8,8 +8,6 @@
 #include <ole2.h>
 
 #include <functional>
-#include <map>
-#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -43,24 +41,12 @@ public:
     /// The user drags something of another program. Returns what the target says that it did.
     DWORD DragIn(const Foreign& data, DWORD allowedEffects, const Steps& steps);
 
-    [[nodiscard]] bool IsTarget(HWND window) const { return targets_.count(window) != 0; }
-    [[nodiscard]] bool IsInitialized() const { return !sessions_.empty(); }
-
-    // What the Windows functions do.
-
-    void Enter();
-    bool Leave();
-    HRESULT Register(HWND window, IDropTarget* target);
-    HRESULT Revoke(HWND window);
+    /// The program drags something: the user does what was planned.
     HRESULT Play(IDataObject* data, IDropSource* source, DWORD allowedEffects, DWORD* effect);
 
 private:
-    struct Target;
-    [[nodiscard]] std::shared_ptr<Target> TargetUnder(POINT point) const;
     HRESULT Run(IDataObject* data, IDropSource* source, DWORD allowedEffects, DWORD* effect, const Steps& steps);
 
-    std::vector<std::uintptr_t> sessions_;
-    std::map<HWND, std::uintptr_t> targets_;
     Steps plan_;
     std::vector<std::pair<DWORD, HRESULT>> feedback_;
 };

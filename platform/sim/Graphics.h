@@ -17,16 +17,6 @@
 
 namespace platform {
 
-class DeviceContext;
-
-/// An icon or a cursor: its colours and, per pixel, whether it covers what lies beneath.
-struct Icon : Object {
-    Image color;
-    std::vector<bool> opaque;
-    POINT hotSpot{};
-    bool isIcon = true;
-};
-
 class Graphics : public Area {
 public:
     explicit Graphics(SimPc& pc);
@@ -98,42 +88,6 @@ private:
     std::map<int, HGDIOBJ> stock_;
     std::vector<Family> families_;
     std::vector<DrawnText> texts_;
-};
-
-/// Draws past the gate: what the system itself draws (captions, system controls). Coordinates are those of the device context.
-class Canvas {
-public:
-    /// An open device context, with what is selected into it.
-    explicit Canvas(HDC dc);
-    /// An image of one's own; `origin` is where (0, 0) lies in it, `visible` what may be touched, in image coordinates.
-    Canvas(std::shared_ptr<Image> pixels, POINT origin, const Region& visible);
-    ~Canvas();
-    /// False when the device context is not open; then nothing is drawn.
-    [[nodiscard]] bool IsOpen() const { return dc_ != nullptr; }
-
-    void Fill(const RECT& rectangle, COLORREF color);
-    /// Fills with the brush; system colours may be given as (HBRUSH)(COLOR_x + 1).
-    void Fill(const RECT& rectangle, HBRUSH brush);
-    void Outline(const RECT& rectangle, COLORREF color);
-    /// Without the last point, as LineTo.
-    void Line(POINT from, POINT to, COLORREF color);
-    void Pixel(POINT point, COLORREF color);
-    /// DrawEdge; `rectangle` shrinks with BF_ADJUST.
-    void Edge(RECT& rectangle, UINT edge, UINT flags);
-    void FocusRect(const RECT& rectangle);
-    void Icon(const platform::Icon& icon, int x, int y, int width, int height);
-
-    /// Text with the device context's own font, colours and background mode, as DrawTextW (the DT_ flags). Returns its height.
-    int Text(std::u16string_view text, RECT& rectangle, UINT format);
-    [[nodiscard]] SIZE Measure(std::u16string_view text) const;
-    void Font(HFONT font);
-    void TextColor(COLORREF color);
-    void BackColor(COLORREF color);
-    /// OPAQUE or TRANSPARENT.
-    void BackMode(int mode);
-
-private:
-    std::shared_ptr<DeviceContext> dc_;
 };
 
 }  // namespace platform

@@ -6,14 +6,11 @@
 #include <winerror.h>
 #include <winreg.h>
 
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace platform {
-
-struct KeyNode;
 
 struct RegistryValue {
     DWORD type = REG_NONE;
@@ -29,11 +26,9 @@ class Registry : public Area {
 public:
     enum class View { Bits64, Bits32 };
 
-    /// The "Run" key exists in both views; administrators may write below HKEY_LOCAL_MACHINE, others only read there.
-    explicit Registry(SimPc& pc);
-    ~Registry() override;
+    using Area::Area;
 
-    // -- Scenes: rights do not hold the test back; missing keys are made --
+    // Rights do not hold the test back; missing keys are made.
 
     void Set(HKEY root, std::u16string_view key, std::u16string_view name, RegistryValue value, View view = View::Bits64);
     [[nodiscard]] std::optional<RegistryValue> Get(HKEY root, std::u16string_view key, std::u16string_view name,
@@ -44,19 +39,6 @@ public:
     void Remove(HKEY root, std::u16string_view key, std::u16string_view name, View view = View::Bits64);
     /// Nobody gets these rights on the key from now on; keys that are open keep what they have.
     void Deny(HKEY root, std::u16string_view key, REGSAM access = KEY_ALL_ACCESS, View view = View::Bits64);
-
-    // -- For the registry functions --
-
-    /// The key below another one, made on the way when `create`; NULL when there is none.
-    static std::shared_ptr<KeyNode> Walk(std::shared_ptr<KeyNode> start, std::u16string_view path, bool create);
-    [[nodiscard]] std::shared_ptr<KeyNode> RootOf(HKEY root) const;
-    /// The path below a root as that view has it: 32-bit programs see HKEY_LOCAL_MACHINE\SOFTWARE elsewhere.
-    [[nodiscard]] static std::u16string Redirected(HKEY root, std::u16string_view path, View view);
-    /// NO_ERROR when the user may have these rights on the key.
-    [[nodiscard]] DWORD Check(const KeyNode& key, REGSAM access) const;
-
-private:
-    std::shared_ptr<KeyNode> machine_, user_, classes_, users_;
 };
 
 }  // namespace platform

@@ -7,8 +7,6 @@
 #include <winsvc.h>
 
 #include <cstdint>
-#include <map>
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -39,7 +37,7 @@ class Services : public Area {
 public:
     using Area::Area;
 
-    // -- Scenes: another process is at work. The program under test sees it when it looks --
+    // Another process is at work. The program under test sees it when it looks.
 
     /// Puts a service into the database; its executable need not exist.
     Service& Install(std::u16string_view name, std::u16string_view path);
@@ -53,30 +51,8 @@ public:
     /// Deletes it as DeleteService does: it goes when it has stopped and nobody holds it open.
     void Delete(std::u16string_view name);
     /// How services that are created from now on behave.
-    void DefaultTimes(std::uint64_t start, std::uint64_t stop)
-    {
-        startTime_ = start;
-        stopTime_ = stop;
-    }
-    void DefaultStartFailure(DWORD error) { startFailure_ = error; }
-    [[nodiscard]] std::size_t Count() const { return services_.size(); }
-
-    // -- For the service functions --
-
-    [[nodiscard]] std::shared_ptr<Service> Share(std::u16string_view name) const;
-    [[nodiscard]] std::shared_ptr<Service> WithDisplayName(std::u16string_view displayName) const;
-    std::shared_ptr<Service> Add(Service service);
-    DWORD Start(Service& service);
-    DWORD Stop(Service& service);
-    /// A service may have become ready to go: stopped, deleted, not held open.
-    void Sweep(Service& service);
-
-private:
-    void Settle(Service& service, DWORD pendingState, std::uint64_t delay, DWORD finalState, DWORD exitCode);
-
-    std::map<std::u16string, std::shared_ptr<Service>> services_;  // by upper-cased name
-    std::uint64_t startTime_ = 300, stopTime_ = 200;
-    DWORD startFailure_ = 0;
+    void DefaultTimes(std::uint64_t start, std::uint64_t stop);
+    [[nodiscard]] std::size_t Count() const;
 };
 
 }  // namespace platform

@@ -4,9 +4,7 @@
 #include "platform/sim/SimPc.h"
 
 #include <winbase.h>
-#include <winerror.h>
 
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -15,8 +13,7 @@
 
 namespace platform {
 
-struct FileNode;
-struct Volume;
+class FileTree;
 
 /// File rights of the two kinds of users, as masks.
 struct FileRights {
@@ -31,7 +28,7 @@ public:
     explicit Volumes(SimPc& pc);
     ~Volumes() override;
 
-    // -- Scenes. Paths are absolute, names are compared without regard to case, rights do not hold the test back --
+    // Paths are absolute, names are compared without regard to case, rights do not hold the test back.
 
     /// A further volume: "D:\" or "\\server\share\".
     void AddVolume(std::u16string_view root, bool persistentAcls = true);
@@ -52,7 +49,6 @@ public:
     void SetRights(std::u16string_view path, FileRights rights);
     /// Nobody may change it or create anything in it.
     void MakeReadOnly(std::u16string_view path) { SetRights(path, {kReadOnlyRights, kReadOnlyRights}); }
-    void SetAttributes(std::u16string_view path, DWORD attributes);
 
     [[nodiscard]] bool IsFile(std::u16string_view path) const;
     [[nodiscard]] bool IsFolder(std::u16string_view path) const;
@@ -60,32 +56,12 @@ public:
     [[nodiscard]] bool Allows(std::u16string_view path, DWORD access) const;
     /// "C:\x" as "\Device\HarddiskVolume1\x".
     [[nodiscard]] std::u16string DevicePath(std::u16string_view path) const;
-    /// Where relative paths start (C:\Tools).
-    [[nodiscard]] const std::u16string& CurrentFolder() const { return currentFolder_; }
 
-    // -- For the file functions --
-
-    /// What a path leads to.
-    struct Place {
-        Volume* volume = nullptr;
-        std::shared_ptr<FileNode> parent;  // the folder that holds or would hold it; empty for a root
-        std::shared_ptr<FileNode> node;    // empty when there is none
-        std::u16string name;               // last component, empty for a root
-        DWORD error = NO_ERROR;            // why there is no node: 2, 3 or 123
-    };
-    [[nodiscard]] Place Find(std::u16string_view path) const;
-    [[nodiscard]] const std::map<std::u16string, std::unique_ptr<Volume>>& All() const { return volumes_; }
-    [[nodiscard]] FileRights RightsOf(const Place& place) const;
-    /// Whether the program's user has these rights there: on the node, or on the parent when there is none.
-    [[nodiscard]] bool Allows(const Place& place, DWORD access) const;
-    /// Puts a new file or folder into an existing parent.
-    std::shared_ptr<FileNode> Add(const Place& place, bool folder);
+    /// What the file functions work on.
+    [[nodiscard]] FileTree& Tree() const { return *tree_; }
 
 private:
-    [[nodiscard]] Volume& Require(std::u16string_view root);
-
-    std::map<std::u16string, std::unique_ptr<Volume>> volumes_;  // by upper-cased root without its last backslash
-    std::u16string currentFolder_ = u"C:\\Tools";
+    std::unique_ptr<FileTree> tree_;
 };
 
 }  // namespace platform

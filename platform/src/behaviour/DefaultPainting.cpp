@@ -2,6 +2,7 @@
 #include "platform/sim/Graphics.h"
 #include "platform/src/behaviour/DefaultProcedure.h"
 #include "platform/src/behaviour/Inner.h"
+#include "platform/src/gdi/Canvas.h"
 #include "platform/src/window/Frame.h"
 
 namespace platform {

@@ -4,6 +4,7 @@
 #include "platform/sim/Graphics.h"
 #include "platform/sim/SimPc.h"
 #include "platform/src/behaviour/Inner.h"
+#include "platform/src/gdi/Canvas.h"
 
 #include <windows.h>
 

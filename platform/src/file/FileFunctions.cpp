@@ -1,6 +1,6 @@
 // Files by handle. https://learn.microsoft.com/windows/win32/api/fileapi/
 #include "platform/src/core/Gate.h"
-#include "platform/src/file/FileNode.h"
+#include "platform/src/file/FileTree.h"
 #include "platform/src/text/Buffers.h"
 
 #include <windows.h>
@@ -46,7 +46,7 @@ bool SharingAllows(FileNode& node, DWORD access, DWORD share)
 }
 
 /// NO_ERROR when an existing file or folder may be opened so.
-DWORD WhyNotOpen(const Volumes& volumes, const Volumes::Place& place, DWORD access, DWORD share, DWORD disposition, DWORD flags)
+DWORD WhyNotOpen(const FileTree& files, const FileTree::Place& place, DWORD access, DWORD share, DWORD disposition, DWORD flags)
 {
     if (disposition == CREATE_NEW)
         return ERROR_FILE_EXISTS;
@@ -56,7 +56,7 @@ DWORD WhyNotOpen(const Volumes& volumes, const Volumes::Place& place, DWORD acce
     const bool truncates = disposition == CREATE_ALWAYS || disposition == TRUNCATE_EXISTING;
     if ((place.node->attributes & FILE_ATTRIBUTE_READONLY) != 0 && ((access & kChanges) != 0 || truncates))
         return ERROR_ACCESS_DENIED;
-    if (!volumes.Allows(place, access | (truncates ? FILE_WRITE_DATA : 0u)))
+    if (!files.Allows(place, access | (truncates ? FILE_WRITE_DATA : 0u)))
         return ERROR_ACCESS_DENIED;
     return SharingAllows(*place.node, access, share) ? NO_ERROR : ERROR_SHARING_VIOLATION;
 }
@@ -75,21 +75,21 @@ HANDLE WINAPI CreateFileW(LPCWSTR name, DWORD access, DWORD share, LPSECURITY_AT
 {
     SIM_CALL(INVALID_HANDLE_VALUE, ERROR_ACCESS_DENIED, name, access, share, disposition, flags);
     SimPc& pc = SimPc::Current();
-    Volumes& volumes = pc.Get<Volumes>();
-    Volumes::Place place = volumes.Find(OrEmpty(name));
+    FileTree& files = Files();
+    FileTree::Place place = files.Find(OrEmpty(name));
     const DWORD wanted = MapGenericFile(access);
     const bool existed = place.node != nullptr;
     if (existed) {
-        const DWORD error = WhyNotOpen(volumes, place, wanted, share, disposition, flags);
+        const DWORD error = WhyNotOpen(files, place, wanted, share, disposition, flags);
         if (error != NO_ERROR)
             return pc.Fail(error, INVALID_HANDLE_VALUE);
     } else {
         const bool creates = disposition == CREATE_NEW || disposition == CREATE_ALWAYS || disposition == OPEN_ALWAYS;
         if (!creates || place.error != ERROR_FILE_NOT_FOUND)
             return pc.Fail(place.error, INVALID_HANDLE_VALUE);
-        if (!volumes.Allows(place, FILE_ADD_FILE))
+        if (!files.Allows(place, FILE_ADD_FILE))
             return pc.Fail(ERROR_ACCESS_DENIED, INVALID_HANDLE_VALUE);
-        place.node = volumes.Add(place, false);
+        place.node = files.Add(place, false);
     }
     if (disposition == CREATE_ALWAYS || disposition == TRUNCATE_EXISTING)
         place.node->bytes.clear();

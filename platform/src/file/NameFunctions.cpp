@@ -1,6 +1,6 @@
 // Files and folders by name. https://learn.microsoft.com/windows/win32/api/fileapi/
 #include "platform/src/core/Gate.h"
-#include "platform/src/file/FileNode.h"
+#include "platform/src/file/FileTree.h"
 #include "platform/src/text/Buffers.h"
 
 #include <shlobj.h>
@@ -13,16 +13,16 @@ using namespace platform;
 namespace {
 
 /// Error of making a folder, NO_ERROR when it was made.
-DWORD MakeOneFolder(Volumes& volumes, std::u16string_view path)
+DWORD MakeOneFolder(FileTree& files, std::u16string_view path)
 {
-    const Volumes::Place place = volumes.Find(path);
+    const FileTree::Place place = files.Find(path);
     if (place.node)
         return ERROR_ALREADY_EXISTS;
     if (place.error != ERROR_FILE_NOT_FOUND)
         return place.error;
-    if (!volumes.Allows(place, FILE_ADD_SUBDIRECTORY))
+    if (!files.Allows(place, FILE_ADD_SUBDIRECTORY))
         return ERROR_ACCESS_DENIED;
-    volumes.Add(place, true);
+    files.Add(place, true);
     return NO_ERROR;
 }
 
@@ -32,17 +32,17 @@ bool IsOpen(const FileNode& node)
 }
 
 /// Error of deleting a file or an empty folder.
-DWORD Delete(Volumes& volumes, std::u16string_view path, bool folder)
+DWORD Delete(FileTree& files, std::u16string_view path, bool folder)
 {
-    const Volumes::Place place = volumes.Find(path);
+    const FileTree::Place place = files.Find(path);
     if (!place.node)
         return place.error;
     if (place.node->folder != folder)
         return folder ? ERROR_DIRECTORY : ERROR_ACCESS_DENIED;
     if (!place.parent || (place.node->attributes & FILE_ATTRIBUTE_READONLY) != 0)
         return ERROR_ACCESS_DENIED;
-    const Volumes::Place holder{place.volume, nullptr, place.parent, {}, NO_ERROR};
-    if (!volumes.Allows(place, DELETE) && !volumes.Allows(holder, FILE_DELETE_CHILD))
+    const FileTree::Place holder{place.volume, nullptr, place.parent, {}, NO_ERROR};
+    if (!files.Allows(place, DELETE) && !files.Allows(holder, FILE_DELETE_CHILD))
         return ERROR_ACCESS_DENIED;
     if (!place.node->children.empty())
         return ERROR_DIR_NOT_EMPTY;
@@ -63,7 +63,7 @@ DWORD WINAPI GetFileAttributesW(LPCWSTR name)
 {
     SIM_CALL(INVALID_FILE_ATTRIBUTES, ERROR_ACCESS_DENIED, name);
     SimPc& pc = SimPc::Current();
-    const Volumes::Place place = pc.Get<Volumes>().Find(OrEmpty(name));
+    const FileTree::Place place = Files().Find(OrEmpty(name));
     if (!place.node)
         return pc.Fail(place.error, INVALID_FILE_ATTRIBUTES);
     const DWORD attributes = place.node->attributes | (place.node->folder ? FILE_ATTRIBUTE_DIRECTORY : FILE_ATTRIBUTE_ARCHIVE);
@@ -74,19 +74,19 @@ BOOL WINAPI CreateDirectoryW(LPCWSTR name, LPSECURITY_ATTRIBUTES)
 {
     SIM_CALL(FALSE, ERROR_ACCESS_DENIED, name);
     SimPc& pc = SimPc::Current();
-    return Report(pc, MakeOneFolder(pc.Get<Volumes>(), OrEmpty(name)));
+    return Report(pc, MakeOneFolder(Files(), OrEmpty(name)));
 }
 
 BOOL WINAPI RemoveDirectoryW(LPCWSTR name)
 {
     SIM_CALL(FALSE, ERROR_ACCESS_DENIED, name);
     SimPc& pc = SimPc::Current();
-    return Report(pc, Delete(pc.Get<Volumes>(), OrEmpty(name), true));
+    return Report(pc, Delete(Files(), OrEmpty(name), true));
 }
 
 BOOL WINAPI DeleteFileW(LPCWSTR name)
 {
     SIM_CALL(FALSE, ERROR_ACCESS_DENIED, name);
     SimPc& pc = SimPc::Current();
-    return Report(pc, Delete(pc.Get<Volumes>(), OrEmpty(name), false));
+    return Report(pc, Delete(Files(), OrEmpty(name), false));
 }

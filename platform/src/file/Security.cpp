@@ -1,7 +1,7 @@
 // Security descriptors of files, and the access check. https://learn.microsoft.com/windows/win32/api/securitybaseapi/
 #include "platform/sim/Users.h"
 #include "platform/src/core/Gate.h"
-#include "platform/src/file/FileNode.h"
+#include "platform/src/file/FileTree.h"
 #include "platform/src/text/Buffers.h"
 #include "platform/src/user/Token.h"
 
@@ -98,13 +98,13 @@ BOOL WINAPI GetFileSecurityW(LPCWSTR name, SECURITY_INFORMATION requested, PSECU
 {
     SIM_CALL(FALSE, ERROR_ACCESS_DENIED, name, requested, size);
     SimPc& pc = SimPc::Current();
-    const Volumes& volumes = pc.Get<Volumes>();
-    const Volumes::Place place = volumes.Find(OrEmpty(name));
+    const FileTree& files = Files();
+    const FileTree::Place place = files.Find(OrEmpty(name));
     if (!place.node)
         return pc.Fail(place.error, FALSE);
-    if (!volumes.Allows(place, READ_CONTROL))
+    if (!files.Allows(place, READ_CONTROL))
         return pc.Fail(ERROR_ACCESS_DENIED, FALSE);
-    const std::vector<BYTE> bytes = DescriptorOf(volumes.RightsOf(place), requested);
+    const std::vector<BYTE> bytes = DescriptorOf(files.RightsOf(place), requested);
     *needed = static_cast<DWORD>(bytes.size());
     if (size < bytes.size())
         return pc.Fail(ERROR_INSUFFICIENT_BUFFER, FALSE);

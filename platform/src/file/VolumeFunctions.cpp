@@ -1,6 +1,6 @@
 // Volumes and drives. https://learn.microsoft.com/windows/win32/fileio/volume-management-functions
 #include "platform/src/core/Gate.h"
-#include "platform/src/file/FileNode.h"
+#include "platform/src/file/FileTree.h"
 #include "platform/src/text/Buffers.h"
 
 #include <windows.h>
@@ -17,7 +17,7 @@ BOOL WINAPI GetVolumeInformationW(LPCWSTR root, LPWSTR name, DWORD nameSize, LPD
     const std::u16string_view path = OrEmpty(root);
     if (!path.ends_with(u'\\'))
         return pc.Fail(ERROR_INVALID_NAME, FALSE);
-    const Volumes::Place place = pc.Get<Volumes>().Find(path);
+    const FileTree::Place place = Files().Find(path);
     if (!place.volume)
         return pc.Fail(ERROR_PATH_NOT_FOUND, FALSE);
     if (place.node != place.volume->top)  // Only the root itself names a volume.
@@ -40,7 +40,7 @@ DWORD WINAPI GetLogicalDriveStringsA(DWORD size, LPSTR buffer)
 {
     SIM_CALL(0, ERROR_ACCESS_DENIED, size);
     std::string drives;
-    for (const auto& entry : SimPc::Current().Get<Volumes>().All()) {
+    for (const auto& entry : Files().All()) {
         if (entry.first.size() == 2)
             drives += std::string{static_cast<char>(entry.first[0]), ':', '\\', '\0'};
     }
@@ -60,7 +60,7 @@ DWORD WINAPI QueryDosDeviceW(LPCWSTR device, LPWSTR target, DWORD size)
         pc.Unsupported("QueryDosDeviceW for all devices");
         return 0;
     }
-    const auto& volumes = pc.Get<Volumes>().All();
+    const auto& volumes = Files().All();
     const auto volume = volumes.find(UpperCase(device));
     if (volume == volumes.end())
         return pc.Fail(ERROR_FILE_NOT_FOUND, 0);

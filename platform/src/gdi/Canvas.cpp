@@ -1,4 +1,5 @@
-// Canvas: the system's own drawing, without the gate.
+#include "platform/src/gdi/Canvas.h"
+
 #include "platform/src/gdi/Edges.h"
 #include "platform/src/gdi/Fills.h"
 #include "platform/src/gdi/Icons.h"

@@ -2,6 +2,7 @@
 #include "platform/sim/Graphics.h"
 
 #include "platform/src/gdi/DeviceContext.h"
+#include "platform/src/gdi/Icons.h"
 #include "platform/src/gdi/Typeface.h"
 
 #include <algorithm>

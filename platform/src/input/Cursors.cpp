@@ -3,6 +3,7 @@
 
 #include "platform/sim/Graphics.h"
 #include "platform/src/core/Gate.h"
+#include "platform/src/gdi/Icons.h"
 #include "platform/src/message/MessageQueues.h"
 #include "platform/src/text/Case.h"
 #include "platform/src/window/Metrics.h"

@@ -1,6 +1,6 @@
 // The shell's path functions: texts only, but for the two that ask the file system. https://learn.microsoft.com/windows/win32/api/shlwapi/
-#include "platform/sim/Volumes.h"
 #include "platform/src/core/Gate.h"
+#include "platform/src/file/FileTree.h"
 #include "platform/src/text/Buffers.h"
 
 #include <shlwapi.h>
@@ -36,7 +36,7 @@ BOOL WINAPI PathFileExistsW(LPCWSTR path)
 {
     SIM_CALL(FALSE, ERROR_ACCESS_DENIED, path);
     SimPc& pc = SimPc::Current();
-    const Volumes::Place place = pc.Get<Volumes>().Find(OrEmpty(path));
+    const FileTree::Place place = Files().Find(OrEmpty(path));
     return place.node || pc.Fail(place.error, FALSE);
 }
 

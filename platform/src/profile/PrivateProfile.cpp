@@ -1,7 +1,7 @@
 // Private profiles. https://learn.microsoft.com/windows/win32/api/winbase/nf-winbase-getprivateprofilestringw
 #include "platform/sim/Folders.h"
 #include "platform/src/core/Gate.h"
-#include "platform/src/file/FileNode.h"
+#include "platform/src/file/FileTree.h"
 #include "platform/src/profile/IniText.h"
 #include "platform/src/text/Buffers.h"
 
@@ -32,12 +32,12 @@ bool IsShared(const FileNode& node, DWORD how)
 }
 
 /// Why the file cannot be written, NO_ERROR when it can; it need not exist.
-DWORD WhyNotWrite(const Volumes& volumes, const Volumes::Place& place)
+DWORD WhyNotWrite(const FileTree& files, const FileTree::Place& place)
 {
     if (!place.node)
-        return place.error != ERROR_FILE_NOT_FOUND ? place.error : volumes.Allows(place, FILE_ADD_FILE) ? NO_ERROR : ERROR_ACCESS_DENIED;
+        return place.error != ERROR_FILE_NOT_FOUND ? place.error : files.Allows(place, FILE_ADD_FILE) ? NO_ERROR : ERROR_ACCESS_DENIED;
     if (place.node->folder || (place.node->attributes & FILE_ATTRIBUTE_READONLY) != 0 ||
-        !volumes.Allows(place, FILE_WRITE_DATA | FILE_READ_DATA))
+        !files.Allows(place, FILE_WRITE_DATA | FILE_READ_DATA))
         return ERROR_ACCESS_DENIED;
     return IsShared(*place.node, FILE_SHARE_WRITE) ? NO_ERROR : ERROR_SHARING_VIOLATION;
 }
@@ -60,9 +60,9 @@ DWORD WINAPI GetPrivateProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR fall
         pc.Unsupported("GetPrivateProfileStringW: lists of sections or keys");
         return 0;
     }
-    const Volumes& volumes = pc.Get<Volumes>();
-    const Volumes::Place place = volumes.Find(ProfilePath(pc, file));
-    if (!place.node || place.node->folder || !volumes.Allows(place, FILE_READ_DATA) || !IsShared(*place.node, FILE_SHARE_READ))
+    const FileTree& files = Files();
+    const FileTree::Place place = files.Find(ProfilePath(pc, file));
+    if (!place.node || place.node->folder || !files.Allows(place, FILE_READ_DATA) || !IsShared(*place.node, FILE_SHARE_READ))
         return giveDefault();
     const auto value = IniText(place.node->bytes).Get(section, key);
     if (!value)
@@ -79,9 +79,9 @@ BOOL WINAPI WritePrivateProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR tex
         pc.Unsupported("WritePrivateProfileStringW without a section or a file");
         return FALSE;
     }
-    Volumes& volumes = pc.Get<Volumes>();
-    const Volumes::Place place = volumes.Find(ProfilePath(pc, file));
-    const DWORD error = WhyNotWrite(volumes, place);
+    FileTree& files = Files();
+    const FileTree::Place place = files.Find(ProfilePath(pc, file));
+    const DWORD error = WhyNotWrite(files, place);
     if (error != NO_ERROR)
         return pc.Fail(error, FALSE);
     IniText content(place.node ? std::string_view(place.node->bytes) : std::string_view());
@@ -93,6 +93,6 @@ BOOL WINAPI WritePrivateProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR tex
     else
         content.Set(section, key, text);
     if (changed)
-        (place.node ? place.node : volumes.Add(place, false))->bytes = content.Bytes();
+        (place.node ? place.node : files.Add(place, false))->bytes = content.Bytes();
     return TRUE;
 }

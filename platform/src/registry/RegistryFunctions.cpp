@@ -1,7 +1,7 @@
 // The registry functions. They return their errors and leave the last error alone. https://learn.microsoft.com/windows/win32/api/winreg/
 #include "platform/sim/Machine.h"
 #include "platform/src/core/Gate.h"
-#include "platform/src/registry/KeyNode.h"
+#include "platform/src/registry/RegistryKeys.h"
 #include "platform/src/text/Buffers.h"
 
 #include <windows.h>
@@ -35,7 +35,7 @@ std::shared_ptr<OpenKey> FindKey(SimPc& pc, HKEY key)
 {
     if (auto opened = pc.Handles().Find<OpenKey>(key))
         return opened;
-    auto node = pc.Get<Registry>().RootOf(key);
+    auto node = pc.Get<RegistryKeys>().RootOf(key);
     if (!node)
         return nullptr;
     auto root = std::make_shared<OpenKey>();
@@ -93,12 +93,12 @@ LSTATUS WINAPI RegOpenKeyExW(HKEY key, LPCWSTR subkey, DWORD options, REGSAM acc
         return error;
     if ((access & KEY_WOW64_RES) == KEY_WOW64_RES)
         return ERROR_INVALID_PARAMETER;
-    Registry& registry = pc.Get<Registry>();
-    const std::u16string path = Registry::Redirected(start->root, Join(start->path, OrEmpty(subkey)), ViewOf(pc, access));
-    const auto node = Registry::Walk(registry.RootOf(start->root), path, false);
+    const RegistryKeys& keys = pc.Get<RegistryKeys>();
+    const std::u16string path = RegistryKeys::Redirected(start->root, Join(start->path, OrEmpty(subkey)), ViewOf(pc, access));
+    const auto node = RegistryKeys::Walk(keys.RootOf(start->root), path, false);
     if (!node)
         return ERROR_FILE_NOT_FOUND;
-    if (const DWORD error = registry.Check(*node, access); error != NO_ERROR)
+    if (const DWORD error = keys.Check(*node, access); error != NO_ERROR)
         return static_cast<LSTATUS>(error);
     *result = Open(pc, node, access, start->root, path);
     return ERROR_SUCCESS;
@@ -113,15 +113,15 @@ LSTATUS WINAPI RegCreateKeyExW(HKEY key, LPCWSTR subkey, DWORD, LPWSTR, DWORD op
     const auto start = FindKey(pc, key);
     if (const LSTATUS error = Usable(start, 0); error != ERROR_SUCCESS)
         return error;
-    Registry& registry = pc.Get<Registry>();
-    const std::u16string path = Registry::Redirected(start->root, Join(start->path, OrEmpty(subkey)), ViewOf(pc, access));
-    auto node = Registry::Walk(registry.RootOf(start->root), path, false);
+    const RegistryKeys& keys = pc.Get<RegistryKeys>();
+    const std::u16string path = RegistryKeys::Redirected(start->root, Join(start->path, OrEmpty(subkey)), ViewOf(pc, access));
+    auto node = RegistryKeys::Walk(keys.RootOf(start->root), path, false);
     const bool existed = node != nullptr;
     const REGSAM needed = existed ? access : access | KEY_CREATE_SUB_KEY;
-    if (const DWORD error = registry.Check(existed ? *node : *start->node, needed); error != NO_ERROR)
+    if (const DWORD error = keys.Check(existed ? *node : *start->node, needed); error != NO_ERROR)
         return static_cast<LSTATUS>(error);
     if (!existed)
-        node = Registry::Walk(registry.RootOf(start->root), path, true);
+        node = RegistryKeys::Walk(keys.RootOf(start->root), path, true);
     if (disposition)
         *disposition = existed ? REG_OPENED_EXISTING_KEY : REG_CREATED_NEW_KEY;
     *result = Open(pc, node, access, start->root, path);
@@ -132,7 +132,7 @@ LSTATUS WINAPI RegCloseKey(HKEY key)
 {
     SIM_NOTE(key);
     SimPc& pc = SimPc::Current();
-    return pc.Handles().Close<OpenKey>(key) || pc.Get<Registry>().RootOf(key) ? ERROR_SUCCESS : ERROR_INVALID_HANDLE;
+    return pc.Handles().Close<OpenKey>(key) || pc.Get<RegistryKeys>().RootOf(key) ? ERROR_SUCCESS : ERROR_INVALID_HANDLE;
 }
 
 LSTATUS WINAPI RegQueryValueExW(HKEY key, LPCWSTR name, LPDWORD, LPDWORD type, LPBYTE data, LPDWORD size)
@@ -195,15 +195,15 @@ LSTATUS WINAPI RegDeleteKeyW(HKEY key, LPCWSTR subkey)
     const auto start = FindKey(pc, key);
     if (const LSTATUS error = Usable(start, 0); error != ERROR_SUCCESS)
         return error;
-    const std::u16string path = Registry::Redirected(start->root, Join(start->path, OrEmpty(subkey)), ViewOf(pc, 0));
-    const auto top = pc.Get<Registry>().RootOf(start->root);
-    const auto node = Registry::Walk(top, path, false);
+    const std::u16string path = RegistryKeys::Redirected(start->root, Join(start->path, OrEmpty(subkey)), ViewOf(pc, 0));
+    const auto top = pc.Get<RegistryKeys>().RootOf(start->root);
+    const auto node = RegistryKeys::Walk(top, path, false);
     if (!node || path.empty())
         return ERROR_FILE_NOT_FOUND;
-    if (!node->children.empty() || pc.Get<Registry>().Check(*node, DELETE) != NO_ERROR)
+    if (!node->children.empty() || pc.Get<RegistryKeys>().Check(*node, DELETE) != NO_ERROR)
         return ERROR_ACCESS_DENIED;
     const std::size_t slash = path.rfind(u'\\');
-    const auto parent = slash == std::u16string::npos ? top : Registry::Walk(top, path.substr(0, slash), false);
+    const auto parent = slash == std::u16string::npos ? top : RegistryKeys::Walk(top, path.substr(0, slash), false);
     node->deleted = true;
     parent->children.erase(parent->children.find(node->name));
     return ERROR_SUCCESS;

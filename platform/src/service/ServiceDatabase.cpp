@@ -111,7 +111,7 @@ SC_HANDLE WINAPI OpenServiceW(SC_HANDLE manager, LPCWSTR name, DWORD access)
         return pc.Fail<SC_HANDLE>(ERROR_INVALID_HANDLE, nullptr);
     if (!IsServiceName(OrEmpty(name)))
         return pc.Fail<SC_HANDLE>(ERROR_INVALID_NAME, nullptr);
-    const auto service = pc.Get<Services>().Share(name);
+    const auto service = pc.Get<ServiceRecords>().Share(name);
     if (!service)
         return pc.Fail<SC_HANDLE>(ERROR_SERVICE_DOES_NOT_EXIST, nullptr);
     const DWORD granted = MapGenericService(access);
@@ -142,7 +142,7 @@ SC_HANDLE WINAPI CreateServiceW(SC_HANDLE manager, LPCWSTR name, LPCWSTR display
     service.startType = startType;
     service.errorControl = errorControl;
 
-    Services& services = pc.Get<Services>();
+    ServiceRecords& services = pc.Get<ServiceRecords>();
     DWORD error = NO_ERROR;
     if (!IsServiceName(service.name))
         error = ERROR_INVALID_NAME;

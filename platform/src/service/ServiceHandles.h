@@ -1,7 +1,7 @@
 // ServiceHandles: open handles of the service control manager and of its services.
 #pragma once
 
-#include "platform/sim/Services.h"
+#include "platform/src/service/ServiceRecords.h"
 
 #include <memory>
 
@@ -23,7 +23,7 @@ struct ServiceHandle : ScmObject {
     {
         --service->handles;
         if (service->markedForDeletion)
-            SimPc::Current().Get<Services>().Sweep(*service);
+            SimPc::Current().Get<ServiceRecords>().Sweep(*service);
     }
     const std::shared_ptr<Service> service;
 };

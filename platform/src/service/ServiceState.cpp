@@ -46,7 +46,7 @@ BOOL WINAPI StartServiceW(SC_HANDLE service, DWORD count, LPCWSTR* arguments)
     const auto found = FindService(service, SERVICE_START);
     if (!found)
         return FALSE;
-    const DWORD error = pc.Get<Services>().Start(*found);
+    const DWORD error = pc.Get<ServiceRecords>().Start(*found);
     return error == NO_ERROR || pc.Fail(error, FALSE);
 }
 
@@ -64,7 +64,7 @@ BOOL WINAPI ControlService(SC_HANDLE service, DWORD control, LPSERVICE_STATUS st
         return FALSE;
     DWORD error = NO_ERROR;
     if (stops)
-        error = pc.Get<Services>().Stop(*found);
+        error = pc.Get<ServiceRecords>().Stop(*found);
     else if (found->state == SERVICE_STOPPED)
         error = ERROR_SERVICE_NOT_ACTIVE;
     *status = StatusOf(*found);  // Told after these refusals as well.

@@ -1,9 +1,6 @@
 #include "platform/sim/Services.h"
 
-#include "platform/sim/Users.h"
-#include "platform/sim/Volumes.h"
-#include "platform/src/process/CommandLine.h"
-#include "platform/src/text/Case.h"
+#include "platform/src/service/ServiceRecords.h"
 
 namespace platform {
 
@@ -12,37 +9,12 @@ Service& Services::Install(std::u16string_view name, std::u16string_view path)
     Service service;
     service.name = service.displayName = name;
     service.path = path;
-    return *Add(std::move(service));
-}
-
-std::shared_ptr<Service> Services::Add(Service service)
-{
-    service.startTime = startTime_;
-    service.stopTime = stopTime_;
-    service.startFailure = startFailure_;
-    auto added = std::make_shared<Service>(std::move(service));
-    services_[UpperCase(added->name)] = added;
-    return added;
-}
-
-std::shared_ptr<Service> Services::Share(std::u16string_view name) const
-{
-    const auto found = services_.find(UpperCase(name));
-    return found == services_.end() ? nullptr : found->second;
-}
-
-std::shared_ptr<Service> Services::WithDisplayName(std::u16string_view displayName) const
-{
-    for (const auto& entry : services_) {
-        if (SameName(entry.second->displayName, displayName))
-            return entry.second;
-    }
-    return nullptr;
+    return *pc_.Get<ServiceRecords>().Add(std::move(service));
 }
 
 Service* Services::Find(std::u16string_view name)
 {
-    return Share(name).get();
+    return pc_.Get<ServiceRecords>().Share(name).get();
 }
 
 void Services::SetState(std::u16string_view name, DWORD state)
@@ -50,75 +22,35 @@ void Services::SetState(std::u16string_view name, DWORD state)
     Service& service = *Find(name);
     pc_.Clock().Cancel(service.pending);
     service.state = state;
-    Sweep(service);
+    pc_.Get<ServiceRecords>().Sweep(service);
 }
 
 DWORD Services::Start(std::u16string_view name)
 {
-    return Start(*Find(name));
+    return pc_.Get<ServiceRecords>().Start(*Find(name));
 }
 
 DWORD Services::Stop(std::u16string_view name)
 {
-    return Stop(*Find(name));
+    return pc_.Get<ServiceRecords>().Stop(*Find(name));
 }
 
 void Services::Delete(std::u16string_view name)
 {
     Service& service = *Find(name);
     service.markedForDeletion = true;
-    Sweep(service);
+    pc_.Get<ServiceRecords>().Sweep(service);
 }
 
-DWORD Services::Start(Service& service)
+void Services::DefaultTimes(std::uint64_t start, std::uint64_t stop)
 {
-    if (service.markedForDeletion)
-        return ERROR_SERVICE_MARKED_FOR_DELETE;
-    if (service.startType == SERVICE_DISABLED)
-        return ERROR_SERVICE_DISABLED;
-    if (service.state != SERVICE_STOPPED)
-        return ERROR_SERVICE_ALREADY_RUNNING;
-    const Volumes& volumes = pc_.Get<Volumes>();
-    if (ExecutableOf(service.path, [&](std::u16string_view path) { return volumes.IsFile(path); }).empty())
-        return ERROR_FILE_NOT_FOUND;
-    if (!pc_.Get<Users>().PasswordFits(service.account, service.password))
-        return ERROR_SERVICE_LOGON_FAILED;
-    Settle(service, SERVICE_START_PENDING, service.startTime, service.startFailure == 0 ? SERVICE_RUNNING : SERVICE_STOPPED,
-           service.startFailure);
-    return NO_ERROR;
+    pc_.Get<ServiceRecords>().startTime = start;
+    pc_.Get<ServiceRecords>().stopTime = stop;
 }
 
-DWORD Services::Stop(Service& service)
+std::size_t Services::Count() const
 {
-    switch (service.state) {
-        case SERVICE_STOPPED:
-            return ERROR_SERVICE_NOT_ACTIVE;
-        case SERVICE_RUNNING:
-        case SERVICE_PAUSED:
-            Settle(service, SERVICE_STOP_PENDING, service.stopTime, SERVICE_STOPPED, 0);
-            return NO_ERROR;
-        default:
-            return ERROR_SERVICE_CANNOT_ACCEPT_CTRL;
-    }
-}
-
-void Services::Settle(Service& service, DWORD pendingState, std::uint64_t delay, DWORD finalState, DWORD exitCode)
-{
-    service.state = pendingState;
-    service.pending = pc_.Clock().Schedule(delay, [this, settled = Share(service.name), finalState, exitCode] {
-        settled->state = finalState;
-        settled->exitCode = exitCode;
-        Sweep(*settled);
-    });
-}
-
-void Services::Sweep(Service& service)
-{
-    if (!service.markedForDeletion || service.state != SERVICE_STOPPED || service.handles > 0)
-        return;
-    const auto found = services_.find(UpperCase(service.name));
-    if (found != services_.end() && found->second.get() == &service)
-        services_.erase(found);
+    return pc_.Get<ServiceRecords>().Count();
 }
 
 }  // namespace platform

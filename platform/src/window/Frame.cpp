@@ -2,6 +2,7 @@
 
 #include "platform/sim/Graphics.h"
 #include "platform/src/core/Gate.h"
+#include "platform/src/gdi/Canvas.h"
 #include "platform/src/window/Metrics.h"
 #include "platform/src/window/WindowDcs.h"
 
