@@ -55,6 +55,8 @@ FOLDERS = {
 # What the tests' hands do stands on top of all areas.
 FOLDERS['platform/sim'] = [folder for folder in FOLDERS if folder.startswith('platform/src/')]
 CODE = ('.h', '.cpp')
+# What is compiled for Windows alone, beside `*.win.cpp`: it meets the real headers, so that the stand-in PC owes it nothing.
+WINDOWS_ONLY = ('tests/e2e/', 'tests/helper/', 'tools/agent/', 'tools/gallery/Live', 'tools/gallery/Poses')
 # Pages whose C++ blocks are lines of a test program.
 EXAMPLES = {'docs/toolkit.md': 'tests/toolkit/Examples.cpp'}
 UNFINISHED = re.compile(r'\b(' + '|'.join(['TO' + 'DO', 'FIX' + 'ME', 'X' + 'XX', 'HA' + 'CK']) + r')\b')
@@ -175,10 +177,58 @@ def windows_functions(files):
         if path.startswith('platform/src/'):
             for name in re.findall(r'\bWINAPIV?\s+(\w+)\s*\(', text):
                 areas[name] = path.split('/')[2]
-        elif not path.startswith('platform/'):
-            for name in set(re.findall(r'\w+', text)) & declared:
+        elif not path.startswith('platform/') and native(path):
+            for name in words(text) & declared:
                 callers[name].add(room_of(path))
     return {name: (areas.get(name), sorted(callers[name])) for name in sorted(declared)}
+
+
+def native(path):
+    """Whether a source file is part of a natively built program."""
+    return path.endswith(CODE) and not path.endswith('.win.cpp') and not path.startswith(WINDOWS_ONLY)
+
+
+def words(text):
+    return set(re.findall(r'\w+', re.sub(r'//.*', '', text)))
+
+
+def check_macros(files):
+    """A macro of platform/include has a user outside it: itself, or through a declaration or another macro there."""
+    macros, used = {}, set()
+    for path in files:
+        if path.startswith('platform/include/'):
+            for number, line in enumerate(re.sub(r'\\\n', ' ', read(path)).splitlines(), 1):
+                match = re.match(r'\s*#\s*define\s+(\w+)(.*)', line)
+                if match:
+                    macros[match[1]] = (path, number, words(match[2]))
+                else:
+                    used |= words(line)
+        elif native(path):
+            used |= words(read(path))
+    waiting = used & macros.keys()
+    while waiting:
+        waiting = {name for macro in waiting for name in macros[macro][2]} & macros.keys() - used
+        used |= waiting
+    for name, (path, number, _) in macros.items():
+        if name not in used:
+            yield f'{path}:{number}: nobody outside platform/include names {name}'
+
+
+def check_messages(files):
+    """A message that the stand-in PC handles has a sender: a room, a test or another file of the stand-in PC names it."""
+    handled, named = {}, {}
+    for path in files:
+        if not native(path) or path.startswith('platform/include/'):
+            continue
+        text = read(path)
+        for name in words(text):
+            named.setdefault(name, set()).add(path)
+        if path.startswith('platform/src/'):
+            for name in re.findall(r'\bcase ((?:WM|BM|EM|CB|TTM|STM|LB)_\w+):', text):
+                handled.setdefault(name, set()).add(path)
+    for name, places in sorted(handled.items()):
+        if not named[name] - places:
+            yield f'{min(places)}: handles {name}, which nobody else names'
 
 
 def check_functions(files, write):
@@ -218,7 +268,8 @@ def main():
     files = tracked_files()
     if '--arrows' in sys.argv[1:]:
         return print_folder_arrows(files)
-    problems = [*check_arrows(files), *check_folders(files), *check_first_lines_and_marks(files), *check_functions(files, '--write' in sys.argv[1:]),
+    problems = [*check_arrows(files), *check_folders(files), *check_first_lines_and_marks(files), *check_macros(files), *check_messages(files),
+                *check_functions(files, '--write' in sys.argv[1:]),
                 *check_examples(), *check_format(files), *check_headers_alone(files)]
     for problem in problems:
         print(problem)

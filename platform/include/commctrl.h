@@ -5,18 +5,7 @@
 #include "winuser.h"
 
 // https://learn.microsoft.com/windows/win32/api/commctrl/ns-commctrl-initcommoncontrolsex
-#define ICC_LISTVIEW_CLASSES 0x00000001
-#define ICC_TREEVIEW_CLASSES 0x00000002
-#define ICC_BAR_CLASSES 0x00000004
-#define ICC_TAB_CLASSES 0x00000008
-#define ICC_UPDOWN_CLASS 0x00000010
-#define ICC_PROGRESS_CLASS 0x00000020
-#define ICC_HOTKEY_CLASS 0x00000040
-#define ICC_ANIMATE_CLASS 0x00000080
 #define ICC_WIN95_CLASSES 0x000000FF
-#define ICC_DATE_CLASSES 0x00000100
-#define ICC_USEREX_CLASSES 0x00000200
-#define ICC_COOL_CLASSES 0x00000400
 #define ICC_STANDARD_CLASSES 0x00004000
 
 struct INITCOMMONCONTROLSEX {
@@ -32,13 +21,8 @@ BOOL WINAPI InitCommonControlsEx(const INITCOMMONCONTROLSEX* controls);
 #define TTS_ALWAYSTIP 0x01
 #define TTS_NOPREFIX 0x02
 #define TTS_BALLOON 0x40
-#define TTF_IDISHWND 0x0001
 #define TTF_CENTERTIP 0x0002
-#define TTF_RTLREADING 0x0004
 #define TTF_SUBCLASS 0x0010
-#define TTF_TRACK 0x0020
-#define TTF_ABSOLUTE 0x0080
-#define TTF_TRANSPARENT 0x0100
 #define TTDT_AUTOMATIC 0
 #define TTDT_RESHOW 1
 #define TTDT_AUTOPOP 2
@@ -46,8 +30,6 @@ BOOL WINAPI InitCommonControlsEx(const INITCOMMONCONTROLSEX* controls);
 #define TTI_NONE 0
 #define TTI_INFO 1
 #define TTI_WARNING 2
-#define TTI_ERROR 3
-#define TTM_ACTIVATE (WM_USER + 1)
 #define TTM_SETDELAYTIME (WM_USER + 3)
 #define TTM_GETTOOLCOUNT (WM_USER + 13)
 #define TTM_SETTIPBKCOLOR (WM_USER + 19)
@@ -57,16 +39,9 @@ BOOL WINAPI InitCommonControlsEx(const INITCOMMONCONTROLSEX* controls);
 #define TTM_GETTIPTEXTCOLOR (WM_USER + 23)
 #define TTM_SETMAXTIPWIDTH (WM_USER + 24)
 #define TTM_GETMAXTIPWIDTH (WM_USER + 25)
-#define TTM_POP (WM_USER + 28)
 #define TTM_SETTITLEW (WM_USER + 33)
 #define TTM_ADDTOOLW (WM_USER + 50)
-#define TTM_DELTOOLW (WM_USER + 51)
 #define TTM_GETTOOLINFOW (WM_USER + 53)
-#define TTM_GETTEXTW (WM_USER + 56)
-#define TTM_UPDATETIPTEXTW (WM_USER + 57)
-#define TTN_FIRST (0U - 520U)
-#define TTN_SHOW (TTN_FIRST - 1)
-#define TTN_POP (TTN_FIRST - 2)
 
 // Newer systems know more members; a version-5 library refuses a record that is longer than the one it knows.
 struct TTTOOLINFOW {

@@ -17,5 +17,4 @@ struct DLLVERSIONINFO {
     DWORD cbSize, dwMajorVersion, dwMinorVersion, dwBuildNumber, dwPlatformID;
 };
 using DLLGETVERSIONPROC = HRESULT(CALLBACK*)(DLLVERSIONINFO*);
-#define DLLVER_PLATFORM_WINDOWS 0x00000001
 #define DLLVER_PLATFORM_NT 0x00000002

@@ -6,12 +6,6 @@
 
 #define WINAPI
 #define CALLBACK
-#define APIENTRY
-#define WINAPIV
-#define DECLSPEC_IMPORT
-#define IN
-#define OUT
-#define CONST const
 #define FALSE 0
 #define TRUE 1
 #define MAX_PATH 260
@@ -85,8 +79,6 @@ using PHANDLE = HANDLE*;
 #define MAKELRESULT(low, high) (static_cast<LRESULT>(static_cast<DWORD>(MAKELONG(low, high))))
 #define LOWORD(value) (static_cast<WORD>(static_cast<DWORD_PTR>(value) & 0xFFFF))
 #define HIWORD(value) (static_cast<WORD>((static_cast<DWORD_PTR>(value) >> 16) & 0xFFFF))
-#define LOBYTE(value) (static_cast<BYTE>(static_cast<DWORD_PTR>(value) & 0xFF))
-#define HIBYTE(value) (static_cast<BYTE>((static_cast<DWORD_PTR>(value) >> 8) & 0xFF))
 
 #define DECLARE_HANDLE(name) \
     struct name##__ {        \

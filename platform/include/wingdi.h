@@ -13,9 +13,6 @@
 #define GetGValue(rgb) (static_cast<BYTE>((rgb) >> 8 & 0xFF))
 #define GetBValue(rgb) (static_cast<BYTE>((rgb) >> 16 & 0xFF))
 #define CLR_INVALID 0xFFFFFFFFu
-#define CLR_NONE 0xFFFFFFFFu
-#define GDI_ERROR 0xFFFFFFFFu
-#define HGDI_ERROR (reinterpret_cast<HGDIOBJ>(static_cast<LONG_PTR>(-1)))
 
 // ---- Records ----
 
@@ -92,12 +89,8 @@ struct BITMAPFILEHEADER {
 
 #define OBJ_PEN 1
 #define OBJ_BRUSH 2
-#define OBJ_DC 3
-#define OBJ_PAL 5
 #define OBJ_FONT 6
 #define OBJ_BITMAP 7
-#define OBJ_REGION 8
-#define OBJ_MEMDC 10
 
 #define WHITE_BRUSH 0
 #define LTGRAY_BRUSH 1
@@ -105,7 +98,6 @@ struct BITMAPFILEHEADER {
 #define DKGRAY_BRUSH 3
 #define BLACK_BRUSH 4
 #define NULL_BRUSH 5
-#define HOLLOW_BRUSH NULL_BRUSH
 #define WHITE_PEN 6
 #define BLACK_PEN 7
 #define NULL_PEN 8
@@ -114,7 +106,6 @@ struct BITMAPFILEHEADER {
 #define ANSI_VAR_FONT 12
 #define SYSTEM_FONT 13
 #define DEVICE_DEFAULT_FONT 14
-#define DEFAULT_PALETTE 15
 #define SYSTEM_FIXED_FONT 16
 #define DEFAULT_GUI_FONT 17
 #define DC_BRUSH 18
@@ -129,56 +120,25 @@ struct BITMAPFILEHEADER {
 #define PS_COSMETIC 0
 #define BS_SOLID 0
 #define BS_NULL 1
-#define BS_HOLLOW BS_NULL
 #define BS_PATTERN 3
 
 #define TRANSPARENT 1
 #define OPAQUE 2
 
-#define R2_BLACK 1
-#define R2_NOTCOPYPEN 4
-#define R2_NOT 6
-#define R2_XORPEN 7
-#define R2_MASKPEN 9
-#define R2_NOTXORPEN 10
-#define R2_NOP 11
 #define R2_COPYPEN 13
-#define R2_MERGEPEN 15
-#define R2_WHITE 16
 
 #define SRCCOPY 0x00CC0020u
-#define SRCPAINT 0x00EE0086u
-#define SRCAND 0x008800C6u
-#define SRCINVERT 0x00660046u
-#define SRCERASE 0x00440328u
-#define NOTSRCCOPY 0x00330008u
-#define NOTSRCERASE 0x001100A6u
-#define MERGECOPY 0x00C000CAu
-#define MERGEPAINT 0x00BB0226u
-#define PATCOPY 0x00F00021u
-#define PATPAINT 0x00FB0A09u
-#define PATINVERT 0x005A0049u
-#define DSTINVERT 0x00550009u
-#define BLACKNESS 0x00000042u
-#define WHITENESS 0x00FF0062u
 
 #define ERROR 0
 #define NULLREGION 1
 #define SIMPLEREGION 2
 #define COMPLEXREGION 3
 #define RGN_ERROR ERROR
-#define RGN_AND 1
-#define RGN_OR 2
-#define RGN_XOR 3
-#define RGN_DIFF 4
 #define RGN_COPY 5
 #define ALTERNATE 1
-#define WINDING 2
 
 #define BI_RGB 0u
-#define BI_BITFIELDS 3u
 #define DIB_RGB_COLORS 0
-#define DIB_PAL_COLORS 1
 
 #define HORZSIZE 4
 #define VERTSIZE 6
@@ -192,47 +152,20 @@ struct BITMAPFILEHEADER {
 #define LOGPIXELSX 88
 #define LOGPIXELSY 90
 
-#define TA_NOUPDATECP 0
-#define TA_UPDATECP 1
-#define TA_LEFT 0
-#define TA_RIGHT 2
-#define TA_CENTER 6
-#define TA_TOP 0
-#define TA_BOTTOM 8
-#define TA_BASELINE 24
-#define TA_RTLREADING 256
-
-#define FW_DONTCARE 0
 #define FW_NORMAL 400
-#define FW_SEMIBOLD 600
 #define FW_BOLD 700
 #define ANSI_CHARSET 0
 #define DEFAULT_CHARSET 1
 #define SYMBOL_CHARSET 2
 #define OEM_CHARSET 255
-#define OUT_DEFAULT_PRECIS 0
-#define OUT_TT_PRECIS 4
-#define OUT_TT_ONLY_PRECIS 7
-#define CLIP_DEFAULT_PRECIS 0
-#define DEFAULT_QUALITY 0
-#define PROOF_QUALITY 2
-#define NONANTIALIASED_QUALITY 3
-#define ANTIALIASED_QUALITY 4
-#define CLEARTYPE_QUALITY 5
-#define DEFAULT_PITCH 0
 #define FIXED_PITCH 1
 #define VARIABLE_PITCH 2
-#define FF_DONTCARE 0
-#define FF_ROMAN 0x10
 #define FF_SWISS 0x20
 #define FF_MODERN 0x30
-#define FF_DECORATIVE 0x50
 #define TMPF_FIXED_PITCH 0x01
 #define TMPF_VECTOR 0x02
 #define TMPF_TRUETYPE 0x04
-#define TMPF_DEVICE 0x08
 #define RASTER_FONTTYPE 1
-#define DEVICE_FONTTYPE 2
 #define TRUETYPE_FONTTYPE 4
 
 // ---- Device contexts ----

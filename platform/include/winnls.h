@@ -5,16 +5,10 @@
 
 #define CP_ACP 0
 #define CP_UTF8 65001
-#define MB_PRECOMPOSED 0x00000001
 #define MB_ERR_INVALID_CHARS 0x00000008
-#define WC_NO_BEST_FIT_CHARS 0x00000400
 #define WC_ERR_INVALID_CHARS 0x00000080
 // What stands beyond the first 65,536 characters is a pair of units.
-#define HIGH_SURROGATE_START 0xD800
-#define HIGH_SURROGATE_END 0xDBFF
-#define IS_HIGH_SURROGATE(unit) (((unit) >= HIGH_SURROGATE_START) && ((unit) <= HIGH_SURROGATE_END))
-#define LOCALE_INVARIANT 0x007F
-#define LOCALE_USER_DEFAULT 0x0400
+#define IS_HIGH_SURROGATE(unit) (((unit) >= 0xD800) && ((unit) <= 0xDBFF))
 
 INT WINAPI MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR text, INT textSize, LPWSTR buffer, INT size);
 INT WINAPI WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR text, INT textSize, LPSTR buffer, INT size, LPCSTR substitute,

@@ -3,8 +3,6 @@
 
 #include "windef.h"
 
-#define NT_SUCCESS(status) (static_cast<NTSTATUS>(status) >= 0)
-
 enum SYSTEM_INFORMATION_CLASS { SystemBasicInformation = 0 };
 
 struct SYSTEM_BASIC_INFORMATION {

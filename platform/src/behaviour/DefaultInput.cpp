@@ -75,6 +75,7 @@ LRESULT SystemCommand(const Window& window, WPARAM wParam)
     return 0;
 }
 
+/// Alt+F4 is posted, not sent: conformance test Input.Alt_MakesSystemKeysAndAltF4Closes.
 LRESULT SystemKeyDown(Window& window, WPARAM key, LPARAM lParam)
 {
     const Window& root = window.TopLevel();
@@ -121,7 +122,6 @@ std::optional<LRESULT> DefaultInput(Window& window, UINT message, WPARAM wParam,
             return 0;
         case WM_MOUSEWHEEL:
         case WM_CONTEXTMENU:
-        case WM_HELP:
             return SendToParent(window, message, wParam, lParam);
         default:
             return {};

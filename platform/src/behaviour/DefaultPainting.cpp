@@ -34,15 +34,6 @@ LRESULT ControlColors(UINT message, HDC dc)
     return reinterpret_cast<LRESULT>(graphics.SystemBrush(background));
 }
 
-LRESULT Print(const Window& window, WPARAM wParam, LPARAM flags)
-{
-    if (flags & PRF_ERASEBKGND)
-        inner::SendMessage(window.handle, WM_ERASEBKGND, wParam, 0);
-    if (flags & PRF_CLIENT)
-        inner::SendMessage(window.handle, WM_PRINTCLIENT, wParam, flags);
-    return 0;
-}
-
 }  // namespace
 
 std::optional<LRESULT> DefaultPainting(Window& window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -64,16 +55,9 @@ std::optional<LRESULT> DefaultPainting(Window& window, UINT message, WPARAM wPar
             if (lParam != -1 && window.IsShown())
                 PaintFrame(window);
             return TRUE;
-        case WM_PRINT:
-            return Print(window, wParam, lParam);
-        case WM_SETREDRAW:
-            window.redrawOff = !wParam;
-            return 0;
-        case WM_CTLCOLORMSGBOX:
         case WM_CTLCOLOREDIT:
         case WM_CTLCOLORLISTBOX:
         case WM_CTLCOLORBTN:
-        case WM_CTLCOLORDLG:
         case WM_CTLCOLORSTATIC:
             return ControlColors(message, reinterpret_cast<HDC>(wParam));
         default:

@@ -4,7 +4,6 @@
 #include "platform/src/behaviour/Placement.h"
 #include "platform/src/core/Gate.h"
 #include "platform/src/window/Frame.h"
-#include "platform/src/window/UserSettings.h"
 
 #include <algorithm>
 
@@ -72,36 +71,6 @@ void PositionChanged(Window& window, const WINDOWPOS& position)
     }
 }
 
-/// The hidden cues of a window (UISF_ bits) change, and of all windows in it.
-LRESULT UpdateCues(Window& window, WPARAM wParam, LPARAM lParam)
-{
-    const UINT bits = HIWORD(wParam);
-    if (LOWORD(wParam) == UIS_SET)
-        window.uiState |= bits;
-    else if (LOWORD(wParam) == UIS_CLEAR)
-        window.uiState &= ~bits;
-    for (const WindowPtr& child : WindowTree::Children(window))
-        if (WindowOf(child->handle))
-            inner::SendMessage(child->handle, WM_UPDATEUISTATE, wParam, lParam);
-    return 0;
-}
-
-LRESULT ChangeCues(const Window& window, WPARAM wParam, LPARAM lParam)
-{
-    const UINT bits = HIWORD(wParam);
-    const bool set = LOWORD(wParam) == UIS_SET;
-    if (LOWORD(wParam) != UIS_INITIALIZE && (set ? (window.uiState & bits) == bits : (window.uiState & bits) == 0))
-        return 0;
-    if (ParentOf(window))
-        return SendToParent(window, WM_CHANGEUISTATE, wParam, lParam);
-    WPARAM change = wParam;
-    if (LOWORD(wParam) == UIS_INITIALIZE) {
-        const bool shown = SimPc::Current().Get<UserSettings>().keyboardCues;
-        change = MAKEWPARAM(shown ? UIS_CLEAR : UIS_SET, UISF_HIDEACCEL | UISF_HIDEFOCUS);
-    }
-    return inner::SendMessage(window.handle, WM_UPDATEUISTATE, change, lParam);
-}
-
 }  // namespace
 
 LRESULT SendToParent(const Window& window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -140,16 +109,6 @@ std::optional<LRESULT> DefaultState(Window& window, UINT message, WPARAM wParam,
             if (LOWORD(wParam) != WA_INACTIVE && !(window.style & WS_MINIMIZE))
                 inner::SetFocus(window.handle);
             return 0;
-        case WM_QUERYENDSESSION:
-            return TRUE;
-        case WM_NOTIFYFORMAT:
-            return NFR_UNICODE;
-        case WM_QUERYUISTATE:
-            return window.uiState;
-        case WM_UPDATEUISTATE:
-            return UpdateCues(window, wParam, lParam);
-        case WM_CHANGEUISTATE:
-            return ChangeCues(window, wParam, lParam);
         default:
             return {};
     }

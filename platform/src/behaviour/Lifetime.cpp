@@ -174,9 +174,6 @@ HWND CreateWindowEx(DWORD exStyle, LPCWSTR className, LPCWSTR name, DWORD style,
     CompleteStyles(*window);
     window->id = reinterpret_cast<LONG_PTR>(menu);
     window->instance = instance;
-    window->extra.resize(static_cast<std::size_t>(windowClass->windowExtra));
-    if (above->parent)
-        window->uiState = above->uiState;
     if (window->exStyle & WS_EX_TOPMOST)
         Tree().Place(*window, HWND_TOPMOST);
     else if (window->IsTopLevel())
@@ -190,6 +187,7 @@ HWND CreateWindowEx(DWORD exStyle, LPCWSTR className, LPCWSTR name, DWORD style,
         name,      className, window->exStyle};
     if (!Announce(*window, create))
         return nullptr;
+    // No page says why: an overlapped window hears of its size and place only when it is first shown, all others at once.
     if (window->style & (WS_CHILD | WS_POPUP))
         SendSizeAndMove(*window);
     else
@@ -201,6 +199,8 @@ HWND CreateWindowEx(DWORD exStyle, LPCWSTR className, LPCWSTR name, DWORD style,
     return WindowOf(handle) ? handle : nullptr;
 }
 
+/// The order is that of the conformance tests WindowLifetime.Destroying_GoesDownAndComesBackUp and
+/// DestroyedChild_HidesFirstAndHandsTheFocusToItsParent.
 BOOL DestroyWindow(HWND handle)
 {
     SimPc& pc = SimPc::Current();

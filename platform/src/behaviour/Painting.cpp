@@ -53,6 +53,7 @@ void PaintNow(Window& window, bool children)
 
 namespace inner {
 
+/// Conformance tests Painting.Invalid_IsCollectedPaintedOnceAndThenValid and Children_AreInvalidWithTheirParentUnlessItClipsThem.
 BOOL RedrawWindow(HWND handle, const RECT* rectangle, const Region* region, UINT flags)
 {
     if (!handle) {  // The whole screen.

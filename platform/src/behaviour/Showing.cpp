@@ -115,6 +115,7 @@ BOOL ShowWindow(HWND handle, int command)
     }
 }
 
+/// A window that is disabled gives up the focus, to nobody: conformance test WindowFocus.DisabledWindow_LosesTheFocusAndCannotHaveIt.
 BOOL EnableWindow(HWND handle, BOOL enable)
 {
     const WindowPtr window = RequireWindow(handle);

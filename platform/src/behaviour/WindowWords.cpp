@@ -1,10 +1,9 @@
-// What is kept with a window: style, procedure, identifier, extra bytes, text.
+// What is kept with a window: style, procedure, identifier, text.
 #include "platform/src/behaviour/Inner.h"
 #include "platform/src/core/Gate.h"
 #include "platform/src/window/WindowDcs.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace platform {
 
@@ -30,18 +29,7 @@ LONG_PTR ChangeStyle(const WindowPtr& window, int index, DWORD value)
     return static_cast<LONG>(before);
 }
 
-LONG_PTR ExtraBytes(Window& window, int index, std::size_t size, const LONG_PTR* value)
-{
-    if (index < 0 || static_cast<std::size_t>(index) + size > window.extra.size())
-        return SimPc::Current().Fail<LONG_PTR>(ERROR_INVALID_INDEX, 0);
-    LONG_PTR before = 0;
-    std::memcpy(&before, &window.extra[static_cast<std::size_t>(index)], size);
-    if (value)
-        std::memcpy(&window.extra[static_cast<std::size_t>(index)], value, size);
-    return size == sizeof(LONG) ? static_cast<LONG>(before) : before;
-}
-
-LONG_PTR Read(HWND handle, int index, std::size_t size)
+LONG_PTR Read(HWND handle, int index)
 {
     const WindowPtr window = RequireWindow(handle);
     if (!window)
@@ -63,11 +51,11 @@ LONG_PTR Read(HWND handle, int index, std::size_t size)
         case GWLP_USERDATA:
             return window->userData;
         default:
-            return ExtraBytes(*window, index, size, nullptr);
+            return SimPc::Current().Fail<LONG_PTR>(ERROR_INVALID_INDEX, 0);
     }
 }
 
-LONG_PTR Write(HWND handle, int index, LONG_PTR value, std::size_t size)
+LONG_PTR Write(HWND handle, int index, LONG_PTR value)
 {
     SimPc& pc = SimPc::Current();
     const WindowPtr window = RequireWindow(handle);
@@ -93,7 +81,7 @@ LONG_PTR Write(HWND handle, int index, LONG_PTR value, std::size_t size)
         case GWLP_USERDATA:
             return std::exchange(window->userData, value);
         default:
-            return ExtraBytes(*window, index, size, &value);
+            return pc.Fail<LONG_PTR>(ERROR_INVALID_INDEX, 0);
     }
 }
 
@@ -115,25 +103,25 @@ using namespace platform;
 LONG WINAPI GetWindowLongW(HWND window, int index)
 {
     SIM_NOTE(window, index);
-    return static_cast<LONG>(Read(window, index, sizeof(LONG)));
+    return static_cast<LONG>(Read(window, index));
 }
 
 LONG WINAPI SetWindowLongW(HWND window, int index, LONG value)
 {
     SIM_CALL(0, ERROR_INVALID_WINDOW_HANDLE, window, index, value);
-    return static_cast<LONG>(Write(window, index, value, sizeof(LONG)));
+    return static_cast<LONG>(Write(window, index, value));
 }
 
 LONG_PTR WINAPI GetWindowLongPtrW(HWND window, int index)
 {
     SIM_NOTE(window, index);
-    return Read(window, index, sizeof(LONG_PTR));
+    return Read(window, index);
 }
 
 LONG_PTR WINAPI SetWindowLongPtrW(HWND window, int index, LONG_PTR value)
 {
     SIM_CALL(0, ERROR_INVALID_WINDOW_HANDLE, window, index, value);
-    return Write(window, index, value, sizeof(LONG_PTR));
+    return Write(window, index, value);
 }
 
 // A window of the own process is asked by message; what another process shows is read from where the system keeps it.

@@ -16,9 +16,8 @@ LRESULT Button::Handle(UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
         case WM_NCCREATE: {
-            const DWORD kind = Kind();
-            if (kind > BS_GROUPBOX || (kind > BS_CHECKBOX + 1 && kind < BS_3STATE)) {
-                SimPc::Current().Unsupported("Button: style " + std::to_string(kind));
+            if (Kind() != BS_PUSHBUTTON && Kind() != BS_3STATE) {
+                SimPc::Current().Unsupported("Button: style " + std::to_string(Kind()));
                 return FALSE;
             }
             return inner::DefWindowProc(window_, message, wParam, lParam);
@@ -30,23 +29,6 @@ LRESULT Button::Handle(UINT message, WPARAM wParam, LPARAM lParam)
             return 0;
         case BM_GETSTATE:
             return state_;
-        case BM_SETSTATE:
-            SetState(BST_PUSHED, wParam ? BST_PUSHED : 0);
-            return 0;
-        case BM_SETSTYLE:
-            inner::SetStyle(window_, BS_TYPEMASK, static_cast<DWORD>(wParam) & BS_TYPEMASK);
-            if (LOWORD(lParam))
-                Repaint();
-            return 0;
-        case BM_GETIMAGE:
-            return 0;
-        case BM_CLICK:
-            if (std::exchange(clicking_, true))
-                return 0;
-            inner::SendMessage(window_, WM_LBUTTONDOWN, 0, 0);
-            inner::SendMessage(window_, WM_LBUTTONUP, 0, 0);
-            clicking_ = false;
-            return 0;
         case WM_MOUSEMOVE:
         case WM_MOUSELEAVE:
         case WM_LBUTTONDOWN:
@@ -56,7 +38,7 @@ LRESULT Button::Handle(UINT message, WPARAM wParam, LPARAM lParam)
         case WM_CAPTURECHANGED:
             if (pressing_) {
                 pressing_ = false;
-                inner::SendMessage(window_, BM_SETSTATE, FALSE, 0);
+                SetState(BST_PUSHED, 0);
             }
             return 0;
         case WM_KEYDOWN:
@@ -76,11 +58,6 @@ LRESULT Button::Handle(UINT message, WPARAM wParam, LPARAM lParam)
             Repaint();
             return result;
         }
-        case WM_GETDLGCODE:
-            return DialogCode();
-        case WM_NCHITTEST:
-            // The frame of a group lets the mouse through to what stands inside it.
-            return Kind() == BS_GROUPBOX ? HTTRANSPARENT : inner::DefWindowProc(window_, message, wParam, lParam);
         case WM_ERASEBKGND:
             return 1;
         case WM_THEMECHANGED:
@@ -92,27 +69,12 @@ LRESULT Button::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     }
 }
 
-LRESULT Button::DialogCode() const
-{
-    switch (Kind()) {
-        case BS_PUSHBUTTON:
-            return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON;
-        case BS_DEFPUSHBUTTON:
-            return DLGC_BUTTON | DLGC_DEFPUSHBUTTON;
-        case BS_GROUPBOX:
-            return DLGC_STATIC;
-        default:
-            return DLGC_BUTTON;
-    }
-}
-
 LRESULT Button::HandleMouse(UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
         case WM_MOUSEMOVE:
             if (pressing_ && !bySpace_) {
-                if (Inside(lParam) != ((state_ & BST_PUSHED) != 0))
-                    inner::SendMessage(window_, BM_SETSTATE, Inside(lParam), 0);
+                SetState(BST_PUSHED, Inside(lParam) ? BST_PUSHED : 0);
             } else if (!std::exchange(hot_, true)) {
                 TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, window_, 0};
                 inner::TrackMouseEvent(track);
@@ -132,8 +94,6 @@ LRESULT Button::HandleMouse(UINT message, WPARAM wParam, LPARAM lParam)
             }
             [[fallthrough]];
         case WM_LBUTTONDOWN:
-            if (Kind() == BS_GROUPBOX)
-                return 0;
             if (!Focused())
                 inner::SetFocus(window_);
             if (Alive())
@@ -148,6 +108,7 @@ LRESULT Button::HandleMouse(UINT message, WPARAM wParam, LPARAM lParam)
     }
 }
 
+/// Conformance test Button.SpaceBar_ClicksWhenItIsReleased.
 LRESULT Button::HandleKey(UINT message, WPARAM key, LPARAM lParam)
 {
     if (message == WM_KEYDOWN) {
@@ -169,7 +130,7 @@ LRESULT Button::HandleFocus(bool focused)
     if (!focused && pressing_)
         Release(false);
     SetState(focused ? 0 : BST_FOCUS, focused ? BST_FOCUS : 0);
-    if (Has(BS_NOTIFY) && Kind() != BS_GROUPBOX)
+    if (Has(BS_NOTIFY))
         Notify(focused ? BN_SETFOCUS : BN_KILLFOCUS);
     return 0;
 }
@@ -185,45 +146,31 @@ void Button::SetCheck(WPARAM check)
 {
     if (!IsCheckBox())
         return;
-    const bool threeStates = Kind() == BS_3STATE || Kind() == BS_AUTO3STATE;
-    const UINT highest = threeStates ? BST_INDETERMINATE : BST_CHECKED;
-    SetState(3, check > highest ? highest : static_cast<UINT>(check));
+    SetState(3, check > BST_INDETERMINATE ? BST_INDETERMINATE : static_cast<UINT>(check));
 }
 
 void Button::Press()
 {
     pressing_ = true;
     inner::SetCapture(window_);
-    inner::SendMessage(window_, BM_SETSTATE, TRUE, 0);
+    SetState(0, BST_PUSHED);
 }
 
+/// A check box of this kind leaves its check to its owner: conformance test Button.Click_GivesTheFocusFirstAndLeavesTheCheck.
 void Button::Release(bool click)
 {
     pressing_ = bySpace_ = false;  // Before the capture goes, whose loss would take a press back.
-    inner::SendMessage(window_, BM_SETSTATE, FALSE, 0);
-    if (Alive() && inner::GetCapture() == window_)
+    SetState(BST_PUSHED, 0);
+    if (inner::GetCapture() == window_)
         inner::ReleaseCapture();
-    if (!click || !Alive())
-        return;
-    Toggle();
-    if (Alive())
+    if (click && Alive())
         Notify(BN_CLICKED);
-}
-
-void Button::Toggle()
-{
-    const UINT check = state_ & 3;
-    if (Kind() == BS_AUTOCHECKBOX)
-        inner::SendMessage(window_, BM_SETCHECK, check == BST_UNCHECKED ? BST_CHECKED : BST_UNCHECKED, 0);
-    else if (Kind() == BS_AUTO3STATE)
-        inner::SendMessage(window_, BM_SETCHECK, (check + 1) % 3, 0);
 }
 
 void Button::Paint(HDC dc)
 {
-    const bool push = !IsCheckBox() && Kind() != BS_GROUPBOX;
-    const HBRUSH background = AskColors(push || Has(BS_PUSHLIKE) ? WM_CTLCOLORBTN : WM_CTLCOLORSTATIC, dc);
-    PaintButton(dc, Client(), {Style(), state_, Enabled(), Themed(), hot_, HiddenCues(), font_, Text()}, background);
+    const HBRUSH background = AskColors(!IsCheckBox() || Has(BS_PUSHLIKE) ? WM_CTLCOLORBTN : WM_CTLCOLORSTATIC, dc);
+    PaintButton(dc, Client(), {Style(), state_, Enabled(), Themed(), hot_, font_, Text()}, background);
 }
 
 }  // namespace platform

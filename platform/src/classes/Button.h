@@ -1,4 +1,4 @@
-// Button: push buttons, check boxes with two and three states, and group boxes.
+// Button: push buttons and check boxes with three states that their owner sets.
 #pragma once
 
 #include "platform/src/classes/Control.h"
@@ -17,7 +17,6 @@ public:
         bool enabled = true;
         bool themed = false;
         bool hot = false;
-        UINT hiddenCues = 0;  // UISF_ bits
         HFONT font = nullptr;
         std::u16string text;
     };
@@ -27,8 +26,7 @@ protected:
 
 private:
     [[nodiscard]] DWORD Kind() const { return Style() & BS_TYPEMASK; }
-    [[nodiscard]] bool IsCheckBox() const { return Kind() >= BS_CHECKBOX && Kind() <= BS_AUTO3STATE; }
-    [[nodiscard]] LRESULT DialogCode() const;
+    [[nodiscard]] bool IsCheckBox() const { return Kind() == BS_3STATE; }
     LRESULT HandleMouse(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT HandleKey(UINT message, WPARAM key, LPARAM lParam);
     LRESULT HandleFocus(bool focused);
@@ -37,12 +35,10 @@ private:
     void Press();
     /// The press ends; `click` when it ends as a click.
     void Release(bool click);
-    void Toggle();
 
     UINT state_ = BST_UNCHECKED;
     bool pressing_ = false;  // the mouse or the space bar is down on the button
     bool bySpace_ = false;
-    bool clicking_ = false;  // inside BM_CLICK
     bool hot_ = false;
 };
 

@@ -18,6 +18,12 @@ COLORREF SystemColor(int index)
     return SimPc::Current().Get<Graphics>().SystemColor(index);
 }
 
+/// Whether it looks like a check box too.
+bool IsCheckBox(DWORD style)
+{
+    return (style & BS_TYPEMASK) == BS_3STATE && !(style & BS_PUSHLIKE);
+}
+
 RECT Shrunk(RECT rectangle, int by)
 {
     return {rectangle.left + by, rectangle.top + by, rectangle.right - by, rectangle.bottom - by};
@@ -25,23 +31,20 @@ RECT Shrunk(RECT rectangle, int by)
 
 UINT TextFormat(const Button::Look& look, DWORD standardAlignment)
 {
-    UINT format = look.hiddenCues & UISF_HIDEACCEL ? DT_HIDEPREFIX : 0;
-    format |= look.style & BS_MULTILINE ? DT_WORDBREAK : DT_SINGLELINE;
+    const UINT format = look.style & BS_MULTILINE ? DT_WORDBREAK : DT_SINGLELINE;
     DWORD alignment = look.style & BS_CENTER;
     if (alignment == 0)
         alignment = standardAlignment;
     return format | (alignment == BS_CENTER ? DT_CENTER : alignment == BS_RIGHT ? DT_RIGHT : DT_LEFT);
 }
 
-/// Draws the caption and, around it, the focus rectangle. Text stands in the middle of the height unless BS_TOP or BS_BOTTOM ask for more.
+/// Draws the caption and, around it, the focus rectangle. Text stands in the middle of the height.
 void DrawCaption(Canvas& canvas, const RECT& area, const Button::Look& look, UINT format)
 {
     TextRuler ruler(look.font);
     const SIZE size = ruler.Box(look.text, area.right - area.left, format);
     RECT cell = area;
-    const DWORD vertical = look.style & BS_VCENTER;
-    const int spare = area.bottom - area.top - size.cy;
-    cell.top += vertical == BS_TOP ? 0 : vertical == BS_BOTTOM ? spare : spare / 2;
+    cell.top += (area.bottom - area.top - size.cy) / 2;
     cell.bottom = cell.top + size.cy;
     canvas.BackMode(TRANSPARENT);
     if (!look.enabled && !look.themed) {
@@ -53,8 +56,7 @@ void DrawCaption(Canvas& canvas, const RECT& area, const Button::Look& look, UIN
         canvas.TextColor(SystemColor(COLOR_GRAYTEXT));
     RECT text = cell;
     canvas.Text(look.text, text, format);
-    if ((look.state & BST_FOCUS) && !(look.hiddenCues & UISF_HIDEFOCUS) && (look.style & BS_TYPEMASK) >= BS_CHECKBOX &&
-        !(look.style & BS_PUSHLIKE)) {
+    if ((look.state & BST_FOCUS) && IsCheckBox(look.style)) {
         RECT focus{cell.left - 1, cell.top, std::min<LONG>(cell.left + size.cx + 1, area.right), cell.bottom};
         if (format & DT_RIGHT)
             focus = {std::max<LONG>(area.right - size.cx - 1, area.left), cell.top, area.right, cell.bottom};
@@ -74,25 +76,20 @@ void PaintPush(HDC dc, const RECT& client, const Button::Look& look, HBRUSH back
         canvas.Font(look.font);
     canvas.Fill(client, background);
     const bool pushed = (look.state & (BST_PUSHED | BST_CHECKED)) != 0;
-    const bool isDefault = (look.style & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
     RECT face = client;
     if (look.themed) {
         int state = StateOf(look);
-        if (state == PBS_NORMAL && (pushed || isDefault))
-            state = pushed ? PBS_PRESSED : PBS_DEFAULTED;
+        if (state == PBS_NORMAL && pushed)
+            state = PBS_PRESSED;
         SimPc::Current().Get<Theme>().Draw(VSCLASS_BUTTON, dc, BP_PUSHBUTTON, state, client);
     } else {
-        if (isDefault) {
-            canvas.Outline(face, SystemColor(COLOR_WINDOWFRAME));
-            face = Shrunk(face, 1);
-        }
         canvas.Edge(face, pushed ? EDGE_SUNKEN : EDGE_RAISED, BF_RECT | BF_SOFT | BF_MIDDLE | BF_ADJUST);
     }
     RECT text = Shrunk(client, 3);
     if (pushed && !look.themed)
         text = {text.left + 1, text.top + 1, text.right + 1, text.bottom + 1};
     DrawCaption(canvas, text, look, TextFormat(look, BS_CENTER));
-    if ((look.state & BST_FOCUS) && !(look.hiddenCues & UISF_HIDEFOCUS))
+    if (look.state & BST_FOCUS)
         canvas.FocusRect(Shrunk(client, 3));
 }
 
@@ -118,10 +115,8 @@ void PaintCheckBox(HDC dc, const RECT& client, const Button::Look& look, HBRUSH 
     if (look.font)
         canvas.Font(look.font);
     canvas.Fill(client, background);
-    const DWORD vertical = look.style & BS_VCENTER;
-    RECT box{client.left, client.top, client.left + kBox, 0};
-    box.top = vertical == BS_TOP ? client.top : vertical == BS_BOTTOM ? client.bottom - kBox : (client.top + client.bottom - kBox) / 2;
-    box.bottom = box.top + kBox;
+    const LONG top = (client.top + client.bottom - kBox) / 2;
+    RECT box{client.left, top, client.left + kBox, top + kBox};
     RECT text{box.right + kTextGap, client.top, client.right, client.bottom};
     if (look.style & BS_LEFTTEXT) {
         box = {client.right - kBox, box.top, client.right, box.bottom};
@@ -136,35 +131,11 @@ void PaintCheckBox(HDC dc, const RECT& client, const Button::Look& look, HBRUSH 
     DrawCaption(canvas, text, look, TextFormat(look, BS_LEFT));
 }
 
-void PaintGroupBox(HDC dc, const RECT& client, const Button::Look& look, HBRUSH background)
-{
-    Canvas canvas(dc);
-    if (look.font)
-        canvas.Font(look.font);
-    TextRuler ruler(look.font);
-    const SIZE size = ruler.Box(look.text, client.right - client.left, DT_SINGLELINE);
-    RECT frame{client.left, client.top + ruler.LineHeight() / 2, client.right, client.bottom};
-    if (look.themed)
-        SimPc::Current().Get<Theme>().Draw(VSCLASS_BUTTON, dc, BP_GROUPBOX, look.enabled ? GBS_NORMAL : GBS_DISABLED, frame);
-    else
-        canvas.Edge(frame, EDGE_ETCHED, BF_RECT);
-    if (look.text.empty())
-        return;
-    const RECT text{client.left + 9, client.top, client.left + 9 + size.cx, client.top + size.cy};
-    canvas.Fill({text.left - 2, text.top, text.right + 2, text.bottom}, background);
-    Button::Look caption = look;
-    caption.state = 0;
-    DrawCaption(canvas, text, caption, TextFormat(look, BS_LEFT));
-}
-
 }  // namespace
 
 void PaintButton(HDC dc, const RECT& client, const Button::Look& look, HBRUSH background)
 {
-    const DWORD kind = look.style & BS_TYPEMASK;
-    if (kind == BS_GROUPBOX)
-        PaintGroupBox(dc, client, look, background);
-    else if (kind >= BS_CHECKBOX && kind <= BS_AUTO3STATE && !(look.style & BS_PUSHLIKE))
+    if (IsCheckBox(look.style))
         PaintCheckBox(dc, client, look, background);
     else
         PaintPush(dc, client, look, background);

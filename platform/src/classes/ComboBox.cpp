@@ -13,20 +13,23 @@ LRESULT CALLBACK ComboBoxProcedure(HWND window, UINT message, WPARAM wParam, LPA
     return ControlProcedure<ComboBox>(window, message, wParam, lParam);
 }
 
+bool ComboBox::Create(const CREATESTRUCTW& create)
+{
+    if ((create.style & 3) != CBS_DROPDOWNLIST) {
+        SimPc::Current().Unsupported("ComboBox: a style other than CBS_DROPDOWNLIST");
+        return false;
+    }
+    openHeight_ = create.cy;
+    // A scroll bar is asked for the list; the field has none.
+    inner::SetStyle(window_, WS_VSCROLL | WS_HSCROLL, 0);
+    return true;
+}
+
 LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
-        case WM_NCCREATE: {
-            const auto& create = *reinterpret_cast<const CREATESTRUCTW*>(lParam);
-            if ((create.style & 3) != CBS_DROPDOWNLIST) {
-                SimPc::Current().Unsupported("ComboBox: a style other than CBS_DROPDOWNLIST");
-                return FALSE;
-            }
-            openHeight_ = create.cy;
-            // A scroll bar is asked for the list; the field has none.
-            WindowOf(window_)->style &= ~static_cast<DWORD>(WS_VSCROLL | WS_HSCROLL);
-            return inner::DefWindowProc(window_, message, wParam, lParam);
-        }
+        case WM_NCCREATE:
+            return Create(*reinterpret_cast<const CREATESTRUCTW*>(lParam)) && inner::DefWindowProc(window_, message, wParam, lParam);
         case WM_CREATE:
             FitHeight();
             return 0;
@@ -34,15 +37,9 @@ LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam)
             if (list_)
                 inner::DestroyWindow(std::exchange(list_, nullptr));
             return 0;
-        case WM_WINDOWPOSCHANGING: {
-            // Whatever height the window is given is the open one; closed it is as high as its field.
-            auto& place = *reinterpret_cast<WINDOWPOS*>(lParam);
-            if (!(place.flags & SWP_NOSIZE) && place.cy != ClosedHeight()) {
-                openHeight_ = place.cy;
-                place.cy = ClosedHeight();
-            }
+        case WM_WINDOWPOSCHANGING:
+            KeepHeight(*reinterpret_cast<WINDOWPOS*>(lParam));
             return inner::DefWindowProc(window_, message, wParam, lParam);
-        }
         case CB_SHOWDROPDOWN:
             if (wParam && !dropped_)
                 DropDown();
@@ -51,35 +48,15 @@ LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam)
             return TRUE;
         case CB_GETDROPPEDSTATE:
             return dropped_;
-        case CB_GETDROPPEDCONTROLRECT: {
-            RECT rectangle = inner::GetWindowRect(window_);
-            rectangle.bottom += VisibleItems() * ItemHeight() + 2;
-            *reinterpret_cast<RECT*>(lParam) = rectangle;
-            return TRUE;
-        }
         case WM_GETTEXTLENGTH:
-            return selected_ < 0 ? 0 : static_cast<LRESULT>(items_[static_cast<std::size_t>(selected_)].text.size());
+            return selected_ < 0 ? 0 : static_cast<LRESULT>(items_[static_cast<std::size_t>(selected_)].size());
         case WM_GETTEXT:
-            return CopyText(selected_ < 0 ? u"" : items_[static_cast<std::size_t>(selected_)].text, wParam,
-                            reinterpret_cast<char16_t*>(lParam));
+            return CopyText(selected_ < 0 ? u"" : items_[static_cast<std::size_t>(selected_)], wParam, reinterpret_cast<char16_t*>(lParam));
         case WM_SETTEXT:
             return CB_ERR;  // The field shows items only.
-        case WM_GETDLGCODE: {
-            const auto* asked = reinterpret_cast<const MSG*>(lParam);
-            const bool closes =
-                dropped_ && asked && asked->message == WM_KEYDOWN && (asked->wParam == VK_RETURN || asked->wParam == VK_ESCAPE);
-            return DLGC_WANTARROWS | DLGC_WANTCHARS | (closes ? DLGC_WANTMESSAGE : 0);
-        }
         case WM_SETFOCUS:
-            Repaint();
-            Notify(CBN_SETFOCUS);
-            return 0;
         case WM_KILLFOCUS:
-            if (dropped_)
-                RollUp(false);
-            Repaint();
-            if (Alive())
-                Notify(CBN_KILLFOCUS);
+            FocusMoved(message == WM_SETFOCUS);
             return 0;
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
@@ -89,10 +66,7 @@ LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam)
                 DropDown();
             return 0;
         case WM_MOUSEWHEEL:
-            if (dropped_)
-                ScrollList(-3 * GET_WHEEL_DELTA_WPARAM(wParam) / WHEEL_DELTA);
-            else
-                ChooseByKey(selected_ + (GET_WHEEL_DELTA_WPARAM(wParam) > 0 ? -1 : 1));
+            Turn(GET_WHEEL_DELTA_WPARAM(wParam));
             return 0;
         case WM_KEYDOWN:
         case WM_SYSKEYDOWN:
@@ -112,6 +86,32 @@ LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     }
 }
 
+void ComboBox::KeepHeight(WINDOWPOS& place)
+{
+    // Whatever height the window is given is the open one; closed it is as high as its field.
+    if ((place.flags & SWP_NOSIZE) || place.cy == ClosedHeight())
+        return;
+    openHeight_ = place.cy;
+    place.cy = ClosedHeight();
+}
+
+void ComboBox::FocusMoved(bool here)
+{
+    if (!here && dropped_)
+        RollUp(false);
+    Repaint();
+    if (Alive())
+        Notify(here ? CBN_SETFOCUS : CBN_KILLFOCUS);
+}
+
+void ComboBox::Turn(int wheel)
+{
+    if (dropped_)
+        ScrollList(-3 * wheel / WHEEL_DELTA);
+    else
+        ChooseByKey(selected_ + (wheel > 0 ? -1 : 1));
+}
+
 void ComboBox::FontChanged()
 {
     FitHeight();
@@ -119,12 +119,12 @@ void ComboBox::FontChanged()
 
 int ComboBox::ItemHeight() const
 {
-    return itemHeight_ ? itemHeight_ : TextRuler(font_).LineHeight();
+    return TextRuler(font_).LineHeight();
 }
 
 int ComboBox::FieldHeight() const
 {
-    return fieldHeight_ ? fieldHeight_ : TextRuler(font_).LineHeight() + 2;
+    return TextRuler(font_).LineHeight() + 2;
 }
 
 void ComboBox::FitHeight() const
@@ -183,10 +183,13 @@ void ComboBox::TypeCharacter(char16_t character)
 {
     if (character < u' ')
         return;
-    const char16_t wanted[] = {character, 0};
-    const auto found = Find(dropped_ ? highlighted_ : selected_, wanted, false);
-    if (found != CB_ERR)
-        ChooseByKey(static_cast<int>(found));
+    const std::u16string wanted = UpperCase({&character, 1});
+    const int count = static_cast<int>(items_.size());
+    for (int step = 1; step <= count; ++step) {  // Round the end, back to where the search began.
+        const int item = ((dropped_ ? highlighted_ : selected_) + step) % count;
+        if (UpperCase(items_[static_cast<std::size_t>(item)]).starts_with(wanted))
+            return ChooseByKey(item);
+    }
 }
 
 void ComboBox::ChooseByKey(int item)

@@ -12,13 +12,9 @@ public:
     using Control::Control;
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    struct Item {
-        std::u16string text;
-        LPARAM data = 0;
-    };
     /// What the two painters need to know. Heights are pixels.
     struct Look {
-        const std::vector<Item>& items;
+        const std::vector<std::u16string>& items;
         int shown = -1;  // the item in the field; in the list the highlighted one
         int first = 0;   // the topmost item of the list
         int itemHeight = 0;
@@ -48,13 +44,15 @@ protected:
     void FontChanged() override;
 
 private:
+    bool Create(const CREATESTRUCTW& create);
+    void KeepHeight(WINDOWPOS& place);
+    void FocusMoved(bool here);
+    /// The mouse wheel; 120 is one notch away from the user.
+    void Turn(int wheel);
+
     // The list of texts (ComboItems.cpp).
     LRESULT HandleItemMessage(UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT Insert(std::size_t at, const char16_t* text);
-    LRESULT Delete(std::size_t index);
-    [[nodiscard]] LRESULT Find(INT after, const char16_t* text, bool whole) const;
     [[nodiscard]] LRESULT CopyText(const std::u16string& text, std::size_t capacity, char16_t* buffer) const;
-    LRESULT SetHeight(INT item, int pixels);
 
     // Heights, keys, the open list.
     [[nodiscard]] int ItemHeight() const;
@@ -67,13 +65,11 @@ private:
     void TypeCharacter(char16_t character);
     void ChooseByKey(int item);
 
-    std::vector<Item> items_;
+    std::vector<std::u16string> items_;
     int selected_ = -1;
     int highlighted_ = -1;
     int firstVisible_ = 0;
-    int itemHeight_ = 0;   // 0: the font's
-    int fieldHeight_ = 0;  // 0: the font's
-    int openHeight_ = 0;   // the height that the creator asked for, list included
+    int openHeight_ = 0;  // the height that the creator asked for, list included
     HWND list_ = nullptr;
     bool dropped_ = false;
 };

@@ -62,7 +62,7 @@ void PaintComboField(HDC dc, const RECT& client, const ComboBox::Look& look, HBR
     if (!look.enabled)
         canvas.TextColor(SystemColor(COLOR_GRAYTEXT));
     const bool marked = look.focused && !look.dropped;
-    const std::u16string text = look.shown < 0 ? u"" : look.items[static_cast<std::size_t>(look.shown)].text;
+    const std::u16string text = look.shown < 0 ? u"" : look.items[static_cast<std::size_t>(look.shown)];
     DrawItem(canvas, field, text, marked && !look.themed);
     if (marked)
         canvas.FocusRect(field);
@@ -78,7 +78,7 @@ void PaintComboList(HDC dc, const RECT& client, const ComboBox::Look& look, HBRU
     RECT cell{client.left, client.top, client.right, client.top + look.itemHeight};
     for (int index = look.first; index < static_cast<int>(look.items.size()) && cell.top < client.bottom; ++index) {
         canvas.TextColor(SystemColor(COLOR_WINDOWTEXT));
-        DrawItem(canvas, cell, look.items[static_cast<std::size_t>(index)].text, index == look.shown);
+        DrawItem(canvas, cell, look.items[static_cast<std::size_t>(index)], index == look.shown);
         cell.top += look.itemHeight;
         cell.bottom += look.itemHeight;
     }

@@ -41,11 +41,6 @@ LRESULT Control::HandleShared(UINT message, WPARAM wParam, LPARAM lParam)
                 }
             }
             return 0;
-        case WM_UPDATEUISTATE: {
-            const LRESULT result = inner::DefWindowProc(window_, message, wParam, lParam);
-            Repaint();
-            return result;
-        }
         default:
             return inner::DefWindowProc(window_, message, wParam, lParam);
     }
@@ -61,11 +56,6 @@ bool Control::Themed() const
     auto& theme = SimPc::Current().Get<Theme>();
     const std::u16string* own = theme.WindowTheme(window_);
     return theme.Works() && !(own && own->empty());
-}
-
-UINT Control::HiddenCues() const
-{
-    return static_cast<UINT>(inner::DefWindowProc(window_, WM_QUERYUISTATE, 0, 0));
 }
 
 void Control::Notify(int code) const

@@ -41,8 +41,6 @@ protected:
     [[nodiscard]] std::u16string Text() const { return inner::GetText(window_); }
     /// Whether the system draws this window with visual styles.
     [[nodiscard]] bool Themed() const;
-    /// Whether access keys and focus rectangles are to be hidden (UISF_ bits).
-    [[nodiscard]] UINT HiddenCues() const;
     void Repaint() const { inner::InvalidateRect(window_, nullptr, true); }
 
     /// WM_COMMAND with this code to the parent. The window may be gone afterwards.

@@ -65,8 +65,6 @@ LRESULT Edit::Handle(UINT message, WPARAM wParam, LPARAM lParam)
             inner::RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
             Notify(message == WM_SETFOCUS ? EN_SETFOCUS : EN_KILLFOCUS);
             return 0;
-        case WM_GETDLGCODE:
-            return DLGC_HASSETSEL | DLGC_WANTCHARS | DLGC_WANTARROWS | (multiLine_ ? DLGC_WANTALLKEYS : 0);
         case WM_CHAR:
             TypeCharacter(static_cast<char16_t>(wParam));
             return 0;
@@ -80,22 +78,10 @@ LRESULT Edit::Handle(UINT message, WPARAM wParam, LPARAM lParam)
             return HandleMouse(message, wParam, lParam);
         case WM_CONTEXTMENU:
             return 0;  // Its menu opens, and nobody is there to choose from it.
-        case WM_HSCROLL:
-        case WM_VSCROLL:
         case WM_MOUSEWHEEL:
-            return HandleScroll(message, wParam, lParam);
-        case WM_CUT:
-            Cut();
-            return 0;
-        case WM_COPY:
-            Copy();
-            return 0;
-        case WM_PASTE:
-            Paste();
-            return 0;
-        case WM_CLEAR:
-            if (!readOnly_ && text_.HasSelection())
-                ReplaceSelection({}, EditText::Record::Step);
+            if (!multiLine_)
+                return inner::DefWindowProc(window_, message, wParam, lParam);
+            ScrollLines(-3 * GET_WHEEL_DELTA_WPARAM(wParam) / WHEEL_DELTA);
             return 0;
         case WM_ERASEBKGND:
             return 1;
@@ -105,33 +91,38 @@ LRESULT Edit::Handle(UINT message, WPARAM wParam, LPARAM lParam)
             return 0;
         default:
             return message >= EM_GETSEL && message <= EM_CHARFROMPOS ? HandleEditMessage(message, wParam, lParam)
-                   : message == WM_UNDO                              ? HandleEditMessage(EM_UNDO, 0, 0)
                                                                      : HandleShared(message, wParam, lParam);
     }
+}
+
+LRESULT Edit::GetSelection(DWORD* first, DWORD* last) const
+{
+    const auto start = static_cast<DWORD>(text_.Start());
+    const auto end = static_cast<DWORD>(text_.End());
+    if (first)
+        *first = start;
+    if (last)
+        *last = end;
+    // Positions that do not fit into the two halves of the result are told only through the pointers.
+    return start > 0xFFFF || end > 0xFFFF ? -1 : MAKELRESULT(start, end);
+}
+
+void Edit::SetSelection(INT start, INT end)
+{
+    if (start < 0)
+        Select(text_.Caret(), text_.Caret());
+    else
+        Select(static_cast<std::size_t>(start), end < 0 ? text_.Length() : static_cast<std::size_t>(end));
 }
 
 LRESULT Edit::HandleEditMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
-        case EM_GETSEL: {
-            const auto start = static_cast<DWORD>(text_.Start());
-            const auto end = static_cast<DWORD>(text_.End());
-            if (wParam)
-                *reinterpret_cast<DWORD*>(wParam) = start;
-            if (lParam)
-                *reinterpret_cast<DWORD*>(lParam) = end;
-            // Positions that do not fit into the two halves of the result are told only through the pointers.
-            return start > 0xFFFF || end > 0xFFFF ? -1 : MAKELRESULT(start, end);
-        }
-        case EM_SETSEL: {
-            const auto start = static_cast<INT>(wParam);
-            const auto end = static_cast<INT>(lParam);
-            if (start < 0)
-                Select(text_.Caret(), text_.Caret());
-            else
-                Select(static_cast<std::size_t>(start), end < 0 ? text_.Length() : static_cast<std::size_t>(end));
+        case EM_GETSEL:
+            return GetSelection(reinterpret_cast<DWORD*>(wParam), reinterpret_cast<DWORD*>(lParam));
+        case EM_SETSEL:
+            SetSelection(static_cast<INT>(wParam), static_cast<INT>(lParam));
             return 1;
-        }
         case EM_REPLACESEL: {
             const auto* text = reinterpret_cast<const char16_t*>(lParam);
             ReplaceSelection(text ? text : u"", wParam ? EditText::Record::Step : EditText::Record::None);
@@ -171,10 +162,6 @@ LRESULT Edit::HandleEditMessage(UINT message, WPARAM wParam, LPARAM lParam)
         case EM_SCROLLCARET:
             ShowCaret();
             return 1;
-        case EM_LINESCROLL:
-            if (multiLine_)
-                ScrollLines(static_cast<int>(lParam));
-            return multiLine_;
         default:
             return HandleLineMessage(message, wParam, lParam);
     }
@@ -200,20 +187,9 @@ LRESULT Edit::HandleLineMessage(UINT message, WPARAM wParam, LPARAM lParam) cons
         case EM_GETFIRSTVISIBLELINE:
             return static_cast<LRESULT>(multiLine_ ? view_.FirstLine()
                                                    : view_.PositionAt({view_.GetShape().format.left, view_.GetShape().format.top}));
-        case EM_POSFROMCHAR: {
-            if (wParam > text_.Length())
-                return -1;
-            const POINT point = view_.PointOf(wParam);
-            return MAKELRESULT(point.x, point.y);
-        }
-        case EM_CHARFROMPOS: {
-            const std::size_t position = view_.PositionAt({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
-            return MAKELRESULT(position, lines.LineOf(position));
-        }
-        default: {
+        default:
             SimPc::Current().Unsupported("Edit: message " + std::to_string(message));
             return 0;
-        }
     }
 }
 
@@ -279,6 +255,7 @@ void Edit::Arrange()
                                        {client.left + 1, client.top + 1, client.right - 1, client.bottom - 1}});
 }
 
+/// Which colours are asked for: conformance test Edit.ColorsAreAskedAsEditWhileItCanBeTypedInto.
 void Edit::Paint(HDC dc)
 {
     const HBRUSH background = AskColors(readOnly_ || !Enabled() ? WM_CTLCOLORSTATIC : WM_CTLCOLOREDIT, dc);

@@ -28,6 +28,9 @@ private:
     // Life and questions (Edit.cpp).
     bool Create(const CREATESTRUCTW& create);
     LRESULT HandleEditMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT GetSelection(DWORD* first, DWORD* last) const;
+    /// A negative start selects nothing, a negative end is the end of the text.
+    void SetSelection(INT start, INT end);
     LRESULT HandleLineMessage(UINT message, WPARAM wParam, LPARAM lParam) const;
     [[nodiscard]] LRESULT GetLine(std::size_t line, char16_t* buffer) const;
     [[nodiscard]] LRESULT LineLength(WPARAM position) const;
@@ -58,7 +61,6 @@ private:
     LRESULT HandleKeyDown(WPARAM key, LPARAM lParam);
     [[nodiscard]] bool MoveByKey(WPARAM key);
     LRESULT HandleMouse(UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT HandleScroll(UINT message, WPARAM wParam, LPARAM lParam);
 
     EditText text_;
     EditView view_;

@@ -10,7 +10,8 @@ void Edit::SetText(const char16_t* text)
     text_.Assign(Cased(text ? text : u""));
     Arrange();
     Repaint();
-    // An Edit with many lines keeps silent about text that it is given as a whole.
+    // An Edit with many lines keeps silent about text that it is given as a whole: conformance test
+    // Edit.SettingTheText_IsToldByASingleLineOnly.
     if (multiLine_)
         return;
     Notify(EN_UPDATE);
@@ -43,6 +44,7 @@ void Edit::Undo()
         Changed();
 }
 
+/// Conformance test Edit.TypingAndReplacing_IsToldByBothKinds.
 void Edit::Changed()
 {
     Arrange();

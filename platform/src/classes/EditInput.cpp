@@ -174,32 +174,6 @@ LRESULT Edit::HandleMouse(UINT message, WPARAM wParam, LPARAM lParam)
     }
 }
 
-LRESULT Edit::HandleScroll(UINT message, WPARAM wParam, LPARAM lParam)
-{
-    if (!multiLine_ || message == WM_HSCROLL)
-        return message == WM_MOUSEWHEEL ? inner::DefWindowProc(window_, message, wParam, lParam) : 0;
-    const int page = static_cast<int>(view_.VisibleLines());
-    int lines = 0;
-    if (message == WM_MOUSEWHEEL) {
-        lines = -3 * GET_WHEEL_DELTA_WPARAM(wParam) / WHEEL_DELTA;
-    } else {
-        switch (LOWORD(wParam)) {
-            case SB_LINEUP:
-            case SB_LINEDOWN:
-                lines = LOWORD(wParam) == SB_LINEUP ? -1 : 1;
-                break;
-            case SB_PAGEUP:
-            case SB_PAGEDOWN:
-                lines = LOWORD(wParam) == SB_PAGEUP ? -page : page;
-                break;
-            default:
-                return 0;
-        }
-    }
-    ScrollLines(lines);
-    return 0;
-}
-
 void Edit::ScrollLines(int lines)
 {
     if (!view_.ScrollBy(lines))

@@ -13,14 +13,8 @@ public:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         switch (message) {
-            case WM_GETDLGCODE:
-                return DLGC_STATIC;
             case WM_NCHITTEST:
-                return Has(SS_NOTIFY) ? HTCLIENT : HTTRANSPARENT;
-            case WM_LBUTTONDOWN:
-                if (Has(SS_NOTIFY))
-                    Notify(STN_CLICKED);
-                return 0;
+                return HTTRANSPARENT;
             case WM_ERASEBKGND:
                 return 1;
             case WM_SETTEXT: {
@@ -54,20 +48,9 @@ protected:
 private:
     [[nodiscard]] UINT Format() const
     {
-        UINT format = DT_EXPANDTABS;
-        const DWORD kind = Style() & 0x1F;
-        if (kind > SS_RIGHT && kind != SS_LEFTNOWORDWRAP)
-            SimPc::Current().Unsupported("Static: style " + std::to_string(kind));
-        format |= kind == SS_CENTER ? DT_CENTER : kind == SS_RIGHT ? DT_RIGHT : DT_LEFT;
-        if (kind != SS_LEFTNOWORDWRAP)
-            format |= DT_WORDBREAK;
-        if (Has(SS_CENTERIMAGE))
-            format = (format & ~static_cast<UINT>(DT_WORDBREAK)) | DT_SINGLELINE | DT_VCENTER;
-        if (Has(SS_NOPREFIX))
-            format |= DT_NOPREFIX;
-        else if (HiddenCues() & UISF_HIDEACCEL)
-            format |= DT_HIDEPREFIX;
-        return format;
+        if (Style() & 0xFFFF)
+            SimPc::Current().Unsupported("Static: style " + std::to_string(Style() & 0xFFFF));
+        return DT_EXPANDTABS | DT_LEFT | DT_WORDBREAK;
     }
 };
 

@@ -55,25 +55,17 @@ LRESULT Tooltip::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     }
 }
 
-HWND Tooltip::WindowOfTool(const Tool& tool) const
-{
-    return tool.flags & TTF_IDISHWND ? reinterpret_cast<HWND>(tool.id) : tool.window;
-}
-
 int Tooltip::ToolAt(HWND window, POINT client) const
 {
-    const auto found = std::find_if(tools_.begin(), tools_.end(), [&](const Tool& tool) {
-        return WindowOfTool(tool) == window && ((tool.flags & TTF_IDISHWND) || Holds(tool.rectangle, client));
-    });
+    const auto found = std::find_if(tools_.begin(), tools_.end(),
+                                    [&](const Tool& tool) { return tool.window == window && Holds(tool.rectangle, client); });
     return found == tools_.end() ? -1 : static_cast<int>(found - tools_.begin());
 }
 
 bool Tooltip::MouseIsOn(const Tool& tool) const
 {
-    const HWND window = WindowOfTool(tool);
     const Window* under = WindowUnder(Queues().cursor);
-    const POINT point = inner::MapPoint(nullptr, window, Queues().cursor);
-    return under && under->handle == window && ((tool.flags & TTF_IDISHWND) || Holds(tool.rectangle, point));
+    return under && under->handle == tool.window && Holds(tool.rectangle, inner::MapPoint(nullptr, tool.window, Queues().cursor));
 }
 
 void Tooltip::Relay(HWND tool, UINT message, LPARAM lParam)
@@ -89,7 +81,7 @@ void Tooltip::Relay(HWND tool, UINT message, LPARAM lParam)
         current_ = found;
         spent_ = false;
     }
-    if (current_ >= 0 && active_ && !shown_ && !spent_) {
+    if (current_ >= 0 && !shown_ && !spent_) {
         inner::SetTimer(window_, kShowTimer, static_cast<UINT>(initialDelay_), nullptr);
         inner::SetTimer(window_, kLeaveTimer, kLeaveInterval, nullptr);
     }
@@ -101,7 +93,7 @@ void Tooltip::HandleTimer(WPARAM id)
     switch (id) {
         case kShowTimer:
             inner::KillTimer(window_, kShowTimer);
-            if (onTool && active_)
+            if (onTool)
                 Show(current_);
             break;
         case kLeaveTimer:
@@ -130,9 +122,6 @@ void Tooltip::Show(int index)
     const POINT place = PlaceFor(tool, size);
     inner::SetWindowPos(window_, HWND_TOPMOST, place.x, place.y, size.cx, size.cy, SWP_NOACTIVATE);
     if (!std::exchange(shown_, true)) {
-        NotifyTool(tool, TTN_SHOW);  // A window that wants the tip elsewhere moves it now.
-        if (!Alive())
-            return;
         inner::SetTimer(window_, kPopTimer, static_cast<UINT>(autoPopDelay_), nullptr);
         inner::ShowWindow(window_, SW_SHOWNOACTIVATE);
     }
@@ -143,11 +132,7 @@ void Tooltip::Pop()
 {
     inner::KillTimer(window_, kShowTimer);
     inner::KillTimer(window_, kPopTimer);
-    if (!std::exchange(shown_, false))
-        return;
-    if (current_ >= 0)
-        NotifyTool(tools_[static_cast<std::size_t>(current_)], TTN_POP);
-    if (Alive())
+    if (std::exchange(shown_, false))
         inner::ShowWindow(window_, SW_HIDE);
 }
 
@@ -157,8 +142,8 @@ POINT Tooltip::PlaceFor(const Tool& tool, SIZE size) const
     POINT place = Queues().cursor;
     place.y += kCursorHeight;
     if (tool.flags & TTF_CENTERTIP) {
-        const RECT rectangle = tool.flags & TTF_IDISHWND ? inner::GetClientRect(WindowOfTool(tool)) : tool.rectangle;
-        const POINT below = inner::MapPoint(WindowOfTool(tool), nullptr, {(rectangle.left + rectangle.right) / 2, rectangle.bottom});
+        const POINT below =
+            inner::MapPoint(tool.window, nullptr, {(tool.rectangle.left + tool.rectangle.right) / 2, tool.rectangle.bottom});
         place = {below.x - size.cx / 2, below.y};
     }
     place.x = std::clamp<LONG>(place.x, area.left, std::max<LONG>(area.right - size.cx, area.left));
@@ -170,12 +155,6 @@ POINT Tooltip::PlaceFor(const Tool& tool, SIZE size) const
 Tooltip::Look Tooltip::LookOf(const Tool& tool) const
 {
     return {tool.text, title_, icon_, Has(TTS_BALLOON), Has(TTS_NOPREFIX), maxWidth_, backColor_, textColor_, font_};
-}
-
-LRESULT Tooltip::NotifyTool(const Tool& tool, UINT code) const
-{
-    NMHDR header{window_, tool.id, code};
-    return inner::SendMessage(tool.window, WM_NOTIFY, tool.id, reinterpret_cast<LPARAM>(&header));
 }
 
 void Tooltip::Paint(HDC dc)

@@ -46,29 +46,25 @@ private:
 
     // Tools and settings (TooltipTools.cpp).
     LRESULT HandleTooltipMessage(UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT HandleToolMessage(UINT message, WPARAM wParam, TTTOOLINFOW& info);
     bool AddTool(const TTTOOLINFOW& info);
     void RemoveTool(std::size_t index);
-    [[nodiscard]] int IndexOf(const TTTOOLINFOW& info) const;
+    [[nodiscard]] bool DescribeTool(TTTOOLINFOW& info) const;
     void SetDelay(WPARAM which, int milliseconds);
     [[nodiscard]] int Delay(WPARAM which) const;
 
     // Coming and going (Tooltip.cpp).
     [[nodiscard]] int ToolAt(HWND window, POINT client) const;
     [[nodiscard]] bool MouseIsOn(const Tool& tool) const;
-    [[nodiscard]] HWND WindowOfTool(const Tool& tool) const;
     void HandleTimer(WPARAM id);
     void Show(int tool);
     void Pop();
     [[nodiscard]] POINT PlaceFor(const Tool& tool, SIZE size) const;
     [[nodiscard]] Look LookOf(const Tool& tool) const;
-    LRESULT NotifyTool(const Tool& tool, UINT code) const;
 
     std::vector<Tool> tools_;
     int current_ = -1;  // the tool below the mouse
     bool shown_ = false;
     bool spent_ = false;  // shown and gone, or clicked: nothing more until the mouse has left the tool
-    bool active_ = true;
     int initialDelay_ = 500;
     int autoPopDelay_ = 5000;
     int reshowDelay_ = 100;

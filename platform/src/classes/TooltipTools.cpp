@@ -49,23 +49,12 @@ LRESULT Tooltip::HandleTooltipMessage(UINT message, WPARAM wParam, LPARAM lParam
 {
     switch (message) {
         case TTM_ADDTOOLW:
-        case TTM_DELTOOLW:
-        case TTM_GETTOOLINFOW:
-        case TTM_GETTEXTW:
-        case TTM_UPDATETIPTEXTW: {
+        case TTM_GETTOOLINFOW: {
             auto* info = reinterpret_cast<TTTOOLINFOW*>(lParam);
-            return info && KnownSize(info->cbSize) ? HandleToolMessage(message, wParam, *info) : FALSE;
+            return info && KnownSize(info->cbSize) && (message == TTM_ADDTOOLW ? AddTool(*info) : DescribeTool(*info));
         }
         case TTM_GETTOOLCOUNT:
             return static_cast<LRESULT>(tools_.size());
-        case TTM_ACTIVATE:
-            active_ = wParam != 0;
-            if (!active_)
-                Pop();
-            return 0;
-        case TTM_POP:
-            Pop();
-            return 0;
         case TTM_SETDELAYTIME:
             SetDelay(wParam, static_cast<SHORT>(LOWORD(lParam)));
             return 0;
@@ -95,46 +84,30 @@ LRESULT Tooltip::HandleTooltipMessage(UINT message, WPARAM wParam, LPARAM lParam
     }
 }
 
-LRESULT Tooltip::HandleToolMessage(UINT message, WPARAM wParam, TTTOOLINFOW& info)
+bool Tooltip::DescribeTool(TTTOOLINFOW& info) const
 {
-    if (message == TTM_ADDTOOLW)
-        return AddTool(info);
-    const int index = IndexOf(info);
-    if (index < 0)
-        return FALSE;
-    Tool& tool = tools_[static_cast<std::size_t>(index)];
-    const auto copyText = [&](std::size_t capacity) { info.lpszText[tool.text.copy(info.lpszText, capacity)] = 0; };
-    switch (message) {
-        case TTM_DELTOOLW:
-            RemoveTool(static_cast<std::size_t>(index));
-            return 0;
-        case TTM_GETTEXTW:
-            if (info.lpszText)
-                copyText(wParam ? wParam - 1 : std::u16string::npos);
-            return 0;
-        case TTM_UPDATETIPTEXTW:
-            tool.text = TextOf(info.lpszText);
-            if (shown_ && index == current_)
-                Show(index);
-            return 0;
-        default:
-            info.uFlags = tool.flags;
-            info.rect = tool.rectangle;
-            info.hinst = tool.instance;
-            if (info.cbSize >= TTTOOLINFOW_V2_SIZE)
-                info.lParam = tool.data;
-            if (info.lpszText)
-                copyText(std::u16string::npos);
-            return TRUE;
-    }
+    const auto found =
+        std::find_if(tools_.begin(), tools_.end(), [&](const Tool& tool) { return tool.window == info.hwnd && tool.id == info.uId; });
+    if (found == tools_.end())
+        return false;
+    info.uFlags = found->flags;
+    info.rect = found->rectangle;
+    info.hinst = found->instance;
+    if (info.cbSize >= TTTOOLINFOW_V2_SIZE)
+        info.lParam = found->data;
+    if (info.lpszText)
+        info.lpszText[found->text.copy(info.lpszText, std::u16string::npos)] = 0;
+    return true;
 }
 
 bool Tooltip::AddTool(const TTTOOLINFOW& info)
 {
+    if (info.uFlags & ~static_cast<UINT>(TTF_SUBCLASS | TTF_CENTERTIP))
+        SimPc::Current().Unsupported("tooltips_class32: a tool with the flags " + std::to_string(info.uFlags));
     const LPARAM data = info.cbSize >= TTTOOLINFOW_V2_SIZE ? info.lParam : 0;
     tools_.push_back({info.uFlags, info.hwnd, info.uId, info.rect, info.hinst, TextOf(info.lpszText), data});
     if (info.uFlags & TTF_SUBCLASS)
-        inner::SetWindowSubclass(WindowOfTool(tools_.back()), FollowTool, reinterpret_cast<UINT_PTR>(window_), 0);
+        inner::SetWindowSubclass(info.hwnd, FollowTool, reinterpret_cast<UINT_PTR>(window_), 0);
     return true;
 }
 
@@ -148,18 +121,10 @@ void Tooltip::RemoveTool(std::size_t index)
     }
     const Tool gone = tools_[index];
     tools_.erase(tools_.begin() + static_cast<std::ptrdiff_t>(index));
-    const HWND window = WindowOfTool(gone);
     const bool stillFollowed = std::any_of(tools_.begin(), tools_.end(),
-                                           [&](const Tool& tool) { return (tool.flags & TTF_SUBCLASS) && WindowOfTool(tool) == window; });
+                                           [&](const Tool& tool) { return (tool.flags & TTF_SUBCLASS) && tool.window == gone.window; });
     if ((gone.flags & TTF_SUBCLASS) && !stillFollowed)
-        inner::RemoveWindowSubclass(window, FollowTool, reinterpret_cast<UINT_PTR>(window_));
-}
-
-int Tooltip::IndexOf(const TTTOOLINFOW& info) const
-{
-    const auto found =
-        std::find_if(tools_.begin(), tools_.end(), [&](const Tool& tool) { return tool.window == info.hwnd && tool.id == info.uId; });
-    return found == tools_.end() ? -1 : static_cast<int>(found - tools_.begin());
+        inner::RemoveWindowSubclass(gone.window, FollowTool, reinterpret_cast<UINT_PTR>(window_));
 }
 
 void Tooltip::SetDelay(WPARAM which, int milliseconds)

@@ -59,17 +59,6 @@ BOOL Report(SimPc& pc, DWORD error)
 
 }  // namespace
 
-DWORD WINAPI GetFileAttributesW(LPCWSTR name)
-{
-    SIM_CALL(INVALID_FILE_ATTRIBUTES, ERROR_ACCESS_DENIED, name);
-    SimPc& pc = SimPc::Current();
-    const FileTree::Place place = Files().Find(OrEmpty(name));
-    if (!place.node)
-        return pc.Fail(place.error, INVALID_FILE_ATTRIBUTES);
-    const DWORD attributes = place.node->attributes | (place.node->folder ? FILE_ATTRIBUTE_DIRECTORY : FILE_ATTRIBUTE_ARCHIVE);
-    return attributes;
-}
-
 BOOL WINAPI CreateDirectoryW(LPCWSTR name, LPSECURITY_ATTRIBUTES)
 {
     SIM_CALL(FALSE, ERROR_ACCESS_DENIED, name);

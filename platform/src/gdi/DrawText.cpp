@@ -1,4 +1,4 @@
-// DrawTextW: prefixes, lines, word breaks, alignment, ellipses.
+// DrawTextW: prefixes, lines, word breaks, alignment, ellipses, as the conformance tests of Texts show them.
 #include "platform/src/core/Gate.h"
 #include "platform/src/gdi/Text.h"
 

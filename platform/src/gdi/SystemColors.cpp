@@ -11,9 +11,3 @@ DWORD WINAPI GetSysColor(int index)
     SIM_NOTE(index);
     return SimPc::Current().Get<Graphics>().SystemColor(index);
 }
-
-HBRUSH WINAPI GetSysColorBrush(int index)
-{
-    SIM_NOTE(index);
-    return SimPc::Current().Get<Graphics>().SystemBrush(index);
-}

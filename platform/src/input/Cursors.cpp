@@ -138,9 +138,3 @@ HCURSOR WINAPI SetCursor(HCURSOR cursor)
     SIM_NOTE(cursor);
     return std::exchange(Queues().Current().input->cursor, cursor);
 }
-
-BOOL WINAPI MessageBeep(UINT type)
-{
-    SIM_CALL(FALSE, ERROR_ACCESS_DENIED, type);
-    return TRUE;
-}

@@ -75,6 +75,7 @@ void CatchUpWithKeys(InputState& input)
         input.keys[key] = static_cast<BYTE>((input.keys[key] & 0x01) | (now[key] & 0x80));
 }
 
+/// Who is told what, in which order: conformance test WindowFocus.SetFocus_ActivatesTheWindowAboveAndTellsBothSides.
 bool Activate(Window& window, UINT how)
 {
     const WindowPtr keep = window.shared_from_this();
@@ -119,6 +120,8 @@ bool Activate(Window& window, UINT how)
     return input->active == handle;
 }
 
+/// The owner comes first, then whatever stands next on the screen: tool windows and such as refuse activation are passed over, so that the
+/// user does not lose the keyboard to a window that does not look as if it had it.
 void ActivateNext(Window& leaving)
 {
     ThreadQueue& queue = Queues().Of(leaving);

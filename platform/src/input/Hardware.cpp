@@ -130,6 +130,8 @@ Window* WindowUnder(POINT point)
     return FindUnder(Tree().Desktop().children, point, true);
 }
 
+/// The hardware's next move is what tells, also when none comes: Windows makes one up. Conformance test
+/// Input.Leaving_IsToldOnceToTheWindowThatAsked.
 void MouseMayHaveLeft()
 {
     const Window* under = WindowUnder(Queues().cursor);

@@ -13,13 +13,18 @@ namespace {
 
 constexpr DWORD kDoubleClickTime = 500;
 constexpr int kDoubleClickReach = 2;  // half of SM_CXDOUBLECLK
+// The messages of the frame stand in the same order as those of the client area.
+static_assert(WM_NCLBUTTONDOWN - WM_NCMOUSEMOVE == WM_LBUTTONDOWN - WM_MOUSEMOVE);
+static_assert(WM_NCLBUTTONUP - WM_NCMOUSEMOVE == WM_LBUTTONUP - WM_MOUSEMOVE);
+static_assert(WM_NCLBUTTONDBLCLK - WM_NCMOUSEMOVE == WM_LBUTTONDBLCLK - WM_MOUSEMOVE);
 
 struct Hit {
     WindowPtr window;
     int code = HTNOWHERE;
 };
 
-/// Windows at a point, the deepest and topmost first, each before the one that lies below it.
+/// Windows at a point, the deepest and topmost first, each before the one that lies below it. A disabled child lets the mouse through to
+/// its parent: conformance test Input.DisabledChild_LetsTheMouseThrough.
 void Collect(const std::vector<Window*>& siblings, POINT point, bool topLevel, std::vector<WindowPtr>& into)
 {
     for (Window* window : siblings) {
@@ -76,7 +81,8 @@ void UpdateButton(InputState& input, UINT message)
     state = IsDown(message) ? static_cast<BYTE>((state ^ 0x01) | 0x80) : static_cast<BYTE>(state & ~0x80);
 }
 
-/// Counts presses: the second one in the same place, soon enough, is a double click.
+/// Counts presses: the second one in the same place, soon enough, is a double click (conformance test
+/// Input.TwoQuickClicks_AreADoubleClick); a third begins anew.
 UINT CountClick(InputState& input, const Window& window, UINT message, const HardwareEvent& event, bool client)
 {
     const bool twice = input.clickWindow == window.handle && input.clickMessage == message &&
@@ -91,7 +97,8 @@ UINT CountClick(InputState& input, const Window& window, UINT message, const Har
     return twice && wanted ? message + (WM_LBUTTONDBLCLK - WM_LBUTTONDOWN) : message;
 }
 
-/// A press: the parents hear of it, then the top-level window may become active. False when the press is swallowed.
+/// A press: the parents hear of it, then the top-level window may become active (conformance test
+/// Input.ClickOnAChildOfAnInactiveWindow_ActivatesFirst). False when the press is swallowed.
 bool AnnouncePress(const Hit& hit, UINT message, const HardwareEvent& event)
 {
     Queues().foregroundLockedBy = 0;  // The user's click opens a lock on the foreground.

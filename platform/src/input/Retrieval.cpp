@@ -79,6 +79,7 @@ bool TakeTimer(ThreadQueue& queue, MSG& message, const MessageFilter& filter, bo
 
 }  // namespace
 
+/// The order: conformance tests MessageQueue.PostedComeBeforeQuitBeforePaint and Timer.FiresAfterEachPeriodAndOnlyWhenNothingElseWaits.
 bool Retrieve(ThreadQueue& queue, MSG& message, const MessageFilter& filter, bool remove)
 {
     queue.fresh = 0;

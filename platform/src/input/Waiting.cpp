@@ -35,6 +35,8 @@ void PassTime(std::uint64_t milliseconds)
 
 using namespace platform;
 
+// What counts as new and what as waiting: conformance test MessageQueue.Waiting_EndsWithWhatIsAskedFor.
+
 DWORD WINAPI GetQueueStatus(UINT flags)
 {
     SIM_NOTE(flags);

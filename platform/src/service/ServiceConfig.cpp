@@ -60,58 +60,6 @@ BOOL WINAPI QueryServiceConfigW(SC_HANDLE service, LPQUERY_SERVICE_CONFIGW confi
     return TRUE;
 }
 
-BOOL WINAPI QueryServiceConfig2W(SC_HANDLE service, DWORD level, LPBYTE buffer, DWORD size, LPDWORD needed)
-{
-    SIM_CALL(FALSE, ERROR_ACCESS_DENIED, service, level, size);
-    SimPc& pc = SimPc::Current();
-    const auto found = FindService(service, SERVICE_QUERY_CONFIG);
-    if (!found)
-        return FALSE;
-    if (level != SERVICE_CONFIG_DESCRIPTION)
-        return pc.Fail(ERROR_INVALID_LEVEL, FALSE);
-    const DWORD whole =
-        static_cast<DWORD>(sizeof(SERVICE_DESCRIPTIONW)) + (found->description.empty() ? 0 : SizeOfTexts(found->description));
-    *needed = whole;
-    if (!buffer || size < whole)
-        return pc.Fail(ERROR_INSUFFICIENT_BUFFER, FALSE);
-    auto* const description = reinterpret_cast<SERVICE_DESCRIPTIONW*>(buffer);
-    description->lpDescription = found->description.empty() ? nullptr : Packer(description + 1).Add(found->description);
-    return TRUE;
-}
-
-BOOL WINAPI ChangeServiceConfigW(SC_HANDLE service, DWORD type, DWORD startType, DWORD errorControl, LPCWSTR path, LPCWSTR loadOrderGroup,
-                                 LPDWORD tag, LPCWSTR dependencies, LPCWSTR account, LPCWSTR password, LPCWSTR displayName)
-{
-    SIM_CALL(FALSE, ERROR_ACCESS_DENIED, service, type, startType, errorControl, path, account, password, displayName);
-    SimPc& pc = SimPc::Current();
-    const auto found = FindService(service, SERVICE_CHANGE_CONFIG);
-    if (!found)
-        return FALSE;
-    if (loadOrderGroup || tag || dependencies) {
-        pc.Unsupported("ChangeServiceConfigW: load-order group, tag or dependencies");
-        return FALSE;
-    }
-    Service changed = *found;
-    const auto change = [](DWORD& member, DWORD value) { member = value == SERVICE_NO_CHANGE ? member : value; };
-    change(changed.type, type);
-    change(changed.startType, startType);
-    change(changed.errorControl, errorControl);
-    changed.path = path ? path : changed.path;
-    changed.account = account ? account : changed.account;
-    changed.password = password ? password : changed.password;
-    changed.displayName = displayName ? displayName : changed.displayName;
-
-    DWORD error = WhyNotKind(changed.type, changed.startType, changed.errorControl);
-    if (found->markedForDeletion)
-        error = ERROR_SERVICE_MARKED_FOR_DELETE;
-    else if (error == NO_ERROR && account)
-        error = WhyNotAccount(pc, changed.account, changed.type);
-    if (error != NO_ERROR)
-        return pc.Fail(error, FALSE);
-    *found = changed;
-    return TRUE;
-}
-
 BOOL WINAPI ChangeServiceConfig2W(SC_HANDLE service, DWORD level, LPVOID information)
 {
     SIM_CALL(FALSE, ERROR_ACCESS_DENIED, service, level);

@@ -37,6 +37,7 @@ WindowPtr FindToPaint(const Window& parent, Actor thread, const std::function<bo
 
 }  // namespace
 
+/// Conformance test Painting.DeviceContext_IsClippedToWhatCanBeSeen.
 Region VisibleRegion(const Window& window, bool whole, bool clipChildren)
 {
     if (!window.IsShown())
@@ -66,7 +67,7 @@ Region VisibleRegion(const Window& window, bool whole, bool clipChildren)
 
 void Mark(Window& window, const Region& area, UINT flags)
 {
-    if (window.redrawOff || !window.IsShown())
+    if (!window.IsShown())
         return;
     const bool clips = (window.style & WS_CLIPCHILDREN) != 0;
     const Region own = area.Intersect(VisibleRegion(window, (flags & (RDW_FRAME | RDW_VALIDATE)) != 0, clips));

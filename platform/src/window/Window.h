@@ -21,8 +21,6 @@ struct WindowClass {
     ATOM atom = 0;
     UINT style = 0;
     WNDPROC procedure = nullptr;
-    int classExtra = 0;
-    int windowExtra = 0;
     HINSTANCE instance = nullptr;
     HICON icon = nullptr;
     HICON smallIcon = nullptr;
@@ -53,17 +51,14 @@ struct Window final : Object, std::enable_shared_from_this<Window> {
     LONG_PTR id = 0;  // identifier of a child, menu of the others
     HINSTANCE instance = nullptr;
     LONG_PTR userData = 0;
-    std::vector<BYTE> extra;
     std::u16string text;
     HICON bigIcon = nullptr;
     HICON smallIcon = nullptr;
-    UINT uiState = 0;  // UISF_HIDE... bits
 
     Region invalid;  // what has to be painted, from the window's corner
     bool eraseWaits = false;
     bool frameWaits = false;
     bool internalPaint = false;
-    bool redrawOff = false;         // WM_SETREDRAW
     std::shared_ptr<Image> pixels;  // top-level windows: everything that is drawn in them and in their children
 
     bool sizeMoveWaits = false;  // an overlapped window hears of its size and place when it is first shown

@@ -60,14 +60,16 @@ ATOM WINAPI RegisterClassExW(const WNDCLASSEXW* windowClass)
 {
     SIM_CALL(0, ERROR_NOT_ENOUGH_MEMORY, windowClass->lpszClassName);
     SimPc& pc = SimPc::Current();
-    if (windowClass->cbSize != sizeof(WNDCLASSEXW) || windowClass->cbWndExtra < 0 || windowClass->cbClsExtra < 0)
+    if (windowClass->cbSize != sizeof(WNDCLASSEXW))
         return pc.Fail<ATOM>(ERROR_INVALID_PARAMETER, 0);
+    if (windowClass->cbWndExtra != 0 || windowClass->cbClsExtra != 0) {
+        pc.Unsupported("RegisterClassExW: a class with extra bytes");
+        return 0;
+    }
     WindowClass made;
     made.name = windowClass->lpszClassName;
     made.style = windowClass->style;
     made.procedure = windowClass->lpfnWndProc;
-    made.classExtra = windowClass->cbClsExtra;
-    made.windowExtra = windowClass->cbWndExtra;
     made.instance = windowClass->hInstance;
     made.icon = windowClass->hIcon;
     made.smallIcon = windowClass->hIconSm;
