@@ -92,12 +92,11 @@ def check_arrows(files):
 
 
 def folder_of(path, files):
-    """The entry of FOLDERS that a file belongs to. A header of platform/sim is part of the area that implements it."""
+    """The entry of FOLDERS that a file belongs to. A header of platform/sim is part of the area that implements it, or plain data for all."""
     name = path.rsplit('.', 1)[0]
-    if name.startswith('platform/sim/'):
-        areas = [file for file in files if file.startswith('platform/src/') and file.endswith(f'/{os.path.basename(name)}.cpp')]
-        if path.endswith('.h') and areas:
-            name = areas[0]
+    if path.startswith('platform/sim/') and path.endswith('.h'):
+        sources = sorted(file for file in files if file.startswith('platform/') and file.endswith(f'/{os.path.basename(name)}.cpp'))
+        name = next((file for file in sources if '/src/' in file), name if sources else 'platform/src/core/')
     inside = [folder for folder in FOLDERS if name == folder or name.startswith(folder + '/')]
     return max(inside, key=len, default=None)
 

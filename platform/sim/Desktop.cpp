@@ -53,16 +53,6 @@ void Desktop::Dpi(int dotsPerInch)
     pc_.Get<Screen>().Dpi(dotsPerInch);
 }
 
-SIZE Desktop::ScreenSize() const
-{
-    return pc_.Get<Screen>().Size();
-}
-
-RECT Desktop::WorkArea() const
-{
-    return pc_.Get<Screen>().WorkArea();
-}
-
 void Desktop::Settle()
 {
     pc_.Settle();
@@ -183,22 +173,9 @@ std::vector<HWND> Desktop::Windows() const
     return Handles(WindowTree::Children(Tree().Desktop()));
 }
 
-std::vector<HWND> Desktop::WindowsOf(DWORD process) const
-{
-    std::vector<WindowPtr> windows = Tree().All();
-    std::erase_if(windows, [&](const WindowPtr& window) { return window->actor.process != process; });
-    return Handles(windows);
-}
-
 std::u16string Desktop::Text(HWND window) const
 {
     return inner::GetText(window);
-}
-
-std::u16string Desktop::ClassName(HWND window) const
-{
-    const WindowPtr found = WindowOf(window);
-    return found ? found->windowClass->name : std::u16string();
 }
 
 HWND Desktop::FindByText(std::u16string_view text) const
@@ -215,21 +192,10 @@ HWND Desktop::Focus() const
     return foreground ? foreground->focus : nullptr;
 }
 
-HWND Desktop::Foreground() const
-{
-    const auto& foreground = Queues().Foreground();
-    return foreground ? foreground->active : nullptr;
-}
-
 HWND Desktop::WindowAt(POINT screen) const
 {
     const Window* window = WindowUnder(screen);
     return window ? window->handle : nullptr;
-}
-
-POINT Desktop::CursorPosition() const
-{
-    return Queues().cursor;
 }
 
 std::size_t Desktop::TimersOf(DWORD process) const

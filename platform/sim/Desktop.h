@@ -27,9 +27,6 @@ public:
     /// Dots per inch (96).
     [[nodiscard]] int Dpi() const;
     void Dpi(int dotsPerInch);
-    /// Pixels (1280 x 800).
-    [[nodiscard]] SIZE ScreenSize() const;
-    [[nodiscard]] RECT WorkArea() const;
 
     // -- What the user does. Each step lets everybody handle what it causes (`SimPc::Settle`). Points are screen pixels --
 
@@ -62,18 +59,13 @@ public:
     [[nodiscard]] Image Snapshot(HWND window) const;
     /// Live top-level windows of all processes, topmost first, visible or not.
     [[nodiscard]] std::vector<HWND> Windows() const;
-    /// Windows that a process has, children included.
-    [[nodiscard]] std::vector<HWND> WindowsOf(DWORD process) const;
     [[nodiscard]] std::u16string Text(HWND window) const;
-    [[nodiscard]] std::u16string ClassName(HWND window) const;
     /// The first top-level window with this text, whoever's it is; NULL when there is none.
     [[nodiscard]] HWND FindByText(std::u16string_view text) const;
     /// The window that the keyboard goes to, whoever's it is.
     [[nodiscard]] HWND Focus() const;
-    [[nodiscard]] HWND Foreground() const;
     /// The window below a point of the screen that takes part in mouse input.
     [[nodiscard]] HWND WindowAt(POINT screen) const;
-    [[nodiscard]] POINT CursorPosition() const;
     /// Timers that are running for a process.
     [[nodiscard]] std::size_t TimersOf(DWORD process) const;
 

@@ -19,7 +19,6 @@ public:
     void Path(int id, std::u16string_view path);
     /// Ends with a backslash, as GetTempPathW gives it.
     [[nodiscard]] const std::u16string& Temporary() const { return temporary_; }
-    void Temporary(std::u16string_view path) { temporary_ = path; }
 
 private:
     std::map<int, std::u16string> paths_;

@@ -47,8 +47,6 @@ public:
     /// The system takes the region over (SetWindowRgn): its handle is no longer the program's and stands for nothing any more. Empty for a
     /// stale handle.
     std::optional<Region> TakeRegion(HRGN region);
-    /// An icon that the system holds: no leak.
-    HICON SystemIcon(const Image& color, std::vector<bool> opaque);
 
     // -- Settings --
 

@@ -18,7 +18,6 @@ public:
         DWORD major = 6, minor = 1, build = 7601, platformId = 2;
     };
     [[nodiscard]] const Version& GetVersion() const { return version_; }
-    void SetVersion(const Version& version) { version_ = version; }
     /// Makes it one of the old Windows systems that are not NT.
     void NotNt() { version_ = {4, 10, 2222, 1}; }
 

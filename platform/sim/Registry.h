@@ -37,8 +37,6 @@ public:
     [[nodiscard]] std::optional<std::u16string> GetText(HKEY root, std::u16string_view key, std::u16string_view name,
                                                         View view = View::Bits64) const;
     void Remove(HKEY root, std::u16string_view key, std::u16string_view name, View view = View::Bits64);
-    /// Nobody gets these rights on the key from now on; keys that are open keep what they have.
-    void Deny(HKEY root, std::u16string_view key, REGSAM access = KEY_ALL_ACCESS, View view = View::Bits64);
 };
 
 }  // namespace platform

@@ -45,7 +45,6 @@ public:
     /// The entry of a privilege by its number, or null when the token does not hold it.
     [[nodiscard]] Privilege* Held(DWORD number);
     [[nodiscard]] bool Enabled(std::u16string_view privilege);
-    void TakePrivilege(std::u16string_view privilege);
     /// Number of a privilege name, empty for an unknown one.
     [[nodiscard]] static std::optional<DWORD> PrivilegeNumber(std::u16string_view name);
 

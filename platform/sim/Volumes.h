@@ -32,7 +32,6 @@ public:
 
     /// A further volume: "D:\" or "\\server\share\".
     void AddVolume(std::u16string_view root, bool persistentAcls = true);
-    void RemoveVolume(std::u16string_view root);
     /// Whether a volume keeps access-control lists; without them everybody may do everything.
     void PersistentAcls(std::u16string_view root, bool keeps);
     /// Name of the volume's device: "\Device\HarddiskVolume1".

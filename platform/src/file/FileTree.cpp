@@ -39,11 +39,6 @@ void FileTree::AddVolume(std::u16string_view root, bool persistentAcls)
     volumes_[Key(root)] = std::move(volume);
 }
 
-void FileTree::RemoveVolume(std::u16string_view root)
-{
-    volumes_.erase(Key(root));
-}
-
 Volume& FileTree::Require(std::u16string_view root)
 {
     const auto found = volumes_.find(Key(root));

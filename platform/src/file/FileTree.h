@@ -52,7 +52,6 @@ public:
     explicit FileTree(SimPc& pc) : pc_(pc) {}
 
     void AddVolume(std::u16string_view root, bool persistentAcls);
-    void RemoveVolume(std::u16string_view root);
     /// The volume of a root that is there.
     [[nodiscard]] Volume& Require(std::u16string_view root);
     [[nodiscard]] const std::map<std::u16string, std::unique_ptr<Volume>>& All() const { return volumes_; }

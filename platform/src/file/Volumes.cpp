@@ -28,11 +28,6 @@ void Volumes::AddVolume(std::u16string_view root, bool persistentAcls)
     tree_->AddVolume(root, persistentAcls);
 }
 
-void Volumes::RemoveVolume(std::u16string_view root)
-{
-    tree_->RemoveVolume(root);
-}
-
 void Volumes::PersistentAcls(std::u16string_view root, bool keeps)
 {
     tree_->Require(root).persistentAcls = keeps;

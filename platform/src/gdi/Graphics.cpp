@@ -143,14 +143,6 @@ std::optional<Region> Graphics::TakeRegion(HRGN region)
     return found->region;
 }
 
-HICON Graphics::SystemIcon(const Image& color, std::vector<bool> opaque)
-{
-    auto icon = std::make_shared<Icon>();
-    icon->color = color;
-    icon->opaque = std::move(opaque);
-    return AsHandle<HICON>(pc_.Handles().Open(std::move(icon), HandleTable::Watch::Ignore));
-}
-
 COLORREF Graphics::SystemColor(int index) const
 {
     return index >= 0 && index < static_cast<int>(colors_.size()) ? colors_[static_cast<std::size_t>(index)] : 0;

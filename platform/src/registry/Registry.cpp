@@ -62,9 +62,4 @@ void Registry::Remove(HKEY root, std::u16string_view key, std::u16string_view na
     }
 }
 
-void Registry::Deny(HKEY root, std::u16string_view key, REGSAM access, View view)
-{
-    NodeOf(pc_, root, key, view, true)->denied |= access;
-}
-
 }  // namespace platform

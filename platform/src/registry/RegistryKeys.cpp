@@ -65,8 +65,6 @@ std::shared_ptr<KeyNode> RegistryKeys::Walk(std::shared_ptr<KeyNode> start, std:
 DWORD RegistryKeys::Check(const KeyNode& key, REGSAM access) const
 {
     const REGSAM wanted = access & ~REGSAM{KEY_WOW64_RES};
-    if ((key.denied & wanted) != 0)
-        return ERROR_ACCESS_DENIED;
     constexpr REGSAM kWrites =
         KEY_SET_VALUE | KEY_CREATE_SUB_KEY | KEY_CREATE_LINK | DELETE | WRITE_DAC | WRITE_OWNER | GENERIC_WRITE | GENERIC_ALL;
     if (key.forAdministrators && !pc_.Get<Users>().Administrator() && (wanted & kWrites) != 0)

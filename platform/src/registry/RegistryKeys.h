@@ -15,7 +15,6 @@ struct KeyNode {
     std::u16string name;
     bool forAdministrators = false;  // others may only read it
     bool deleted = false;
-    REGSAM denied = 0;
     std::map<std::u16string, RegistryValue, NameLess> values;
     std::map<std::u16string, std::shared_ptr<KeyNode>, NameLess> children;
 };

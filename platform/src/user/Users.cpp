@@ -116,12 +116,6 @@ bool Users::Enabled(std::u16string_view privilege)
     return held && held->enabled;
 }
 
-void Users::TakePrivilege(std::u16string_view privilege)
-{
-    const std::optional<DWORD> number = PrivilegeNumber(privilege);
-    std::erase_if(privileges_, [&](const Privilege& held) { return held.number == number; });
-}
-
 std::optional<DWORD> Users::PrivilegeNumber(std::u16string_view name)
 {
     const auto found =
