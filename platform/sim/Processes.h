@@ -101,8 +101,6 @@ public:
     /// Another program holds a named mutex, or lets it go.
     void HoldMutex(std::u16string_view name);
     void ReleaseHeldMutex(std::u16string_view name);
-    /// The mutex of that name, made when there is none; `existed` tells.
-    [[nodiscard]] std::shared_ptr<Mutex> OpenMutex(std::u16string_view name, bool& existed);
 
 private:
     DWORD nextId_ = 4300;
@@ -111,7 +109,6 @@ private:
     std::shared_ptr<Process> own_;
     std::map<std::u16string, Maker> makers_;  // by upper-cased path
     std::vector<Request> requests_;
-    std::map<std::u16string, std::weak_ptr<Mutex>> mutexes_;
     std::map<std::u16string, std::shared_ptr<Mutex>> held_;
 };
 

@@ -1,8 +1,8 @@
 #include "platform/src/behaviour/Painting.h"
 
-#include "platform/sim/Graphics.h"
 #include "platform/src/behaviour/Inner.h"
 #include "platform/src/core/Gate.h"
+#include "platform/src/gdi/Objects.h"
 #include "platform/src/window/Visibility.h"
 #include "platform/src/window/WindowDcs.h"
 
@@ -160,8 +160,8 @@ BOOL WINAPI ValidateRect(HWND window, const RECT* rectangle)
 BOOL WINAPI RedrawWindow(HWND window, const RECT* rectangle, HRGN region, UINT flags)
 {
     SIM_CALL(FALSE, ERROR_INVALID_WINDOW_HANDLE, window, rectangle, region, flags);
-    const Region* area = region ? SimPc::Current().Get<Graphics>().RegionOf(region) : nullptr;
-    return inner::RedrawWindow(window, rectangle, area, flags);
+    const auto area = SimPc::Current().Handles().Find<RegionObject>(region);
+    return inner::RedrawWindow(window, rectangle, area ? &area->region : nullptr, flags);
 }
 
 BOOL WINAPI UpdateWindow(HWND window)

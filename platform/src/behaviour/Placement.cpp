@@ -1,9 +1,9 @@
 #include "platform/src/behaviour/Placement.h"
 
-#include "platform/sim/Graphics.h"
 #include "platform/src/behaviour/Inner.h"
 #include "platform/src/behaviour/Painting.h"
 #include "platform/src/core/Gate.h"
+#include "platform/src/gdi/Objects.h"
 #include "platform/src/input/Focus.h"
 #include "platform/src/input/Hardware.h"
 #include "platform/src/window/Frame.h"
@@ -294,9 +294,10 @@ int WINAPI SetWindowRgn(HWND window, HRGN region, BOOL redraw)
         return 0;
     std::optional<Region> shape;
     if (region) {
-        shape = pc.Get<Graphics>().TakeRegion(region);  // The window owns it from here on.
-        if (!shape)
+        const auto taken = pc.Handles().Find<RegionObject>(region);
+        if (!taken || !pc.Handles().Close<RegionObject>(region))  // The window owns it from here on.
             return pc.Fail(ERROR_INVALID_HANDLE, 0);
+        shape = taken->region;
     }
     const Region before = VisibleRegion(*found, true, false);
     found->shape = std::move(shape);

@@ -1,6 +1,6 @@
 // ButtonPainter: turns a button's state into pixels, with visual styles and in the classic look.
-#include "platform/sim/Theme.h"
 #include "platform/src/classes/Button.h"
+#include "platform/src/theme/ThemeParts.h"
 
 #include <vsstyle.h>
 
@@ -81,7 +81,7 @@ void PaintPush(HDC dc, const RECT& client, const Button::Look& look, HBRUSH back
         int state = StateOf(look);
         if (state == PBS_NORMAL && pushed)
             state = PBS_PRESSED;
-        SimPc::Current().Get<Theme>().Draw(VSCLASS_BUTTON, dc, BP_PUSHBUTTON, state, client);
+        DrawThemePart(VSCLASS_BUTTON, dc, BP_PUSHBUTTON, state, client);
     } else {
         canvas.Edge(face, pushed ? EDGE_SUNKEN : EDGE_RAISED, BF_RECT | BF_SOFT | BF_MIDDLE | BF_ADJUST);
     }
@@ -124,7 +124,7 @@ void PaintCheckBox(HDC dc, const RECT& client, const Button::Look& look, HBRUSH 
     }
     if (look.themed) {
         const int first = (look.state & 3) * 4;  // unchecked, checked, mixed: four states each
-        SimPc::Current().Get<Theme>().Draw(VSCLASS_BUTTON, dc, BP_CHECKBOX, first + StateOf(look), box);
+        DrawThemePart(VSCLASS_BUTTON, dc, BP_CHECKBOX, first + StateOf(look), box);
     } else {
         DrawClassicBox(canvas, box, look);
     }

@@ -1,6 +1,6 @@
 // ComboPainter: turns the field and the open list of a combo box into pixels.
-#include "platform/sim/Theme.h"
 #include "platform/src/classes/ComboBox.h"
+#include "platform/src/theme/ThemeParts.h"
 
 #include <vsstyle.h>
 
@@ -46,11 +46,10 @@ void PaintComboField(HDC dc, const RECT& client, const ComboBox::Look& look, HBR
     RECT field{client.left + 3, client.top + 3, client.right - kArrowWidth - 2, client.bottom - 3};
     const RECT button{client.right - kArrowWidth - 2, client.top + 2, client.right - 2, client.bottom - 2};
     if (look.themed) {
-        auto& theme = SimPc::Current().Get<Theme>();
         const int state = !look.enabled ? CBXS_DISABLED : look.dropped ? CBXS_PRESSED : CBXS_NORMAL;
         canvas.Fill(client, SystemColor(COLOR_BTNFACE));  // The look's round corners let the parent through.
-        theme.Draw(VSCLASS_COMBOBOX, dc, CP_READONLY, state, client);
-        theme.Draw(VSCLASS_COMBOBOX, dc, CP_DROPDOWNBUTTONRIGHT, state, button);
+        DrawThemePart(VSCLASS_COMBOBOX, dc, CP_READONLY, state, client);
+        DrawThemePart(VSCLASS_COMBOBOX, dc, CP_DROPDOWNBUTTONRIGHT, state, button);
     } else {
         canvas.Fill(client, background);
         RECT frame = client;

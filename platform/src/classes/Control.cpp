@@ -1,7 +1,7 @@
 // Control: what the system's window classes have in common.
 #include "platform/src/classes/Control.h"
 
-#include "platform/sim/Theme.h"
+#include "platform/src/theme/WindowThemes.h"
 
 namespace platform {
 
@@ -53,9 +53,7 @@ bool Control::Inside(LPARAM point) const
 
 bool Control::Themed() const
 {
-    auto& theme = SimPc::Current().Get<Theme>();
-    const std::u16string* own = theme.WindowTheme(window_);
-    return theme.Works() && !(own && own->empty());
+    return DrawsThemed(window_);
 }
 
 void Control::Notify(int code) const

@@ -1,6 +1,6 @@
 // EditPainter: turns the text of an Edit and its selection into pixels.
-#include "platform/sim/Theme.h"
 #include "platform/src/classes/Edit.h"
+#include "platform/src/theme/ThemeParts.h"
 
 #include <vsstyle.h>
 
@@ -56,7 +56,7 @@ void PaintEditBorder(HDC windowDc, const RECT& window, int state)
                            {window.left, window.top, window.left + kEdge, window.bottom},
                            {window.right - kEdge, window.top, window.right, window.bottom}};
     for (const RECT& strip : strips)
-        SimPc::Current().Get<Theme>().Draw(VSCLASS_EDIT, windowDc, EP_EDITTEXT, state, window, &strip);
+        DrawThemePart(VSCLASS_EDIT, windowDc, EP_EDITTEXT, state, window, &strip);
 }
 
 }  // namespace platform

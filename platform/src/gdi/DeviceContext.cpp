@@ -110,6 +110,29 @@ void DeviceContext::Fill(const RECT& area, COLORREF color)
     ForEach(area, [filling](int, int, std::uint32_t& pixel) { pixel = filling; });
 }
 
+HDC OpenDc(std::shared_ptr<Image> pixels, POINT origin, const Region& visible, HWND window)
+{
+    Graphics& graphics = SimPc::Current().Get<Graphics>();
+    return OpenObject<HDC>(std::make_shared<DeviceContext>(graphics, std::move(pixels), origin, visible, window));
+}
+
+bool CloseDc(HDC dc)
+{
+    HandleTable& handles = SimPc::Current().Handles();
+    const auto found = handles.Find<DeviceContext>(dc);
+    if (!found)
+        return false;
+    // Somebody who still draws may keep the device context alive; what it holds is free from now on.
+    found->state = {};
+    return handles.Close<DeviceContext>(dc);
+}
+
+void MoveDc(HDC dc, std::shared_ptr<Image> pixels, POINT origin, const Region& visible)
+{
+    if (const auto found = SimPc::Current().Handles().Find<DeviceContext>(dc))
+        found->Move(std::move(pixels), origin, visible);
+}
+
 std::shared_ptr<DeviceContext> FindDc(HDC dc)
 {
     SimPc& pc = SimPc::Current();

@@ -101,6 +101,14 @@ private:
     mutable std::function<void()> compose_;
 };
 
+/// Opens a device context of a window or of the screen that draws on `pixels`. `origin` is where its point (0, 0) lies in the image;
+/// `visible` is what it may touch, in image coordinates. It is a watched handle until `CloseDc`.
+HDC OpenDc(std::shared_ptr<Image> pixels, POINT origin, const Region& visible, HWND window);
+/// False for a device context that is not open. Objects that are still selected become free.
+bool CloseDc(HDC dc);
+/// A window was moved, sized, covered or uncovered: its open device contexts follow. What the program selected and set stays.
+void MoveDc(HDC dc, std::shared_ptr<Image> pixels, POINT origin, const Region& visible);
+
 /// The open device context of a handle, or empty with ERROR_INVALID_HANDLE.
 [[nodiscard]] std::shared_ptr<DeviceContext> FindDc(HDC dc);
 

@@ -20,7 +20,7 @@ BOOL WINAPI DeleteDC(HDC dc)
     SIM_NOTE(dc);
     const auto context = FindDc(dc);
     // Device contexts of windows go back by ReleaseDC only.
-    return context && (context->IsMemory() || context->device) && SimPc::Current().Get<Graphics>().CloseDc(dc);
+    return context && (context->IsMemory() || context->device) && CloseDc(dc);
 }
 
 int WINAPI GetDeviceCaps(HDC dc, int index)

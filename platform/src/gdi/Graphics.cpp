@@ -1,8 +1,7 @@
-// Graphics: stock objects, system colours and the device contexts of windows.
+// Graphics: stock objects and system colours.
 #include "platform/sim/Graphics.h"
 
 #include "platform/src/gdi/DeviceContext.h"
-#include "platform/src/gdi/Icons.h"
 #include "platform/src/gdi/Typeface.h"
 
 #include <algorithm>
@@ -76,35 +75,6 @@ Graphics::Graphics(SimPc& pc) : Area(pc), colors_(kColors), families_(InstalledF
     keep(kDefaultBitmap, std::move(bitmap));
 }
 
-Graphics::~Graphics() = default;
-
-HDC Graphics::OpenDc(std::shared_ptr<Image> pixels, POINT origin, const Region& visible, HWND window)
-{
-    return OpenObject<HDC>(std::make_shared<DeviceContext>(*this, std::move(pixels), origin, visible, window));
-}
-
-bool Graphics::CloseDc(HDC dc)
-{
-    const auto found = pc_.Handles().Find<DeviceContext>(dc);
-    if (!found)
-        return false;
-    // Somebody who still draws may keep the device context alive; what it holds is free from now on.
-    found->state = {};
-    return pc_.Handles().Close<DeviceContext>(dc);
-}
-
-void Graphics::MoveDc(HDC dc, std::shared_ptr<Image> pixels, POINT origin, const Region& visible)
-{
-    if (const auto found = pc_.Handles().Find<DeviceContext>(dc))
-        found->Move(std::move(pixels), origin, visible);
-}
-
-HWND Graphics::WindowOf(HDC dc) const
-{
-    const auto found = pc_.Handles().Find<DeviceContext>(dc);
-    return found ? found->Window() : nullptr;
-}
-
 std::shared_ptr<Image> Graphics::PixelsOf(HDC dc) const
 {
     const auto found = pc_.Handles().Find<DeviceContext>(dc);
@@ -118,29 +88,6 @@ std::shared_ptr<Image> Graphics::PixelsOf(HBITMAP bitmap) const
 {
     const auto found = pc_.Handles().Find<Bitmap>(bitmap);
     return found ? found->image : nullptr;
-}
-
-const Region* Graphics::RegionOf(HRGN region) const
-{
-    const auto found = pc_.Handles().Find<RegionObject>(region);
-    return found ? &found->region : nullptr;
-}
-
-bool Graphics::RegionOf(HRGN region, Region value)
-{
-    const auto found = pc_.Handles().Find<RegionObject>(region);
-    if (found)
-        found->region = std::move(value);
-    return found != nullptr;
-}
-
-std::optional<Region> Graphics::TakeRegion(HRGN region)
-{
-    const auto found = pc_.Handles().Find<RegionObject>(region);
-    if (!found)
-        return std::nullopt;
-    pc_.Handles().Close<RegionObject>(region);
-    return found->region;
 }
 
 COLORREF Graphics::SystemColor(int index) const

@@ -1,9 +1,12 @@
-// Mutex: one named or nameless mutex, and a handle to it.
+// Mutex: one named or nameless mutex, a handle to it, and the names that are known.
 #pragma once
 
 #include "platform/src/core/KernelObject.h"
 
+#include <map>
 #include <memory>
+#include <string>
+#include <string_view>
 
 namespace platform {
 
@@ -11,6 +14,16 @@ class Mutex {
 public:
     DWORD owner = 0;  // thread id, 0 none
     unsigned depth = 0;
+};
+
+class Mutexes : public Area {
+public:
+    using Area::Area;
+    /// The mutex of that name, made when there is none; `existed` tells.
+    [[nodiscard]] std::shared_ptr<Mutex> Open(std::u16string_view name, bool& existed);
+
+private:
+    std::map<std::u16string, std::weak_ptr<Mutex>> named_;
 };
 
 class MutexHandle : public KernelObject {

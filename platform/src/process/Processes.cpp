@@ -145,24 +145,12 @@ std::shared_ptr<Process> Processes::OfWindow(HWND window) const
 void Processes::HoldMutex(std::u16string_view name)
 {
     bool existed = false;
-    held_[std::u16string(name)] = OpenMutex(name, existed);
+    held_[std::u16string(name)] = pc_.Get<Mutexes>().Open(name, existed);
 }
 
 void Processes::ReleaseHeldMutex(std::u16string_view name)
 {
     held_.erase(std::u16string(name));
-}
-
-std::shared_ptr<Mutex> Processes::OpenMutex(std::u16string_view name, bool& existed)
-{
-    std::weak_ptr<Mutex>& entry = mutexes_[std::u16string(name)];
-    auto mutex = entry.lock();
-    existed = mutex != nullptr;
-    if (!mutex) {
-        mutex = std::make_shared<Mutex>();
-        entry = mutex;
-    }
-    return mutex;
 }
 
 }  // namespace platform

@@ -31,6 +31,18 @@ std::shared_ptr<KernelObject> FindWaitable(HANDLE handle)
 
 namespace platform {
 
+std::shared_ptr<Mutex> Mutexes::Open(std::u16string_view name, bool& existed)
+{
+    std::weak_ptr<Mutex>& entry = named_[std::u16string(name)];
+    auto mutex = entry.lock();
+    existed = mutex != nullptr;
+    if (!mutex) {
+        mutex = std::make_shared<Mutex>();
+        entry = mutex;
+    }
+    return mutex;
+}
+
 bool MutexHandle::Signalled() const
 {
     return mutex->owner == 0 || mutex->owner == SimPc::Current().CurrentActor().thread;
@@ -112,7 +124,7 @@ HANDLE WINAPI CreateMutexW(LPSECURITY_ATTRIBUTES, BOOL initialOwner, LPCWSTR nam
     SIM_CALL(nullptr, ERROR_ACCESS_DENIED, initialOwner, name);
     SimPc& pc = SimPc::Current();
     bool existed = false;
-    auto mutex = OrEmpty(name).empty() ? std::make_shared<Mutex>() : pc.Get<Processes>().OpenMutex(name, existed);
+    auto mutex = OrEmpty(name).empty() ? std::make_shared<Mutex>() : pc.Get<Mutexes>().Open(name, existed);
     const auto handle = std::make_shared<MutexHandle>(std::move(mutex));
     if (!existed && initialOwner)
         handle->WaitEnded();

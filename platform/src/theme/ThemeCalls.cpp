@@ -4,6 +4,7 @@
 #include "platform/src/gdi/Text.h"
 #include "platform/src/message/Inner.h"
 #include "platform/src/theme/ThemeParts.h"
+#include "platform/src/theme/WindowThemes.h"
 
 #include <windows.h>
 
@@ -66,10 +67,10 @@ HTHEME WINAPI OpenThemeData(HWND window, LPCWSTR classList)
 {
     SIM_CALL(nullptr, E_HANDLE, window, classList);
     SimPc& pc = SimPc::Current();
-    Theme& theme = pc.Get<Theme>();
+    const Theme& theme = pc.Get<Theme>();
     if (!classList)
         return pc.Fail(static_cast<DWORD>(E_INVALIDARG), HTHEME{});
-    const std::u16string* const own = theme.WindowTheme(window);
+    const std::u16string* const own = pc.Get<WindowThemes>().Of(window);
     std::u16string className = own && own->empty() ? std::u16string() : ChooseClass(classList);
     if (!theme.Active() || !theme.AppThemed() || className.empty())
         return pc.Fail(kElementNotFound, HTHEME{});
@@ -89,11 +90,11 @@ HRESULT WINAPI SetWindowTheme(HWND window, LPCWSTR applicationName, LPCWSTR clas
     SIM_CALL(E_OUTOFMEMORY, ERROR_NOT_ENOUGH_MEMORY, window, applicationName, classList);
     if (!SimPc::Current().Handles().Find<Window>(window))
         return E_HANDLE;
-    Theme& theme = SimPc::Current().Get<Theme>();
+    WindowThemes& themes = SimPc::Current().Get<WindowThemes>();
     if (classList)
-        theme.WindowTheme(window, classList);
+        themes.Set(window, classList);
     else
-        theme.ForgetWindow(window);
+        themes.Forget(window);
     inner::SendMessage(window, WM_THEMECHANGED, 0, 0);
     return S_OK;
 }
@@ -106,7 +107,7 @@ HRESULT WINAPI DrawThemeBackground(HTHEME theme, HDC dc, int part, int state, co
         return E_HANDLE;
     if (!rectangle || !FindDc(dc))
         return E_INVALIDARG;
-    if (!SimPc::Current().Get<Theme>().Draw(found->className, dc, part, state, *rectangle, clip))
+    if (!DrawThemePart(found->className, dc, part, state, *rectangle, clip))
         return RefusePart(*found, part, state);
     return S_OK;
 }

@@ -160,6 +160,24 @@ bool PaintThemePart(DeviceContext& dc, std::u16string_view className, int part, 
     return className == VSCLASS_COMBOBOX && PaintComboPart(dc, part, state, r);
 }
 
+bool DrawThemePart(std::u16string_view className, HDC dc, int part, int state, const RECT& rectangle, const RECT* clip)
+{
+    const auto context = SimPc::Current().Handles().Find<DeviceContext>(dc);
+    if (!context)
+        return false;
+    if (!clip)
+        return PaintThemePart(*context, className, part, state, rectangle);
+    // The clip narrows the device context's own for this one drawing.
+    const std::optional<Region> before = context->state.clip;
+    const Region device = Region(*clip).Offset(context->state.viewport.x, context->state.viewport.y);
+    context->state.clip = before ? before->Intersect(device) : device;
+    context->ClipChanged();
+    const bool drawn = PaintThemePart(*context, className, part, state, rectangle);
+    context->state.clip = before;
+    context->ClipChanged();
+    return drawn;
+}
+
 COLORREF ThemeTextColor(std::u16string_view className, int part, int state)
 {
     bool disabled = state == CBXS_DISABLED;

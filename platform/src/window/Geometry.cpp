@@ -1,6 +1,6 @@
 // Where windows are: rectangles, points, shapes.
-#include "platform/sim/Graphics.h"
 #include "platform/src/core/Gate.h"
+#include "platform/src/gdi/Objects.h"
 #include "platform/src/window/Inner.h"
 
 namespace platform {
@@ -92,8 +92,10 @@ int WINAPI GetWindowRgn(HWND window, HRGN region)
 {
     SIM_NOTE(window, region);
     const WindowPtr found = RequireWindow(window);
-    if (!found || !found->shape || !SimPc::Current().Get<Graphics>().RegionOf(region, *found->shape))
+    const auto object = SimPc::Current().Handles().Find<RegionObject>(region);
+    if (!found || !found->shape || !object)
         return ERROR;
+    object->region = *found->shape;
     const std::size_t parts = found->shape->Rectangles().size();
     return parts == 0 ? NULLREGION : parts == 1 ? SIMPLEREGION : COMPLEXREGION;
 }

@@ -35,7 +35,7 @@ View ViewOf(Window& window, bool whole, bool clipChildren, const Region* clip)
 HDC WindowDcs::Open(Window& window, bool whole, bool clipChildren, const Region* clip)
 {
     const View view = ViewOf(window, whole, clipChildren, clip);
-    const HDC dc = pc_.Get<Graphics>().OpenDc(view.pixels, view.origin, view.visible, window.handle);
+    const HDC dc = OpenDc(view.pixels, view.origin, view.visible, window.handle);
     Entry& entry = entries_.emplace_back(Entry{dc, window.handle, whole, clipChildren, {}});
     if (clip)
         entry.clip = clip->Offset(-window.frame.left, -window.frame.top);
@@ -47,7 +47,7 @@ HDC WindowDcs::OpenScreen()
     const RECT bounds = Tree().Desktop().frame;
     if (!screen_ || screen_->width != bounds.right || screen_->height != bounds.bottom)
         screen_ = std::make_shared<Image>(bounds.right, bounds.bottom);
-    const HDC dc = pc_.Get<Graphics>().OpenDc(screen_, {0, 0}, Region(bounds), nullptr);
+    const HDC dc = OpenDc(screen_, {0, 0}, Region(bounds), nullptr);
     FindDc(dc)->ComposeLater([this] { ComposeScreen(); });
     entries_.push_back(Entry{dc, nullptr, true, false, {}});
     return dc;
@@ -79,7 +79,7 @@ bool WindowDcs::Close(HDC dc)
     if (found == entries_.end())
         return false;
     entries_.erase(found);
-    return pc_.Get<Graphics>().CloseDc(dc);
+    return CloseDc(dc);
 }
 
 void WindowDcs::Follow(Window& topLevel)
@@ -92,7 +92,7 @@ void WindowDcs::Follow(Window& topLevel)
         if (entry.clip)
             clip = entry.clip->Offset(window->frame.left, window->frame.top);
         const View view = ViewOf(*window, entry.whole, entry.clipChildren, clip ? &*clip : nullptr);
-        pc_.Get<Graphics>().MoveDc(entry.dc, view.pixels, view.origin, view.visible);
+        MoveDc(entry.dc, view.pixels, view.origin, view.visible);
     }
 }
 
@@ -101,7 +101,7 @@ void WindowDcs::Forget(const Window& window)
     for (Entry& entry : entries_) {
         if (entry.window != window.handle)
             continue;
-        pc_.Get<Graphics>().MoveDc(entry.dc, std::make_shared<Image>(1, 1), {0, 0}, Region());
+        MoveDc(entry.dc, std::make_shared<Image>(1, 1), {0, 0}, Region());
         entry.window = nullptr;
     }
 }
