@@ -151,7 +151,7 @@ def check_first_lines_and_marks(files):
 
 
 def check_headers_alone(files):
-    headers = [path for path in files if path.endswith('.h') and room_of(path) in ARROWS | {'tests': 0}]
+    headers = [path for path in files if path.endswith('.h') and room_of(path) in ARROWS | {'tests': 0} and native(path)]
 
     def compile_alone(path):
         command = ['g++', '-std=c++20', '-fsyntax-only', '-x', 'c++', '-Wall', '-Wextra', '-I.', '-Iplatform/include', '-include', path, '/dev/null']
