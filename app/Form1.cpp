@@ -5,6 +5,7 @@
 #include "app/helpers/Administrator.h"
 #include "app/helpers/CommonControls.h"
 #include "app/helpers/DataExecution.h"
+#include "app/helpers/ErrorText.h"
 #include "app/helpers/IniFolder.h"
 #include "app/helpers/MsgBox.h"
 #include "app/helpers/Paths.h"
@@ -88,8 +89,28 @@ void Form1::Form_KeyDown(std::int16_t& KeyCode, std::int16_t& Shift)
 
 void Form1::Form_Unload()
 {
+    Notice.Hide();
     ProcessTools.reset();
     helpers::ReleaseShellLibrary();
+}
+
+/// It stays until it is over, until the user does something else, or until its time is up.
+void Form1::Say(controls::CommandButton& button, controls::Balloon::Icon icon, const String& tried, const String& text,
+                std::function<bool()> isOver)
+{
+    Notice.Show(button.hWnd(), icon, tried, text);
+    NoticeIsOver = std::move(isOver);
+}
+
+void Form1::SayFailure(controls::CommandButton& button, const String& tried, DWORD error, std::function<bool()> cameTrue)
+{
+    Say(button, controls::Balloon::Icon::Error, tried, helpers::ErrorText(error), std::move(cameTrue));
+}
+
+void Form1::EndNoticeThatIsOver()
+{
+    if (Notice.Window() && NoticeIsOver())
+        Notice.Hide();
 }
 
 bool Form1::IsNTPlatform()
@@ -139,6 +160,7 @@ void Form1::FindControls()
 
 void Form1::ConnectEvents()
 {
+    UserActed.Connect([this] { Notice.Hide(); });
     TextPassword->Change.Connect([this] { TextPassword_Change(); });
     CheckAutoStart->Click.Connect([this] { CheckAutoStart_Click(); });
     chkSystem->Click.Connect([this] { chkSystem_Click(); });

@@ -3,6 +3,7 @@
 
 #include "app/ServiceControl.h"
 #include "base/Handles.h"
+#include "controls/Balloon.h"
 #include "controls/CheckBox/CheckBox.h"
 #include "controls/CommandButton/CommandButton.h"
 #include "controls/Frame/Frame.h"
@@ -13,6 +14,7 @@
 #include "host/Timer.h"
 #include "toolkit/TaskManLight.h"
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -21,10 +23,10 @@ namespace app {
 /// The window as designed, UTF-8 in the form file's syntax.
 const char* Form1Text();
 
-/// Shows the state of the agent's service, process, password and auto-start value, and lets the user change them. Nothing that fails after
-/// the start is reported: the window shows the state that results.
+/// Shows the state of the agent's service, process, password and auto-start value, and lets the user change them. What the service database
+/// or Windows refuses is said in a balloon at the button that asked for it; settings that cannot be kept are passed over in silence.
 ///
-/// The handlers stand in one file a subject: Form1.cpp (start and end), Form1Service.cpp, Form1Agent.cpp, Form1Settings.cpp.
+/// The handlers stand in one file a subject: Form1.cpp (start, end and notices), Form1Service.cpp, Form1Agent.cpp, Form1Settings.cpp.
 class Form1 final : public host::Form {
 public:
     Form1();
@@ -41,6 +43,12 @@ private:
     void FindControls();
     void ConnectEvents();
     void LoadService();
+
+    // What did not happen, said at the button that was to do it
+    void Say(controls::CommandButton& button, controls::Balloon::Icon icon, const base::String& tried, const base::String& text,
+             std::function<bool()> isOver);
+    void SayFailure(controls::CommandButton& button, const base::String& tried, DWORD error, std::function<bool()> cameTrue);
+    void EndNoticeThatIsOver();
 
     // The service panel
     void RefreshServicePanel();
@@ -93,6 +101,8 @@ private:
     host::Timer* TimerMonitorIfVelmoraRunning = nullptr;
     controls::CommandButton* CommandOk = nullptr;
 
+    controls::Balloon Notice;
+    std::function<bool()> NoticeIsOver;
     base::String AgentName;
     base::String IniFile;
     std::unique_ptr<toolkit::TaskManLight> ProcessTools;

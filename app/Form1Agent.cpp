@@ -27,20 +27,27 @@ void Form1::TimerMonitorIfVelmoraRunning_Timer()
     const bool running = IsAgentRunning();
     SetEnabled(*CommandStartVelmora, !running);
     SetEnabled(*CommandCloseVelmora, running);
+    EndNoticeThatIsOver();
 }
 
 void Form1::CommandStartVelmora_Click()
 {
+    const base::String tried = CommandStartVelmora->Caption();
     if (IsAgentRunning()) {
         CommandStartVelmora->Enabled(false);
+        Say(*CommandStartVelmora, controls::Balloon::Icon::Information, tried, TEXT("Velmora is already running."),
+            [this] { return !IsAgentRunning(); });
         return;
     }
     if (PasswordEdited) {
         SavePassword();
         PasswordEdited = false;
     }
-    if (helpers::RunProcess(AgentPath(), {}, false, true, NORMAL_PRIORITY_CLASS) != 0)
+    DWORD error = 0;
+    if (helpers::RunProcess(AgentPath(), {}, false, true, NORMAL_PRIORITY_CLASS, &error) != 0)
         CommandStartVelmora->Enabled(false);
+    else
+        SayFailure(*CommandStartVelmora, tried, error, [this] { return IsAgentRunning(); });
 }
 
 void Form1::CommandCloseVelmora_Click()

@@ -152,39 +152,50 @@ void Form1::chkSystem_Click()
 void Form1::cmdInstall_Click()
 {
     RefreshServicePanel();
+    const String tried = cmdInstall->Caption();
+    const bool installs = !ServiceInstalled;
+    DWORD error = 0;
     if (cmdInstall->Enabled()) {
         cmdInstall->Enabled(false);
         const DWORD startType = StartTypeAt(ComboStartup->ListIndex());
-        if (!ServiceInstalled) {
+        if (installs) {
             String account = txtAccount->Text();
-            Service.ServiceInstall(account, txtPassword->Text(), helpers::GetAppPath(), startType, false);
+            error = Service.ServiceInstall(account, txtPassword->Text(), helpers::GetAppPath(), startType, false);
         } else {
-            Service.ServiceUninstall();
+            error = Service.ServiceUninstall();
         }
     }
     RefreshServicePanel();
     // The layout for a missing service was shown before, so the refresh leaves the button as it is.
     if (!ServiceInstalled)
         SetEnabled(*cmdInstall, true);
+    if (error != 0)
+        SayFailure(*cmdInstall, tried, error, [this, installs] { return ServiceInstalled == installs; });
 }
 
 void Form1::cmdStart_Click()
 {
     SavePassword();
     RefreshServicePanel();
+    const String tried = cmdStart->Caption();
+    const DWORD wanted = ServiceState == SERVICE_RUNNING ? SERVICE_STOPPED : SERVICE_RUNNING;
+    DWORD error = 0;
     if (cmdStart->Enabled()) {
         cmdStart->Enabled(false);
         if (ServiceState == SERVICE_RUNNING)
-            Service.ServiceStop();
+            error = Service.ServiceStop();
         else if (ServiceState == SERVICE_STOPPED)
-            Service.ServiceStart();
+            error = Service.ServiceStart();
     }
     RefreshServicePanel();
+    if (error != 0)
+        SayFailure(*cmdStart, tried, error, [this, wanted] { return ServiceState == wanted; });
 }
 
 void Form1::tmrCheck_Timer()
 {
     RefreshServicePanel();
+    EndNoticeThatIsOver();
 }
 
 }  // namespace app

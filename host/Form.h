@@ -89,6 +89,8 @@ public:
     [[nodiscard]] bool IsChanged() const { return isChanged_; }
     /// A control's property (its name) has changed.
     Event<1, Control&, base::StringView> PropertyChanged;
+    /// The user has pressed a key or a mouse button anywhere on the form, and nobody has heard of it yet.
+    Event<2> UserActed;
 
     /// Makes a routine callable by name. A form publishes its key routines for controls that forward keys.
     void Publish(base::StringView name, Routine routine);
@@ -110,8 +112,8 @@ public:
     void PassFocusOn(Control& from);
     /// A control is enabled again: it gets back the focus that was passed on from it, if nobody has moved it since.
     void GiveFocusBack(Control& to);
-    /// The user has pressed a key or the left mouse button: whoever has the focus keeps it.
-    void SettleFocus() { passedOnFrom_ = nullptr; }
+    /// The user has pressed a key or a mouse button: whoever has the focus keeps it.
+    void UserActs();
     /// A window that is no one's to type in got the keyboard focus: the active control gets it, or the first that can take it.
     void RestoreFocus();
     void OnPropertyChanged(Control& control, base::StringView name);

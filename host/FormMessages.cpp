@@ -111,6 +111,12 @@ void Form::PassFocusOn(Control& from)
     passedOnFrom_ = first;
 }
 
+void Form::UserActs()
+{
+    passedOnFrom_ = nullptr;
+    UserActed.Raise();
+}
+
 void Form::GiveFocusBack(Control& to)
 {
     if (passedOnFrom_ == &to && IsLoaded() && CanGetFocusNow(to))

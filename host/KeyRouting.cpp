@@ -152,8 +152,13 @@ bool RouteMessage(MSG& message)
     switch (message.message) {
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
-            form->SettleFocus();
+            form->UserActs();
             LeaveActiveControl(*form, message.hwnd);
+            return false;
+        case WM_RBUTTONDOWN:
+        case WM_NCLBUTTONDOWN:
+        case WM_NCRBUTTONDOWN:
+            form->UserActs();
             return false;
         case WM_SYSCHAR:
             return PressAccessKey(*form, static_cast<WCHAR>(message.wParam));
@@ -162,7 +167,7 @@ bool RouteMessage(MSG& message)
     }
     const std::optional<KeyEvent> event = KeyEventOf(message.message);
     if (event == KeyEvent::Down)
-        form->SettleFocus();
+        form->UserActs();
     return event && RouteKey(*form, message);
 }
 

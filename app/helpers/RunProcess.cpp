@@ -45,11 +45,16 @@ void WaitForEnd(HANDLE process)
 
 }  // namespace
 
-DWORD RunProcess(StringView path, StringView arguments, bool wait, bool showNormally, DWORD flags)
+DWORD RunProcess(StringView path, StringView arguments, bool wait, bool showNormally, DWORD flags, DWORD* error)
 {
     const String program = Edited(base::Trim(path), PathUnquoteSpacesW);
-    if (program.empty() || !FileExists(program))
+    const auto fail = [error](DWORD reason) -> DWORD {
+        if (error)
+            *error = reason;
         return 0;
+    };
+    if (program.empty() || !FileExists(program))
+        return fail(ERROR_FILE_NOT_FOUND);
     const String folder = GetFolderFromPath(program);
     String commandLine = Quoted(program);
     if (const String trimmed = base::Trim(arguments); !trimmed.empty())
@@ -62,7 +67,7 @@ DWORD RunProcess(StringView path, StringView arguments, bool wait, bool showNorm
     PROCESS_INFORMATION started{};
     // CreateProcessW writes into the command line while it looks for the program's name in it.
     if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, flags, nullptr, folder.c_str(), &startup, &started))
-        return 0;
+        return fail(GetLastError());
     const base::KernelHandle process(started.hProcess);
     const base::KernelHandle thread(started.hThread);
     if (wait)

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "windef.h"
+
+#include <cstdarg>
 #include "winnt.h"
 
 #define INVALID_HANDLE_VALUE (reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(-1)))
@@ -54,6 +56,11 @@ DWORD WINAPI QueryDosDeviceW(LPCWSTR device, LPWSTR target, DWORD size);
 DWORD WINAPI GetTempPathW(DWORD size, LPWSTR buffer);
 UINT WINAPI GetWindowsDirectoryW(LPWSTR buffer, UINT size);
 UINT WINAPI GetSystemDirectoryW(LPWSTR buffer, UINT size);
+
+// ---- Texts of errors ----
+#define FORMAT_MESSAGE_IGNORE_INSERTS 0x00000200
+#define FORMAT_MESSAGE_FROM_SYSTEM 0x00001000
+DWORD WINAPI FormatMessageW(DWORD flags, LPCVOID source, DWORD message, DWORD language, LPWSTR buffer, DWORD size, va_list* arguments);
 
 // ---- Profiles ----
 DWORD WINAPI GetProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR fallback, LPWSTR buffer, DWORD size);

@@ -2,6 +2,7 @@
 // https://learn.microsoft.com/windows/win32/api/winuser/
 #pragma once
 
+#include "winuser/accessibility.h"
 #include "winuser/control.h"
 #include "winuser/input.h"
 #include "winuser/message.h"

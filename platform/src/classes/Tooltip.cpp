@@ -122,7 +122,8 @@ void Tooltip::Show(int index)
     const POINT place = PlaceFor(tool, size);
     inner::SetWindowPos(window_, HWND_TOPMOST, place.x, place.y, size.cx, size.cy, SWP_NOACTIVATE);
     if (!std::exchange(shown_, true)) {
-        inner::SetTimer(window_, kPopTimer, static_cast<UINT>(autoPopDelay_), nullptr);
+        if (!(tool.flags & TTF_TRACK))
+            inner::SetTimer(window_, kPopTimer, static_cast<UINT>(autoPopDelay_), nullptr);
         inner::ShowWindow(window_, SW_SHOWNOACTIVATE);
     }
     Repaint();
@@ -141,7 +142,9 @@ POINT Tooltip::PlaceFor(const Tool& tool, SIZE size) const
     const RECT area = SimPc::Current().Get<Screen>().WorkArea();
     POINT place = Queues().cursor;
     place.y += kCursorHeight;
-    if (tool.flags & TTF_CENTERTIP) {
+    if (tool.flags & TTF_TRACK) {
+        place = {tracked_.x - size.cx / 2, tracked_.y};
+    } else if (tool.flags & TTF_CENTERTIP) {
         const POINT below =
             inner::MapPoint(tool.window, nullptr, {(tool.rectangle.left + tool.rectangle.right) / 2, tool.rectangle.bottom});
         place = {below.x - size.cx / 2, below.y};

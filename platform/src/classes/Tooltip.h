@@ -49,6 +49,7 @@ private:
     bool AddTool(const TTTOOLINFOW& info);
     void RemoveTool(std::size_t index);
     [[nodiscard]] bool DescribeTool(TTTOOLINFOW& info) const;
+    void Track(bool activate, const TTTOOLINFOW& info);
     void SetDelay(WPARAM which, int milliseconds);
     [[nodiscard]] int Delay(WPARAM which) const;
 
@@ -68,6 +69,7 @@ private:
     int initialDelay_ = 500;
     int autoPopDelay_ = 5000;
     int reshowDelay_ = 100;
+    POINT tracked_{};  // of the screen, where a tool that is tracked has its tip
     int maxWidth_ = -1;
     std::u16string title_;
     int icon_ = TTI_NONE;

@@ -53,6 +53,13 @@ LRESULT Tooltip::HandleTooltipMessage(UINT message, WPARAM wParam, LPARAM lParam
             auto* info = reinterpret_cast<TTTOOLINFOW*>(lParam);
             return info && KnownSize(info->cbSize) && (message == TTM_ADDTOOLW ? AddTool(*info) : DescribeTool(*info));
         }
+        case TTM_TRACKACTIVATE:
+            if (const auto* info = reinterpret_cast<const TTTOOLINFOW*>(lParam); info && KnownSize(info->cbSize))
+                Track(wParam != FALSE, *info);
+            return 0;
+        case TTM_TRACKPOSITION:
+            tracked_ = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+            return 0;
         case TTM_GETTOOLCOUNT:
             return static_cast<LRESULT>(tools_.size());
         case TTM_SETDELAYTIME:
@@ -102,13 +109,26 @@ bool Tooltip::DescribeTool(TTTOOLINFOW& info) const
 
 bool Tooltip::AddTool(const TTTOOLINFOW& info)
 {
-    if (info.uFlags & ~static_cast<UINT>(TTF_SUBCLASS | TTF_CENTERTIP))
+    if (info.uFlags & ~static_cast<UINT>(TTF_SUBCLASS | TTF_CENTERTIP | TTF_TRACK))
         SimPc::Current().Unsupported("tooltips_class32: a tool with the flags " + std::to_string(info.uFlags));
     const LPARAM data = info.cbSize >= TTTOOLINFOW_V2_SIZE ? info.lParam : 0;
     tools_.push_back({info.uFlags, info.hwnd, info.uId, info.rect, info.hinst, TextOf(info.lpszText), data});
     if (info.uFlags & TTF_SUBCLASS)
         inner::SetWindowSubclass(info.hwnd, FollowTool, reinterpret_cast<UINT_PTR>(window_), 0);
     return true;
+}
+
+/// A tracked tip comes and goes when it is told to, wherever the mouse is.
+void Tooltip::Track(bool activate, const TTTOOLINFOW& info)
+{
+    const auto found =
+        std::find_if(tools_.begin(), tools_.end(), [&](const Tool& tool) { return tool.window == info.hwnd && tool.id == info.uId; });
+    if (found == tools_.end() || !(found->flags & TTF_TRACK))
+        return;
+    Pop();
+    current_ = activate ? static_cast<int>(found - tools_.begin()) : -1;
+    if (activate)
+        Show(current_);
 }
 
 void Tooltip::RemoveTool(std::size_t index)

@@ -218,6 +218,12 @@ BOOL WINAPI GetCursorPos(LPPOINT point)
     return TRUE;
 }
 
+/// Nobody listens on the stand-in PC.
+void WINAPI NotifyWinEvent(DWORD event, HWND window, LONG object, LONG child)
+{
+    SIM_NOTE(event, window, object, child);
+}
+
 UINT WINAPI GetDoubleClickTime()
 {
     SIM_NOTE();

@@ -1,0 +1,151 @@
+// The balloon that says why a button did not do what it was to do.
+#include "platform/sim/Desktop.h"
+#include "platform/sim/Graphics.h"
+#include "platform/sim/Processes.h"
+#include "platform/sim/Services.h"
+#include "platform/sim/Volumes.h"
+#include "tests/app/UtilityScene.h"
+
+#include <gtest/gtest.h>
+
+using namespace platform;
+
+namespace {
+
+constexpr const char16_t* name = u"Velmora";
+constexpr const char16_t* exe = u"C:\\Tools\\Velmora.exe";
+
+class Form1Notices : public testing::Test, protected tests::UtilityScene {
+protected:
+    HWND Balloon()
+    {
+        for (const HWND window : The<Desktop>().Windows()) {
+            WCHAR className[32]{};
+            GetClassNameW(window, className, 32);
+            if (className == base::StringView(TOOLTIPS_CLASSW) && IsWindowVisible(window) &&
+                (GetWindowLongW(window, GWL_STYLE) & TTS_BALLOON))
+                return window;
+        }
+        return nullptr;
+    }
+    /// Title and text as they are drawn, with a bar between them; empty without a balloon.
+    std::u16string Said()
+    {
+        const HWND balloon = Balloon();
+        if (!balloon)
+            return {};
+        The<Graphics>().ForgetTexts();
+        InvalidateRect(balloon, nullptr, TRUE);
+        UpdateWindow(balloon);
+        std::u16string said;
+        for (const auto& text : The<Graphics>().Texts())
+            if (text.window == balloon)
+                said += (said.empty() ? u"" : u"|") + text.text;
+        return said;
+    }
+};
+
+TEST_F(Form1Notices, FailedClick_IsExplainedUntilItComesTrueOrTheUserActs)
+{
+    const struct {
+        const char* what;
+        const WCHAR* button;
+        std::function<void()> scene;
+        const char16_t* said;
+        std::function<void()> comesTrue;
+    } cases[] = {
+        {"no such account", TEXT("cmdInstall"), [&] { pc.GetFaults().FailCall("CreateServiceW", ERROR_INVALID_SERVICE_ACCOUNT); },
+         u"Install Service|The account name is invalid or does not exist, or the password is invalid for the account name "
+         u"specified.\r\nError 1057",
+         [&] { The<Services>().Install(name, exe); }},
+        {"removed by another", TEXT("cmdInstall"),
+         [&] {
+             The<Services>().Install(name, exe);
+             pc.Advance(1000);
+             pc.GetFaults().FailCall("DeleteService", ERROR_SERVICE_MARKED_FOR_DELETE);
+         },
+         u"Uninstall Service|Error 1072", [&] { The<Services>().Delete(name); }},
+        {"disabled", TEXT("cmdStart"),
+         [&] {
+             The<Services>().Install(name, exe).startType = SERVICE_DISABLED;
+             pc.Advance(1000);
+         },
+         u"Start Service|The service cannot be started, either because it is disabled or because it has no enabled devices associated with "
+         u"it.\r\nError 1058",
+         [&] { The<Services>().SetState(name, SERVICE_RUNNING); }},
+        {"not to be stopped", TEXT("cmdStart"),
+         [&] {
+             The<Services>().Install(name, exe);
+             The<Services>().SetState(name, SERVICE_RUNNING);
+             pc.Advance(1000);
+             pc.GetFaults().FailCall("ControlService", ERROR_ACCESS_DENIED);
+         },
+         u"Stop Service|Access is denied.\r\nError 5", [&] { The<Services>().SetState(name, SERVICE_STOPPED); }},
+        {"no program", TEXT("CommandStartVelmora"), [&] { The<Volumes>().Remove(exe); },
+         u"Start Velmora|The system cannot find the file specified.\r\nError 2",
+         [&] {
+             The<Volumes>().WriteFile(exe, "MZ");
+             The<Processes>().Launch(exe);
+             pc.Advance(700);
+         }},
+        {"not to be started", TEXT("CommandStartVelmora"), [&] { pc.GetFaults().FailCall("CreateProcessW", ERROR_ACCESS_DENIED); },
+         u"Start Velmora|Access is denied.\r\nError 5",
+         [&] {
+             The<Processes>().Launch(exe);
+             pc.Advance(700);
+         }},
+    };
+    for (const auto& [what, button, scene, said, comesTrue] : cases)
+        for (const char* const end : {"it comes true", "a click", "a key", "a press on the title bar", "ten seconds", "the window goes"}) {
+            SCOPED_TRACE(std::string(what) + ", " + end);
+            ASSERT_TRUE(Open());
+            scene();
+            Click(button);
+            EXPECT_EQ(Said(), said);
+            EXPECT_EQ(GetForegroundWindow(), Form().hWnd());
+            EXPECT_NE(GetFocus(), Balloon());
+            pc.Advance(1900);
+            EXPECT_EQ(Said(), said) << "it stays";
+            if (end == std::string_view("it comes true"))
+                comesTrue();
+            else if (end == std::string_view("a click"))
+                The<Desktop>().Click(Form().hWnd(), 3, 3);
+            else if (end == std::string_view("a key"))
+                The<Desktop>().Press(VK_SHIFT);
+            else if (end == std::string_view("a press on the title bar"))
+                PostMessageW(Form().hWnd(), WM_NCLBUTTONDOWN, HTCAPTION, 0);
+            else if (end == std::string_view("the window goes"))
+                Form().Unload();
+            pc.Advance(end == std::string_view("ten seconds") ? 8200 : 1000);
+            EXPECT_EQ(Balloon(), nullptr);
+            Close();
+            for (const DWORD agentProcess : The<Processes>().Running(exe))
+                The<Processes>().End(agentProcess);
+            if (The<Services>().Find(name))
+                The<Services>().Delete(name);
+            The<Volumes>().WriteFile(exe, "MZ");
+        }
+}
+
+TEST_F(Form1Notices, AgentThatRunsAlready_IsSaid)
+{
+    ASSERT_TRUE(Open());
+    The<Processes>().Launch(exe);
+    pc.Advance(700);
+    Click(TEXT("CommandStartVelmora"));
+    EXPECT_EQ(Said(), u"Start Velmora|Velmora is already running.");
+    Click(TEXT("CommandCloseVelmora"));
+    EXPECT_EQ(Balloon(), nullptr);
+}
+
+TEST_F(Form1Notices, WhatWorks_IsNotSpokenOf)
+{
+    ASSERT_TRUE(Open());
+    for (const WCHAR* const button : {TEXT("cmdInstall"), TEXT("cmdStart"), TEXT("CommandStartVelmora"), TEXT("CommandCloseVelmora")}) {
+        Click(button);
+        EXPECT_EQ(Balloon(), nullptr);
+        pc.Advance(2500);
+    }
+}
+
+}  // namespace
