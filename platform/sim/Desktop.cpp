@@ -41,6 +41,15 @@ std::vector<HWND> Handles(const std::vector<WindowPtr>& windows)
     return handles;
 }
 
+/// Each window hears it, the topmost first and a parent before its children, and paints itself anew.
+void Announce(UINT message)
+{
+    for (const WindowPtr& window : Tree().All())
+        if (WindowOf(window->handle))
+            inner::SendMessage(window->handle, message, 0, 0);
+    inner::RedrawWindow(nullptr, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
 }  // namespace
 
 int Desktop::Dpi() const
@@ -206,19 +215,6 @@ std::size_t Desktop::TimersOf(DWORD process) const
             count += queue.timers.size();
     return count;
 }
-
-namespace {
-
-/// Each window hears it, the topmost first and a parent before its children, and paints itself anew.
-void Announce(UINT message)
-{
-    for (const WindowPtr& window : Tree().All())
-        if (WindowOf(window->handle))
-            inner::SendMessage(window->handle, message, 0, 0);
-    inner::RedrawWindow(nullptr, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
-}
-
-}  // namespace
 
 void Desktop::AnnounceThemeChange()
 {

@@ -29,7 +29,8 @@ void CompleteStyles(Window& window)
     window.exStyle = frame ? window.exStyle | WS_EX_WINDOWEDGE : window.exStyle & ~static_cast<DWORD>(WS_EX_WINDOWEDGE);
 }
 
-/// Fills in what CW_USEDEFAULT leaves to Windows: a cascade of windows, three quarters of the work area in size.
+/// Fills in what CW_USEDEFAULT leaves to Windows: a cascade of windows, three quarters of the work area in size. The step is about a
+/// caption, so that each window shows the captions of those below it.
 void CompletePlace(const Window& window, int& x, int& y, int& width, int& height)
 {
     const bool overlapped = !(window.style & (WS_CHILD | WS_POPUP));

@@ -8,7 +8,8 @@ namespace platform {
 
 namespace {
 
-/// Where minimised windows wait: off the screen, a caption in size.
+/// Where minimised windows wait: off the screen, a caption in size. Windows parks them there since the desktop no longer shows them as
+/// icons; programs see the place in GetWindowRect.
 constexpr RECT kMinimized{-32000, -32000, -32000 + 160, -32000 + 28};
 
 void LoseFocusToParent(Window& window)

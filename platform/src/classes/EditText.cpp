@@ -6,6 +6,15 @@
 
 namespace platform {
 
+namespace {
+
+bool Blank(char16_t unit)
+{
+    return unit <= u' ';
+}
+
+}  // namespace
+
 void EditText::Assign(std::u16string_view text)
 {
     text_ = text;
@@ -77,15 +86,6 @@ bool EditText::Undo()
     modified = true;
     return true;
 }
-
-namespace {
-
-bool Blank(char16_t unit)
-{
-    return unit <= u' ';
-}
-
-}  // namespace
 
 std::size_t PreviousWord(std::u16string_view text, std::size_t position)
 {

@@ -18,6 +18,7 @@ enum TimerId : UINT_PTR {
     kLeaveTimer = 3,  // looks whether the mouse is still on the tool
     kPopTimer = 4,    // the tip has stood long enough
 };
+/// Where the mouse leaves a tool for nothing of its window no message comes: the tip looks for itself.
 constexpr UINT kLeaveInterval = 100;
 constexpr int kCursorHeight = 20;
 
@@ -72,7 +73,7 @@ void Tooltip::Relay(HWND tool, UINT message, LPARAM lParam)
 {
     if (message != WM_MOUSEMOVE && message != WM_NCMOUSEMOVE) {  // A button or the wheel: the user does not need the tip any more.
         Pop();
-        spent_ = true;
+        spent_ = true;  // Only leaving brings it back: test ToolTip.RestingMouse_BringsItAndOnlyLeavingTakesIt.
         return;
     }
     const int found = message == WM_MOUSEMOVE ? ToolAt(tool, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}) : -1;

@@ -47,7 +47,7 @@ public:
         Enter(function, [&] { return Join(arguments...); });
     }
 
-    /// Text of the call that was entered last: "CreateFileW(...) #1234". It names the maker of a leaked handle.
+    /// Text of the call that was entered last: "CreateFileW (call 1234)". It names the maker of a leaked handle.
     [[nodiscard]] static std::string CurrentCall();
 
 private:

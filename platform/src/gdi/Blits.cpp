@@ -22,6 +22,23 @@ int SourceStep(int step, int targetSize, int sourceSize)
     return static_cast<int>(numerator >= 0 ? numerator / denominator : -((-numerator + denominator - 1) / denominator));
 }
 
+/// Raster operations without a source: the pattern is the brush.
+bool FillByRop(DeviceContext& dc, const RECT& logical, DWORD rop)
+{
+    const Brush& brush = *dc.state.brush.Get();
+    const bool usesPattern = (rop >> 16 & 0x0F) != (rop >> 20 & 0x0F);
+    if (usesPattern && brush.style == BS_NULL)
+        return true;
+    dc.ForEach(Ordered(dc.ToImage(logical)),
+               [&](int x, int y, std::uint32_t& pixel) { pixel = ApplyRop3(rop, usesPattern ? dc.BrushPixel(brush, x, y) : 0, 0, pixel); });
+    return true;
+}
+
+bool UsesSource(DWORD rop)
+{
+    return (rop >> 16 & 0x33) != (rop >> 18 & 0x33);
+}
+
 }  // namespace
 
 void StretchPixels(DeviceContext& dc, RECT target, const Image& source, RECT from, DWORD rop, COLORREF sourceBackground)
@@ -51,27 +68,6 @@ void StretchPixels(DeviceContext& dc, RECT target, const Image& source, RECT fro
 }
 
 }  // namespace platform
-
-namespace {
-
-/// Raster operations without a source: the pattern is the brush.
-bool FillByRop(DeviceContext& dc, const RECT& logical, DWORD rop)
-{
-    const Brush& brush = *dc.state.brush.Get();
-    const bool usesPattern = (rop >> 16 & 0x0F) != (rop >> 20 & 0x0F);
-    if (usesPattern && brush.style == BS_NULL)
-        return true;
-    dc.ForEach(Ordered(dc.ToImage(logical)),
-               [&](int x, int y, std::uint32_t& pixel) { pixel = ApplyRop3(rop, usesPattern ? dc.BrushPixel(brush, x, y) : 0, 0, pixel); });
-    return true;
-}
-
-bool UsesSource(DWORD rop)
-{
-    return (rop >> 16 & 0x33) != (rop >> 18 & 0x33);
-}
-
-}  // namespace
 
 BOOL WINAPI BitBlt(HDC dc, int x, int y, int width, int height, HDC source, int xSource, int ySource, DWORD rop)
 {

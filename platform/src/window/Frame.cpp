@@ -113,7 +113,7 @@ int HitFrame(const Window& window, POINT point)
     if (!Holds(inside, point)) {
         if (!(window.style & WS_THICKFRAME))
             return HTBORDER;
-        // Sixteen pixels along each edge belong to the corner.
+        // Sixteen pixels along each edge belong to the corner: a border of a few pixels could hardly be caught there.
         constexpr int corner = 16;
         const bool left = point.x < frame.left + corner, right = point.x >= frame.right - corner;
         if (point.y < inside.top)

@@ -8,6 +8,15 @@
 
 namespace platform {
 
+namespace {
+
+WindowClasses& Classes()
+{
+    return SimPc::Current().Get<WindowClasses>();
+}
+
+}  // namespace
+
 bool WindowClasses::Register(WindowClass windowClass)
 {
     for (const auto& known : classes_)
@@ -37,20 +46,6 @@ void WindowClasses::Forget(const WindowClass& windowClass)
 {
     std::erase_if(classes_, [&](const auto& known) { return known.get() == &windowClass; });
 }
-
-bool WindowClasses::IsKnown(std::u16string_view name) const
-{
-    return std::any_of(classes_.begin(), classes_.end(), [&](const auto& known) { return SameName(known->name, name); });
-}
-
-namespace {
-
-WindowClasses& Classes()
-{
-    return SimPc::Current().Get<WindowClasses>();
-}
-
-}  // namespace
 
 }  // namespace platform
 

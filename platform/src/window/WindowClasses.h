@@ -14,8 +14,6 @@ public:
     /// Looks in the process's own classes first, then in the system's. `name` may be an atom.
     [[nodiscard]] std::shared_ptr<WindowClass> Find(LPCWSTR name, DWORD process) const;
     void Forget(const WindowClass& windowClass);
-    /// Whether some process has a class of this name: FindWindow fails with an error when none has.
-    [[nodiscard]] bool IsKnown(std::u16string_view name) const;
 
 private:
     std::vector<std::shared_ptr<WindowClass>> classes_;

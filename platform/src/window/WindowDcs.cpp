@@ -30,6 +30,24 @@ View ViewOf(Window& window, bool whole, bool clipChildren, const Region* clip)
     return {pixels, {own.left - corner.x, own.top - corner.y}, visible.Offset(-corner.x, -corner.y).Intersect(Region(pixels->Bounds()))};
 }
 
+WindowDcs& Dcs()
+{
+    return SimPc::Current().Get<WindowDcs>();
+}
+
+HDC OpenFor(HWND handle, bool whole, bool clipChildren, const Region* clip = nullptr)
+{
+    if (!handle || handle == Tree().Desktop().handle)
+        return Dcs().OpenScreen();
+    const WindowPtr window = RequireWindow(handle);
+    return window ? Dcs().Open(*window, whole, clipChildren, clip) : nullptr;
+}
+
+bool ClipsChildren(HWND window)
+{
+    return (inner::GetStyle(window) & WS_CLIPCHILDREN) != 0;
+}
+
 }  // namespace
 
 HDC WindowDcs::Open(Window& window, bool whole, bool clipChildren, const Region* clip)
@@ -105,28 +123,6 @@ void WindowDcs::Forget(const Window& window)
         entry.window = nullptr;
     }
 }
-
-namespace {
-
-WindowDcs& Dcs()
-{
-    return SimPc::Current().Get<WindowDcs>();
-}
-
-HDC OpenFor(HWND handle, bool whole, bool clipChildren, const Region* clip = nullptr)
-{
-    if (!handle || handle == Tree().Desktop().handle)
-        return Dcs().OpenScreen();
-    const WindowPtr window = RequireWindow(handle);
-    return window ? Dcs().Open(*window, whole, clipChildren, clip) : nullptr;
-}
-
-bool ClipsChildren(HWND window)
-{
-    return (inner::GetStyle(window) & WS_CLIPCHILDREN) != 0;
-}
-
-}  // namespace
 
 namespace inner {
 
