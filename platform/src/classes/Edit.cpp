@@ -29,6 +29,7 @@ bool Edit::Create(const CREATESTRUCTW& create)
     // The common controls of version 6 show a black circle, older ones an asterisk.
     if ((style & ES_PASSWORD) && !multiLine_)
         mask_ = SimPc::Current().Get<Modules>().CommonControlsMajor() >= 6 ? u'\u25CF' : u'*';
+    text_.Assign(create.lpszName ? Cased(create.lpszName) : std::u16string());
     return true;
 }
 
@@ -37,12 +38,9 @@ LRESULT Edit::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     switch (message) {
         case WM_NCCREATE:
             return Create(*reinterpret_cast<const CREATESTRUCTW*>(lParam)) && inner::DefWindowProc(window_, message, wParam, lParam);
-        case WM_CREATE: {
-            const auto& create = *reinterpret_cast<const CREATESTRUCTW*>(lParam);
-            text_.Assign(create.lpszName ? Cased(create.lpszName) : std::u16string());
+        case WM_CREATE:
             Arrange();
             return 0;
-        }
         case WM_SETTEXT:
             SetText(reinterpret_cast<const char16_t*>(lParam));
             return TRUE;
