@@ -6,8 +6,6 @@
 #include "platform/src/input/Retrieval.h"
 #include "platform/src/message/MessageQueues.h"
 
-#include <algorithm>
-
 namespace platform {
 
 bool LetSomethingHappen(std::uint64_t limit)

@@ -1,7 +1,7 @@
-#include "platform/sim/Theme.h"
+#include "platform/src/theme/WindowThemes.h"
 
 #include "platform/sim/Modules.h"
-#include "platform/src/theme/WindowThemes.h"
+#include "platform/sim/Theme.h"
 
 namespace platform {
 
