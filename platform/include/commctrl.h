@@ -46,6 +46,9 @@ BOOL WINAPI InitCommonControlsEx(const INITCOMMONCONTROLSEX* controls);
 #define TTM_SETTITLEW (WM_USER + 33)
 #define TTM_ADDTOOLW (WM_USER + 50)
 #define TTM_GETTOOLINFOW (WM_USER + 53)
+#define TTN_FIRST (0U - 520U)
+#define TTN_SHOW (TTN_FIRST - 1)
+#define TTN_POP (TTN_FIRST - 2)
 
 // Newer systems know more members; a version-5 library refuses a record that is longer than the one it knows.
 struct TTTOOLINFOW {

@@ -123,6 +123,9 @@ void Tooltip::Show(int index)
     const POINT place = PlaceFor(tool, size);
     inner::SetWindowPos(window_, HWND_TOPMOST, place.x, place.y, size.cx, size.cy, SWP_NOACTIVATE);
     if (!std::exchange(shown_, true)) {
+        NotifyTool(tool, TTN_SHOW);  // A window that wants the tip elsewhere moves it now.
+        if (!Alive())
+            return;
         if (!(tool.flags & TTF_TRACK))
             inner::SetTimer(window_, kPopTimer, static_cast<UINT>(autoPopDelay_), nullptr);
         inner::ShowWindow(window_, SW_SHOWNOACTIVATE);
@@ -134,7 +137,11 @@ void Tooltip::Pop()
 {
     inner::KillTimer(window_, kShowTimer);
     inner::KillTimer(window_, kPopTimer);
-    if (std::exchange(shown_, false))
+    if (!std::exchange(shown_, false))
+        return;
+    if (current_ >= 0)
+        NotifyTool(tools_[static_cast<std::size_t>(current_)], TTN_POP);
+    if (Alive())
         inner::ShowWindow(window_, SW_HIDE);
 }
 
@@ -159,6 +166,12 @@ POINT Tooltip::PlaceFor(const Tool& tool, SIZE size) const
 Tooltip::Look Tooltip::LookOf(const Tool& tool) const
 {
     return {tool.text, title_, icon_, Has(TTS_BALLOON), Has(TTS_NOPREFIX), maxWidth_, backColor_, textColor_, font_};
+}
+
+LRESULT Tooltip::NotifyTool(const Tool& tool, UINT code) const
+{
+    NMHDR header{window_, tool.id, code};
+    return inner::SendMessage(tool.window, WM_NOTIFY, tool.id, reinterpret_cast<LPARAM>(&header));
 }
 
 void Tooltip::Paint(HDC dc)

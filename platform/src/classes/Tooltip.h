@@ -61,6 +61,7 @@ private:
     void Pop();
     [[nodiscard]] POINT PlaceFor(const Tool& tool, SIZE size) const;
     [[nodiscard]] Look LookOf(const Tool& tool) const;
+    LRESULT NotifyTool(const Tool& tool, UINT code) const;
 
     std::vector<Tool> tools_;
     int current_ = -1;  // the tool below the mouse
