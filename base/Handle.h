@@ -21,8 +21,7 @@ public:
     Handle(Handle&& other) noexcept : handle_(other.Release()) {}
     Handle& operator=(Handle&& other) noexcept
     {
-        if (this != &other)
-            Reset(other.Release());
+        Reset(other.Release());
         return *this;
     }
     Handle(const Handle&) = delete;

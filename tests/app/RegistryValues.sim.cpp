@@ -30,6 +30,7 @@ TEST(RegistryKeys, AreOpenedForWritingAndByAReaderForReading)
         const std::string write = wide ? " 0x2013F" : " 0x2003F";
         pc.Get<Users>().Administrator(true);
         EXPECT_EQ(Asked(pc, read), write);
+        EXPECT_EQ(pc.Trace().Count("RegCloseKey"), 1u);
         pc.Get<Users>().Administrator(false);
         EXPECT_EQ(Asked(pc, read), write + (wide ? " 0x20119" : " 0x20019"));
         EXPECT_EQ(Asked(pc, open), write) << "who wants to write is not given less";
