@@ -15,7 +15,7 @@ COMMANDS = 'build/native/compile_commands.json'
 FOREIGN = re.compile(r' -Winvalid-pch| -include \S*cmake_pch\S*| -Wshadow=local')
 
 HABITS = (
-    (re.compile(r'\w(?:\[[^\]]*\])* = \{\};'), 'an empty initialiser is written `name{}`'),
+    (re.compile(r'^\s*[\w:][\w:<>,*& ]* \*?\w+(?:\[[^\]]*\])* = \{\};'), 'an empty initialiser is written `name{}`'),
     (re.compile(r'sizeof\((?!\w+::)[a-z_*]'), '`sizeof name`; brackets are for types'),
     (re.compile(r'(?:\b(?:if|while) \(|for \(.*|&& |\|\| |\()[^?&|]*[!=]= nullptr|[!=]= nullptr [?&|]'), 'a condition asks `name` or `!name`'),
 )
