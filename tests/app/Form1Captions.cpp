@@ -84,7 +84,7 @@ TEST(Form1Captions, StandWholeOnTheirButtons_AtEveryResolution)
     for (const int dots : {96, 120, 144, 168, 192}) {
         if (!tests::AtDotsPerInch(dots))
             continue;
-        SCOPED_TRACE(dots);
+        SCOPED_TRACE(testing::Message() << dots << " dots per inch");
         ExpectWholeCaptions();
         ++seen;
     }

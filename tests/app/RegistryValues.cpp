@@ -82,14 +82,14 @@ TEST_F(RegistryValues, Writing_StoresEachTypeInItsForm)
                  {std::vector<std::uint8_t>{1, 0, 2}, REG_BINARY, true, 3}, {String(TEXT("ab")), REG_BINARY, false, 0},
                  {std::vector<std::uint8_t>{1}, REG_SZ, false, 0},          {String(TEXT("ab")), REG_MULTI_SZ, false, 0}};
     for (const auto& c : cases) {
-        EXPECT_EQ(WriteRegValue(key, TEXT("v"), c.data, c.type), c.written) << "row " << &c - cases;
+        SCOPED_TRACE(testing::Message() << "row " << &c - cases << ", type " << c.type);
+        EXPECT_EQ(WriteRegValue(key, TEXT("v"), c.data, c.type), c.written);
         DWORD stored = 0;
         DWORD size = 0;
-        EXPECT_EQ(RegQueryValueExW(key.Get(), TEXT("v"), nullptr, &stored, nullptr, &size) == ERROR_SUCCESS, c.written)
-            << "row " << &c - cases;
-        EXPECT_EQ(size, c.size) << "row " << &c - cases;
+        EXPECT_EQ(RegQueryValueExW(key.Get(), TEXT("v"), nullptr, &stored, nullptr, &size) == ERROR_SUCCESS, c.written);
+        EXPECT_EQ(size, c.size);
         EXPECT_EQ(stored, c.written ? c.type : 0u);
-        EXPECT_EQ(DeleteRegValue(key, TEXT("v")), c.written) << "row " << &c - cases;
+        EXPECT_EQ(DeleteRegValue(key, TEXT("v")), c.written);
     }
 }
 

@@ -37,15 +37,15 @@ TEST_F(EndToEnd, TypedPassword_IsStoredByOkAndShownAgainMasked)
 
 TEST_F(EndToEnd, EscAltF5AndTheCloseBox_DropWhatWasTyped)
 {
-    for (int way = 0; way < 3; ++way) {
+    for (const std::string_view way : {"Esc", "Alt+F5", "the close box"}) {
         SCOPED_TRACE(way);
         Utility utility(exe_);
         ASSERT_TRUE(utility.Opened());
         utility.Enter("TextPassword", TEXT("other"));
         ASSERT_TRUE(Eventually([&] { return SendMessageW(utility.Shown("TextPassword"), WM_GETTEXTLENGTH, 0, 0) == 5; }));
-        if (way == 0)
+        if (way == "Esc")
             utility.Press({VK_ESCAPE});
-        else if (way == 1)
+        else if (way == "Alt+F5")
             utility.Press({VK_MENU, VK_F5});
         else
             utility.ClickCloseBox();

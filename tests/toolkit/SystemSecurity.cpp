@@ -16,7 +16,7 @@ TEST(SystemSecurity, Setting_GivesTheStateBeforeAndReadingLeavesIt)
     SystemSecurity::SetPrivilege(debug, 0, previous);
     for (const auto& [request, before] : {std::pair{1, 0}, {1, 1}, {-1, 1}, {0, 1}, {0, 0}, {-1, 0}, {1, 0}, {2, 1}, {-1, 0}}) {
         EXPECT_EQ(SystemSecurity::SetPrivilege(debug, request, previous), 1);
-        EXPECT_EQ(previous, before) << request;
+        EXPECT_EQ(previous, before) << "request " << request;
         const int now = request == -1 ? before : request == 1;
         EXPECT_EQ(SystemSecurity::GetPrivilege(debug), now);
         EXPECT_EQ(SystemSecurity::GetDebugPrivilege(), now);

@@ -80,8 +80,8 @@ TEST_F(TaskManLight, CollectionWithoutMemory_LeavesTheListAndCanBeRepeated)
             const tests::FailingMemory memory(++refused);
             count = tools.GetAllHWnd(list);
         }
-        EXPECT_EQ(count, tests::FailingMemory::HasStruck() ? -1 : 14) << refused;
-        EXPECT_EQ(list, tests::FailingMemory::HasStruck() ? std::vector<HWND>(30) : whole) << refused;
+        EXPECT_EQ(count, tests::FailingMemory::HasStruck() ? -1 : 14) << "request " << refused;
+        EXPECT_EQ(list, tests::FailingMemory::HasStruck() ? std::vector<HWND>(30) : whole) << "request " << refused;
     }
     EXPECT_GT(refused, 3) << "the list grows twice";
 }
