@@ -1,4 +1,4 @@
-// The shutdown password, from the keys of the keyboard to the settings file and back, and the ways out of the window that keep or drop it.
+// The shutdown password, from the keys of the keyboard to the settings file and back.
 #include "tests/e2e/EndToEnd.h"
 
 namespace e2e {
@@ -32,26 +32,6 @@ TEST_F(EndToEnd, TypedPassword_IsStoredByOkAndShownAgainMasked)
         again.Click("CommandOk");
         ASSERT_TRUE(again.Ended());
         EXPECT_EQ(tests::BytesOf(settings_), settings);
-    }
-}
-
-TEST_F(EndToEnd, EscAltF5AndTheCloseBox_DropWhatWasTyped)
-{
-    for (const std::string_view way : {"Esc", "Alt+F5", "the close box"}) {
-        SCOPED_TRACE(way);
-        Utility utility(exe_);
-        ASSERT_TRUE(utility.Opened());
-        utility.Enter("TextPassword", TEXT("other"));
-        ASSERT_TRUE(Eventually([&] { return SendMessageW(utility.Shown("TextPassword"), WM_GETTEXTLENGTH, 0, 0) == 5; }));
-        if (way == "Esc")
-            utility.Press({VK_ESCAPE});
-        else if (way == "Alt+F5")
-            utility.Press({VK_MENU, VK_F5});
-        else
-            utility.ClickCloseBox();
-        EXPECT_TRUE(utility.Ended());
-        EXPECT_EQ(utility.ExitCode(), 0u);
-        EXPECT_EQ(GetFileAttributesW(settings_.c_str()), INVALID_FILE_ATTRIBUTES);
     }
 }
 

@@ -36,6 +36,10 @@ TEST_F(EndToEnd, SecondCopy_EndsWithoutAWord)
     EXPECT_FALSE(boxSeen);
     EXPECT_EQ(second.ExitCode(), 0u);
     EXPECT_TRUE(first.Responds());
+    first.Enter("TextPassword", TEXT("dropped"));
+    first.Press({VK_MENU, VK_F5});
+    EXPECT_TRUE(first.Ended());
+    EXPECT_EQ(GetFileAttributesW(settings_.c_str()), INVALID_FILE_ATTRIBUTES);
 }
 
 TEST_F(EndToEnd, NameWithBlank_NamesTheAgentAndItsSettings)

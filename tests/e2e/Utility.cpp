@@ -137,19 +137,6 @@ void Utility::Click(std::string_view name) const
     tests::ClickMouse();
 }
 
-void Utility::ClickCloseBox() const
-{
-    BringToFront();
-    RECT rect{};
-    GetWindowRect(window_, &rect);
-    const int y = rect.top + GetSystemMetrics(SM_CYSIZEFRAME) + GetSystemMetrics(SM_CYCAPTION) / 2;
-    int x = rect.right;
-    while (x > rect.left && SendMessageW(window_, WM_NCHITTEST, 0, MAKELPARAM(x, y)) != HTCLOSE)
-        --x;
-    tests::MoveMouse(x - 3, y);
-    tests::ClickMouse();
-}
-
 void Utility::Press(std::initializer_list<WORD> virtualKeys) const
 {
     BringToFront();

@@ -51,7 +51,6 @@ public:
     // What a person does. Every one of them brings the window to the front first.
 
     void Click(std::string_view name) const;
-    void ClickCloseBox() const;
     /// Presses the keys in order, the last one with all others held, and lets them go in reverse.
     void Press(std::initializer_list<WORD> virtualKeys) const;
     /// Clicks into the box, selects all that is there and types over it.
