@@ -62,12 +62,12 @@ protected:
     };
 
     /// Leads to one of the settings, for a control's table of stored properties.
-    template <class Control, auto setting>
+    template <class Control, auto Setting>
     [[nodiscard]] static auto Tip()
     {
         return [](Control & control) -> auto&
         {
-            return static_cast<ToolTip&>(control).tip_.*setting;
+            return static_cast<ToolTip&>(control).tip_.*Setting;
         };
     }
 

@@ -14,7 +14,7 @@ namespace host {
 
 /// An object with one interface, counted by its references, which end its life. It lives on one thread, as OLE's drag and drop does.
 /// https://learn.microsoft.com/windows/win32/com/managing-object-lifetimes-through-reference-counting
-template <class Interface, const IID* iid>
+template <class Interface, const IID* InterfaceId>
 class ComObject : public Interface {
 public:
     ComObject(const ComObject&) = delete;
@@ -22,9 +22,9 @@ public:
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID wanted, void** object) noexcept final
     {
-        if (object == nullptr)
+        if (!object)
             return E_POINTER;
-        const bool known = IsEqualIID(wanted, IID_IUnknown) || IsEqualIID(wanted, *iid);
+        const bool known = IsEqualIID(wanted, IID_IUnknown) || IsEqualIID(wanted, *InterfaceId);
         *object = known ? static_cast<Interface*>(this) : nullptr;
         if (!known)
             return E_NOINTERFACE;
@@ -57,7 +57,7 @@ public:
     ComPointer() = default;
     explicit ComPointer(T* object) noexcept : object_(object)
     {
-        if (object_ != nullptr)
+        if (object_)
             object_->AddRef();
     }
     ComPointer(const ComPointer& other) noexcept : ComPointer(other.object_) {}
@@ -69,7 +69,7 @@ public:
     }
     ~ComPointer()
     {
-        if (object_ != nullptr)
+        if (object_)
             object_->Release();
     }
 

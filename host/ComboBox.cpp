@@ -34,7 +34,7 @@ RECT ComboBox::WindowRect(RECT place) const
 void ComboBox::AddItem(base::StringView text)
 {
     const base::String& item = items_.emplace_back(text);
-    if (hWnd() != nullptr)
+    if (hWnd())
         SendMessageW(hWnd(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.c_str()));
 }
 
@@ -50,7 +50,7 @@ void ComboBox::ListIndex(int index)
     if (index == listIndex_)
         return;
     listIndex_ = index;
-    if (hWnd() != nullptr)
+    if (hWnd())
         SendMessageW(hWnd(), CB_SETCURSEL, static_cast<WPARAM>(index), 0);
     Click.Raise();
 }

@@ -19,7 +19,7 @@ public:
     /// The window that is the parent of the controls' windows; NULL when there is none (any more).
     [[nodiscard]] virtual HWND ContainerHandle() const = 0;
     /// How the controls' Left, Top, Width and Height count: the form's own mode on the form, twips everywhere else.
-    [[nodiscard]] virtual ScaleMode ContainerScaleMode() const { return ScaleMode::twips; }
+    [[nodiscard]] virtual ScaleMode ContainerScaleMode() const { return ScaleMode::Twips; }
     [[nodiscard]] virtual OleColor ContainerBackColor() const = 0;
     [[nodiscard]] virtual OleColor ContainerForeColor() const = 0;
 

@@ -39,7 +39,7 @@ std::optional<Bytes> DataObject::Fetch(CLIPFORMAT format) const
 {
     if (!received_) {
         const Offer* const offer = FindOffer(format);
-        return offer != nullptr ? offer->bytes : std::nullopt;
+        return offer ? offer->bytes : std::nullopt;
     }
     FORMATETC wanted = InMemory(format);
     Medium medium;

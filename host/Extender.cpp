@@ -39,7 +39,7 @@ Extender::Extender(Control& control, Form& form, host::Container& container, bas
 void Extender::Container(host::Container& container)
 {
     const HWND window = container.ContainerHandle(), own = control_.OwnHandle();
-    if (&container == container_ || (own != nullptr && (window == own || IsChild(own, window))))
+    if (&container == container_ || (own && (window == own || IsChild(own, window))))
         return;
     form_.MoveTo(control_, *container_, container);
     container_ = &container;
@@ -86,7 +86,7 @@ void Extender::Visible(bool visible)
 {
     if (std::exchange(visible_, visible) == visible)
         return;
-    if (control_.OwnHandle() != nullptr)
+    if (control_.OwnHandle())
         ShowWindow(control_.OwnHandle(), visible ? SW_SHOWNA : SW_HIDE);
     if (visible && form_.IsShown())
         control_.Shown();
@@ -119,7 +119,7 @@ void Extender::ZOrder(int position)
 {
     const HWND own = control_.OwnHandle(), shown = control_.hWnd();
     const auto place = [=](HWND window) {
-        if (window != nullptr)
+        if (window)
             SetWindowPos(window, position == 0 ? HWND_TOP : HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     };
     // A hosted system window stays above the control's own window.

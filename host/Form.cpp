@@ -117,7 +117,7 @@ Form* Form::First()
 Form* Form::Of(HWND window)
 {
     for (Form* const form : LoadedForms())
-        if (window != nullptr && (form->hWnd() == window || IsChild(form->hWnd(), window)))
+        if (window && (form->hWnd() == window || IsChild(form->hWnd(), window)))
             return form;
     return nullptr;
 }
@@ -125,7 +125,7 @@ Form* Form::Of(HWND window)
 void Form::Caption(base::StringView caption)
 {
     caption_ = caption;
-    if (hWnd() != nullptr)
+    if (hWnd())
         SetWindowTextW(hWnd(), caption_.c_str());
 }
 
@@ -138,7 +138,7 @@ void Form::Font(std::shared_ptr<host::Font> font)
 void Form::BackColor(OleColor color)
 {
     backColor_ = color;
-    if (hWnd() != nullptr)
+    if (hWnd())
         InvalidateRect(hWnd(), nullptr, TRUE);
     Ambient(TEXT("BackColor"));
 }

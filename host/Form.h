@@ -163,7 +163,7 @@ private:
     bool keyPreview_ = false;
     bool rightToLeft_ = false;
     bool userMode_ = true;
-    host::ScaleMode scaleMode_ = ScaleMode::twips;
+    host::ScaleMode scaleMode_ = ScaleMode::Twips;
     std::shared_ptr<host::Font> font_ = std::make_shared<host::Font>();
     OleColor backColor_ = SystemColor(COLOR_BTNFACE);
     OleColor foreColor_ = SystemColor(COLOR_BTNTEXT);

@@ -42,14 +42,14 @@ void Form::ReadProperties(const PropertyBag& bag)
     clientHeight_ = bag.Read<std::int32_t>(clientHeightKey, 0);
     keyPreview_ = bag.Read<bool>(keyPreviewKey, false);
     rightToLeft_ = bag.Read<bool>(rightToLeftKey, false);
-    scaleMode_ = bag.Read<std::int32_t>(scaleModeKey, 1) == 3 ? ScaleMode::pixels : ScaleMode::twips;
+    scaleMode_ = bag.Read<std::int32_t>(scaleModeKey, 1) == 3 ? ScaleMode::Pixels : ScaleMode::Twips;
     font_ = bag.Read<std::shared_ptr<host::Font>>(fontKey, std::make_shared<host::Font>());
 }
 
 bool Form::Place(const FormNode& node, Container& container, const ControlFactory& factory)
 {
     Control* const control = Site(node.kind, node.name, container, factory);
-    if (control == nullptr) {
+    if (!control) {
         loadError_ = "unknown kind of control: " + Narrow(node.kind);
         return false;
     }
@@ -57,7 +57,7 @@ bool Form::Place(const FormNode& node, Container& container, const ControlFactor
     control->GetExtender().ReadProperties(bag);
     control->LoadStored(bag);
     auto* const inner = dynamic_cast<Container*>(control);
-    if (inner == nullptr && !node.children.empty()) {
+    if (!inner && !node.children.empty()) {
         loadError_ = Narrow(node.name) + " can't contain controls";
         return false;
     }
@@ -81,8 +81,8 @@ Control* Form::Add(base::StringView kind, base::StringView name, float left, flo
     if (!IsLoaded())
         return nullptr;
     const int tabIndex = static_cast<int>(controls_.size());
-    Control* const control = Site(kind, name, container != nullptr ? *container : *this, factory);
-    if (control == nullptr)
+    Control* const control = Site(kind, name, container ? *container : *this, factory);
+    if (!control)
         return nullptr;
     control->GetExtender().TabIndex(tabIndex);
     control->GetExtender().Move(left, top, width, height);
@@ -115,7 +115,7 @@ Control* Form::Find(base::StringView name) const
 
 Control* Form::ControlOf(HWND window) const
 {
-    if (window == nullptr)
+    if (!window)
         return nullptr;
     const auto found =
         std::ranges::find_if(controls_, [=](const auto& control) { return control->OwnHandle() == window || control->hWnd() == window; });
@@ -130,7 +130,7 @@ std::string Form::Write() const
     bag.Write(clientHeightKey, std::int32_t{clientHeight_});
     bag.Write(keyPreviewKey, keyPreview_, false);
     bag.Write(rightToLeftKey, rightToLeft_, false);
-    bag.Write(scaleModeKey, static_cast<std::int32_t>(scaleMode_), static_cast<std::int32_t>(ScaleMode::twips));
+    bag.Write(scaleModeKey, static_cast<std::int32_t>(scaleMode_), static_cast<std::int32_t>(ScaleMode::Twips));
     bag.Write(fontKey, font_, std::make_shared<host::Font>());
     FormNode root{TEXT("Form"), name_, bag.Properties(), {}};
     for (Control* const control : ContainedControls())

@@ -60,9 +60,9 @@ void Form::ForwardToControls(UINT message, WPARAM wParam, LPARAM lParam)
 {
     for (Control* const control : Controls()) {
         const HWND own = control->OwnHandle(), shown = control->hWnd();
-        if (own != nullptr)
+        if (own)
             SendMessageW(own, message, wParam, lParam);
-        if (shown != nullptr && shown != own)
+        if (shown && shown != own)
             SendMessageW(shown, message, wParam, lParam);
     }
 }
@@ -73,13 +73,13 @@ void Form::Activate(Control* control)
         return;
     passedOnFrom_ = nullptr;
     Control* const former = std::exchange(active_, control);
-    if (former != nullptr) {
+    if (former) {
         former->LostFocus();
         if (IsLoaded())
             former->ExitFocus();
     }
     // A handler may have moved on, or unloaded the form.
-    if (control != nullptr && active_ == control)
+    if (control && active_ == control)
         control->EnterFocus();
 }
 
@@ -88,15 +88,15 @@ void Form::RestoreFocus()
 {
     if (!IsLoaded())
         return;
-    Control* const control = active_ != nullptr && CanGetFocusNow(*active_) ? active_ : NextInTabOrder(*this, -1, FocusDirection::Forward);
-    if (control != nullptr)
+    Control* const control = active_ && CanGetFocusNow(*active_) ? active_ : NextInTabOrder(*this, -1, FocusDirection::Forward);
+    if (control)
         control->SetFocus();
 }
 
 /// Another window of the program, or another program, keeps the focus; the form's next activation then gives it to this control.
 void Form::MoveFocusTo(Control* control)
 {
-    if (control != nullptr && GetActiveWindow() == hWnd())
+    if (control && GetActiveWindow() == hWnd())
         control->SetFocus();
     else
         Activate(control);
@@ -106,7 +106,7 @@ void Form::PassFocusOn(Control& from)
 {
     if (active_ != &from || !IsLoaded())
         return;
-    const Control* const first = passedOnFrom_ != nullptr ? passedOnFrom_ : &from;
+    const Control* const first = passedOnFrom_ ? passedOnFrom_ : &from;
     MoveFocusTo(NextInTabOrder(from, FocusDirection::Forward));
     passedOnFrom_ = first;
 }

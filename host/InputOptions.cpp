@@ -12,7 +12,7 @@ void InputOptions::Attach(HWND window)
 void InputOptions::Enabled(bool enabled)
 {
     enabled_ = enabled;
-    if (window_ != nullptr)
+    if (window_)
         EnableWindow(window_, enabled);
 }
 

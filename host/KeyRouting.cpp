@@ -14,7 +14,7 @@ constexpr std::int16_t shiftHeld = 1, ctrlHeld = 2, altHeld = 4;
 
 int TabIndexOf(const Control* control)
 {
-    return control != nullptr ? control->GetExtender().TabIndex() : -1;
+    return control ? control->GetExtender().TabIndex() : -1;
 }
 
 FocusDirection DirectionOf(std::int16_t shift)
@@ -24,8 +24,8 @@ FocusDirection DirectionOf(std::int16_t shift)
 
 bool AnswersTo(const Control& control, base::StringView key)
 {
-    return control.Enabled() && control.OwnHandle() != nullptr && IsWindowVisible(control.OwnHandle()) &&
-           IsWindowEnabled(control.OwnHandle()) && base::FindIgnoringCase(control.AccessKey(), key) != base::String::npos;
+    return control.Enabled() && control.OwnHandle() && IsWindowVisible(control.OwnHandle()) && IsWindowEnabled(control.OwnHandle()) &&
+           base::FindIgnoringCase(control.AccessKey(), key) != base::String::npos;
 }
 
 /// Of several controls with the same letter the next one after the active control, so that pressing it again goes round.
@@ -44,7 +44,7 @@ Control* ControlWithAccessKey(const Form& form, base::StringView key)
 bool PressAccessKey(Form& form, WCHAR key)
 {
     Control* const control = ControlWithAccessKey(form, {&key, 1});
-    if (control == nullptr)
+    if (!control)
         return false;
     if (control->CanGetFocus())
         control->SetFocus();
@@ -59,8 +59,7 @@ bool PressAccessKey(Form& form, WCHAR key)
 bool PressButton(const Form& form, bool (Extender::*isIt)() const, std::int16_t key)
 {
     for (Control* const control : form.Controls()) {
-        if ((control->GetExtender().*isIt)() && control->Enabled() && control->OwnHandle() != nullptr &&
-            IsWindowVisible(control->OwnHandle())) {
+        if ((control->GetExtender().*isIt)() && control->Enabled() && control->OwnHandle() && IsWindowVisible(control->OwnHandle())) {
             control->AccessKeyPress(key);
             return true;
         }
@@ -71,7 +70,7 @@ bool PressButton(const Form& form, bool (Extender::*isIt)() const, std::int16_t 
 bool Navigate(const Form& form, const Control* focused, std::int16_t key)
 {
     const std::int16_t shift = ShiftState();
-    if ((focused != nullptr && focused->WantsKey(key)) || (shift & (ctrlHeld | altHeld)) != 0)
+    if ((focused && focused->WantsKey(key)) || (shift & (ctrlHeld | altHeld)) != 0)
         return false;
     switch (key) {
         case VK_RETURN:
@@ -79,8 +78,7 @@ bool Navigate(const Form& form, const Control* focused, std::int16_t key)
         case VK_ESCAPE:
             return PressButton(form, &Extender::Cancel, key);
         case VK_TAB:
-            if (Control* const next =
-                    NextInTabOrder(form, TabIndexOf(focused != nullptr ? focused : form.ActiveControl()), DirectionOf(shift)))
+            if (Control* const next = NextInTabOrder(form, TabIndexOf(focused ? focused : form.ActiveControl()), DirectionOf(shift)))
                 next->SetFocus();
             return true;
         default:
@@ -99,14 +97,14 @@ bool RouteKey(Form& form, MSG& message)
 {
     const bool isForForm = message.hwnd == form.hWnd();
     const Control* const control = form.ControlOf(message.hwnd);
-    const bool isForHosted = control != nullptr && control->OwnHandle() != message.hwnd;
+    const bool isForHosted = control && control->OwnHandle() != message.hwnd;
     if (isForHosted)
         return message.message == WM_KEYDOWN && message.wParam == VK_F6 && GoToOtherContainer(*control);
-    if (!isForForm && control == nullptr)
+    if (!isForForm && !control)
         return false;
     if (!isForForm && form.KeyPreview() && (!form.HandleKey(*KeyEventOf(message.message), message.wParam) || !form.IsLoaded()))
         return true;
-    if (control != nullptr && message.message == WM_KEYDOWN && message.wParam == VK_F6)
+    if (control && message.message == WM_KEYDOWN && message.wParam == VK_F6)
         return GoToOtherContainer(*control);
     return message.message == WM_KEYDOWN && Navigate(form, control, static_cast<std::int16_t>(message.wParam));
 }
@@ -116,7 +114,7 @@ bool RouteKey(Form& form, MSG& message)
 void LeaveActiveControl(Form& form, HWND clicked)
 {
     const Control* const control = form.ControlOf(clicked);
-    if (control != nullptr && control != form.ActiveControl() && control->OwnHandle() != clicked && control->CanGetFocus())
+    if (control && control != form.ActiveControl() && control->OwnHandle() != clicked && control->CanGetFocus())
         form.Activate(nullptr);
 }
 
@@ -147,7 +145,7 @@ std::int16_t ShiftState()
 bool RouteMessage(MSG& message)
 {
     Form* const form = Form::Of(message.hwnd);
-    if (form == nullptr)
+    if (!form)
         return false;
     switch (message.message) {
         case WM_LBUTTONDOWN:

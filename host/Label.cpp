@@ -17,7 +17,7 @@ StockControl::SystemWindow Label::Describe() const
 void Label::Caption(base::StringView caption)
 {
     caption_ = caption;
-    if (hWnd() != nullptr)
+    if (hWnd())
         SetWindowTextW(hWnd(), caption_.c_str());
 }
 

@@ -18,12 +18,12 @@ void OleDrag::Attach(HWND window)
 {
     AcceptDrops(false);
     window_ = window;
-    link_->control = window != nullptr ? &control_ : nullptr;
+    link_->control = window ? &control_ : nullptr;
 }
 
 void OleDrag::AcceptDrops(bool accept)
 {
-    if (accept == accepts_ || window_ == nullptr)
+    if (accept == accepts_ || !window_)
         return;
     if (!accept) {
         accepts_ = false;
@@ -39,7 +39,7 @@ void OleDrag::Start()
 {
     // The control may die in a handler, and this object with it.
     const std::shared_ptr<OleDragLink> link = link_;
-    if (link->control == nullptr || std::exchange(link->dragging, true))
+    if (!link->control || std::exchange(link->dragging, true))
         return;
     const std::unique_ptr<bool, void (*)(bool*)> dragging(&link->dragging, [](bool* flag) { *flag = false; });
     const OleSession session;
@@ -49,11 +49,11 @@ void OleDrag::Start()
     std::int32_t allowed = 0;
     link->control->UserControl_OLEStartDrag(data->Data(), allowed);
     DWORD effect = DROPEFFECT_NONE;
-    if (link->control != nullptr && allowed != 0 &&
+    if (link->control && allowed != 0 &&
         DoDragDrop(data.Get(), MakeCom<OleDragSource>(link).Get(), static_cast<DWORD>(allowed), &effect) != DRAGDROP_S_DROP)
         effect = DROPEFFECT_NONE;
     auto done = static_cast<std::int32_t>(effect);
-    if (link->control != nullptr)
+    if (link->control)
         link->control->UserControl_OLECompleteDrag(done);
 }
 

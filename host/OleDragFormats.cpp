@@ -117,7 +117,7 @@ HGLOBAL CopyToGlobal(const Bytes& bytes)
 {
     base::GlobalMemory memory(GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, std::max<std::size_t>(bytes.size(), 1)));
     void* const start = memory ? GlobalLock(memory.Get()) : nullptr;
-    if (start == nullptr)
+    if (!start)
         return nullptr;
     if (!bytes.empty())
         std::memcpy(start, bytes.data(), bytes.size());
@@ -128,7 +128,7 @@ HGLOBAL CopyToGlobal(const Bytes& bytes)
 Bytes CopyFromGlobal(HGLOBAL memory)
 {
     const auto* const start = static_cast<const std::uint8_t*>(GlobalLock(memory));
-    if (start == nullptr)
+    if (!start)
         return {};
     const GlobalLocked locked(memory);
     return {start, start + GlobalSize(memory)};

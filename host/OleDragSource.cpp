@@ -9,7 +9,7 @@ namespace host {
 
 HRESULT OleDragSource::QueryContinueDrag(BOOL escapePressed, DWORD keys) noexcept
 {
-    if (escapePressed || link_->control == nullptr)
+    if (escapePressed || !link_->control)
         return DRAGDROP_S_CANCEL;
     return (keys & (MK_LBUTTON | MK_RBUTTON | MK_MBUTTON)) == 0 ? DRAGDROP_S_DROP : S_OK;
 }
@@ -17,7 +17,7 @@ HRESULT OleDragSource::QueryContinueDrag(BOOL escapePressed, DWORD keys) noexcep
 HRESULT OleDragSource::GiveFeedback(DWORD effect) noexcept
 {
     bool defaultCursors = true;
-    if (link_->control == nullptr)
+    if (!link_->control)
         return DRAGDROP_S_USEDEFAULTCURSORS;
     return BehindWall(
         [&] {
@@ -30,23 +30,23 @@ HRESULT OleDragSource::GiveFeedback(DWORD effect) noexcept
 
 HRESULT OleDragData::GetData(FORMATETC* format, STGMEDIUM* medium) noexcept
 {
-    if (medium == nullptr)
+    if (!medium)
         return E_POINTER;
     *medium = {};
     if (const HRESULT result = QueryGetData(format); result != S_OK)
         return result;
     return BehindWall(
         [&]() -> HRESULT {
-            if (const DataObject::Offer* const offer = data_.FindOffer(format->cfFormat); !offer->bytes && link_->control != nullptr) {
+            if (const DataObject::Offer* const offer = data_.FindOffer(format->cfFormat); !offer->bytes && link_->control) {
                 std::int16_t offeredAs = offer->offeredAs;
                 link_->control->UserControl_OLESetData(data_, offeredAs);
             }
             // The handler may have set it, or taken it back.
             const DataObject::Offer* const offer = data_.FindOffer(format->cfFormat);
-            if (offer == nullptr || !offer->bytes)
+            if (!offer || !offer->bytes)
                 return DV_E_FORMATETC;
             medium->hGlobal = CopyToGlobal(format->cfFormat == CF_TEXT ? EncodeNarrowText(DecodeText(*offer->bytes)) : *offer->bytes);
-            if (medium->hGlobal == nullptr)
+            if (!medium->hGlobal)
                 return E_OUTOFMEMORY;
             medium->tymed = TYMED_HGLOBAL;
             return S_OK;
@@ -56,16 +56,16 @@ HRESULT OleDragData::GetData(FORMATETC* format, STGMEDIUM* medium) noexcept
 
 HRESULT OleDragData::QueryGetData(FORMATETC* format) noexcept
 {
-    if (format == nullptr)
+    if (!format)
         return E_POINTER;
-    if (format->dwAspect != DVASPECT_CONTENT || data_.FindOffer(format->cfFormat) == nullptr)
+    if (format->dwAspect != DVASPECT_CONTENT || !data_.FindOffer(format->cfFormat))
         return DV_E_FORMATETC;
     return (format->tymed & TYMED_HGLOBAL) != 0 ? S_OK : DV_E_TYMED;
 }
 
 HRESULT OleDragData::GetCanonicalFormatEtc(FORMATETC* format, FORMATETC* canonical) noexcept
 {
-    if (format == nullptr || canonical == nullptr)
+    if (!format || !canonical)
         return E_POINTER;
     *canonical = *format;
     canonical->ptd = nullptr;
@@ -74,7 +74,7 @@ HRESULT OleDragData::GetCanonicalFormatEtc(FORMATETC* format, FORMATETC* canonic
 
 HRESULT OleDragData::EnumFormatEtc(DWORD direction, IEnumFORMATETC** enumerator) noexcept
 {
-    if (enumerator == nullptr)
+    if (!enumerator)
         return E_POINTER;
     *enumerator = nullptr;
     if (direction != DATADIR_GET)

@@ -26,7 +26,7 @@ DWORD OneEffect(std::int32_t chosen, DWORD allowed)
 template <class Handle>
 HRESULT Answer(DWORD* effect, Handle&& handle) noexcept
 {
-    if (effect == nullptr)
+    if (!effect)
         return E_POINTER;
     return BehindWall(handle, [effect] {
         *effect = DROPEFFECT_NONE;
@@ -52,7 +52,7 @@ HRESULT OleDragTarget::Over(DWORD keys, POINTL point, DWORD* effect, std::int16_
     *effect = DROPEFFECT_NONE;
     // A handler may keep messages going, and with them the drag may leave or the target be given back.
     const std::shared_ptr<DataObject> data = data_;
-    if (!data || link_->control == nullptr)
+    if (!data || !link_->control)
         return S_OK;
     last_ = WhereIs(keys, point);
     Where where = last_;
@@ -65,7 +65,7 @@ HRESULT OleDragTarget::Over(DWORD keys, POINTL point, DWORD* effect, std::int16_
 HRESULT OleDragTarget::DragEnter(IDataObject* data, DWORD keys, POINTL point, DWORD* effect) noexcept
 {
     return Answer(effect, [=, this]() -> HRESULT {
-        if (data == nullptr)
+        if (!data)
             return E_POINTER;
         data_ = std::make_shared<DataObject>(*data);
         return Over(keys, point, effect, entering);
@@ -82,7 +82,7 @@ HRESULT OleDragTarget::DragLeave() noexcept
     DWORD none = DROPEFFECT_NONE;
     return Answer(&none, [this] {
         const std::shared_ptr<DataObject> data = std::exchange(data_, nullptr);
-        if (data && link_->control != nullptr) {
+        if (data && link_->control) {
             Where where = last_;
             std::int32_t effect = 0;
             std::int16_t state = leaving;
@@ -98,9 +98,9 @@ HRESULT OleDragTarget::Drop(IDataObject* data, DWORD keys, POINTL point, DWORD* 
         const DWORD allowed = *effect;
         *effect = DROPEFFECT_NONE;
         data_.reset();
-        if (data == nullptr)
+        if (!data)
             return E_POINTER;
-        if (link_->control == nullptr)
+        if (!link_->control)
             return S_OK;
         Where where = WhereIs(keys, point);
         // The button that held the data is up by now.

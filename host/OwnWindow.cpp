@@ -22,7 +22,7 @@ bool OwnWindow::Make(const WindowShape& shape)
     const RECT& place = shape.place;
     const HWND window = CreateWindowExW(shape.extendedStyle, className, shape.text.c_str(), shape.style, place.left, place.top,
                                         place.right - place.left, place.bottom - place.top, shape.parent, nullptr, instance, this);
-    if (window == nullptr)
+    if (!window)
         handle_ = nullptr;
     window_.Reset(window);
     return window != nullptr;
@@ -50,7 +50,7 @@ LRESULT CALLBACK OwnWindow::Procedure(HWND window, UINT message, WPARAM wParam, 
         creator->handle_ = window;
     }
     auto* const self = reinterpret_cast<OwnWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (self == nullptr || self->handle_ != window)
+    if (!self || self->handle_ != window)
         return byDefault();
     if (message == WM_NCDESTROY) {
         // The window is gone for everybody, also when Windows destroyed it with its parent.

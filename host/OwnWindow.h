@@ -65,7 +65,7 @@ public:
     explicit WindowPaint(HWND window) : window_(window), dc_(BeginPaint(window, &paint_)) {}
     ~WindowPaint()
     {
-        if (dc_ != nullptr)
+        if (dc_)
             EndPaint(window_, &paint_);
     }
     WindowPaint(const WindowPaint&) = delete;

@@ -10,7 +10,7 @@ namespace {
 SIZE SizeOf(HBITMAP bitmap)
 {
     BITMAP header{};
-    if (bitmap == nullptr || GetObjectW(bitmap, sizeof header, &header) == 0)
+    if (!bitmap || GetObjectW(bitmap, sizeof header, &header) == 0)
         return {};
     return {header.bmWidth, header.bmHeight};
 }

@@ -72,7 +72,7 @@ template <BagValue T>
 T PropertyBag::Read(base::StringView key, std::type_identity_t<T> fallback, int occurrence) const
 {
     const PropertyValue* value = Find(key, occurrence);
-    return value == nullptr ? fallback : Typed<T>(*value).value_or(fallback);
+    return value ? Typed<T>(*value).value_or(fallback) : fallback;
 }
 
 template <BagValue T>

@@ -42,7 +42,7 @@ void StockControl::Store(PropertyBag& bag)
 
 void StockControl::MakeWindow()
 {
-    if (ContainerWindow() == nullptr)
+    if (!ContainerWindow())
         return;
     const SystemWindow window = Describe();
     const RECT place = WindowRect(GetExtender().PixelRect());
@@ -60,7 +60,7 @@ void StockControl::MakeWindow()
 void StockControl::Enabled(bool enabled)
 {
     enabled_ = enabled;
-    if (hWnd() != nullptr)
+    if (hWnd())
         EnableWindow(hWnd(), enabled);
 }
 
@@ -68,7 +68,7 @@ void StockControl::Font(std::shared_ptr<host::Font> font)
 {
     // The window keeps using the former font until it has the new one.
     const std::shared_ptr<host::Font> former = std::exchange(font_, font ? std::move(font) : Ambient().Font());
-    if (hWnd() != nullptr)
+    if (hWnd())
         SendMessageW(hWnd(), WM_SETFONT, reinterpret_cast<WPARAM>(font_->Handle()), TRUE);
 }
 
@@ -77,21 +77,21 @@ void StockControl::SetFocus()
     if (!CanGetFocusNow(*this))
         return;
     ParentForm().Activate(this);
-    if (ParentForm().ActiveControl() == this && hWnd() != nullptr)
+    if (ParentForm().ActiveControl() == this && hWnd())
         ::SetFocus(hWnd());
 }
 
 void StockControl::Placed()
 {
     const RECT place = WindowRect(GetExtender().PixelRect());
-    if (hWnd() != nullptr)
+    if (hWnd())
         SetWindowPos(hWnd(), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                      SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void StockControl::ContainerChanged()
 {
-    if (hWnd() != nullptr)
+    if (hWnd())
         SetParent(hWnd(), ContainerWindow());
     Placed();
 }

@@ -8,7 +8,7 @@ HDC Surface::Dc()
     if (!dc_)
         return nullptr;
     SelectFont();
-    if (window_ != nullptr)
+    if (window_)
         InvalidateRect(window_, nullptr, FALSE);
     return dc_.Get();
 }
@@ -20,7 +20,7 @@ void Surface::SelectFont()
     if (font == selectedFont_)
         return;
     const HGDIOBJ former = SelectObject(dc_.Get(), font ? static_cast<HGDIOBJ>(font->Get()) : formerFont_);
-    if (formerFont_ == nullptr)
+    if (!formerFont_)
         formerFont_ = former;
     selectedFont_ = font;
 }
@@ -29,7 +29,7 @@ void Surface::Clear()
 {
     const HDC dc = Dc();
     const base::BrushHandle brush(CreateSolidBrush(ToRgb(backColor_)));
-    if (dc == nullptr || !brush)
+    if (!dc || !brush)
         return;
     const RECT all{0, 0, size_.cx, size_.cy};
     FillRect(dc, &all, brush.Get());
@@ -54,7 +54,7 @@ void Surface::Resize(SIZE size)
     if (!dc || !picture)
         return;
     formerPicture_ = SelectObject(dc.Get(), picture.Get());
-    if (formerPicture_ == nullptr)
+    if (!formerPicture_)
         return;
     dc_ = std::move(dc);
     picture_ = std::move(picture);
@@ -71,7 +71,7 @@ void Surface::Release()
 {
     if (dc_) {
         SelectObject(dc_.Get(), formerPicture_);
-        if (formerFont_ != nullptr)
+        if (formerFont_)
             SelectObject(dc_.Get(), formerFont_);
     }
     dc_.Reset();

@@ -25,7 +25,7 @@ Control* Next(const Form& form, int tabIndex, FocusDirection direction, Counts c
         const Extender& extender = control->GetExtender();
         if (!extender.TabStop() || !CanGetFocusNow(*control) || !IsWindowVisible(control->hWnd()) || !counts(*control))
             continue;
-        if (best == nullptr || Beats(extender.TabIndex(), best->GetExtender().TabIndex(), tabIndex, direction))
+        if (!best || Beats(extender.TabIndex(), best->GetExtender().TabIndex(), tabIndex, direction))
             best = control;
     }
     return best;
@@ -36,10 +36,10 @@ Control* Next(const Form& form, int tabIndex, FocusDirection direction, Counts c
 bool CanGetFocusNow(const Control& control)
 {
     const HWND window = control.OwnHandle();
-    if (!control.CanGetFocus() || !control.Enabled() || window == nullptr || !IsWindowVisible(window))
+    if (!control.CanGetFocus() || !control.Enabled() || !window || !IsWindowVisible(window))
         return false;
     // Windows refuses the focus also to a window that stands on a disabled one.
-    for (HWND place = window; place != nullptr; place = GetParent(place))
+    for (HWND place = window; place; place = GetParent(place))
         if (!IsWindowEnabled(place))
             return false;
     return true;
@@ -62,7 +62,7 @@ Control* NextInTabOrder(const Control& from, FocusDirection direction, FocusScop
 bool MoveFocus(const Control& from, FocusDirection direction, FocusScope scope)
 {
     Control* const next = NextInTabOrder(from, direction, scope);
-    if (next != nullptr)
+    if (next)
         next->SetFocus();
     return next != nullptr;
 }

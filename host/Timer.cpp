@@ -52,7 +52,7 @@ void Timer::Restart()
 {
     Unload();
     const HWND window = ParentForm().hWnd();
-    if (!enabled_ || interval_ <= 0 || window == nullptr || !Ambient().UserMode())
+    if (!enabled_ || interval_ <= 0 || !window || !Ambient().UserMode())
         return;
     const UINT_PTR timer = ParentForm().AddTimer([this] { Tick.Raise(); });
     if (SetTimer(window, timer, static_cast<UINT>(interval_), nullptr) != 0)

@@ -56,12 +56,12 @@ float PixelsToTwipsY(int pixels)
 
 int ToPixelsX(float value, ScaleMode mode)
 {
-    return mode == ScaleMode::pixels ? static_cast<int>(std::lround(value)) : TwipsToPixelsX(value);
+    return mode == ScaleMode::Pixels ? static_cast<int>(std::lround(value)) : TwipsToPixelsX(value);
 }
 
 int ToPixelsY(float value, ScaleMode mode)
 {
-    return mode == ScaleMode::pixels ? static_cast<int>(std::lround(value)) : TwipsToPixelsY(value);
+    return mode == ScaleMode::Pixels ? static_cast<int>(std::lround(value)) : TwipsToPixelsY(value);
 }
 
 }  // namespace host

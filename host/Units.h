@@ -6,7 +6,7 @@
 namespace host {
 
 /// How a container counts positions and sizes.
-enum class ScaleMode : int { twips = 1, pixels = 3 };
+enum class ScaleMode : int { Twips = 1, Pixels = 3 };
 
 /// The screen's resolution in pixels per inch; 96 when no screen DC can be had.
 struct ScreenResolution {

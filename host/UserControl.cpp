@@ -9,7 +9,7 @@ namespace host {
 void UserControl::MakeWindow()
 {
     surface_.Font(Ambient().Font());
-    if (ContainerWindow() == nullptr)
+    if (!ContainerWindow())
         return;
     WindowShape shape;
     shape.style = WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN;
@@ -75,14 +75,14 @@ void UserControl::Hidden()
 void UserControl::Placed()
 {
     const RECT place = GetExtender().PixelRect();
-    if (OwnHandle() != nullptr)
+    if (OwnHandle())
         SetWindowPos(OwnHandle(), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                      SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void UserControl::ContainerChanged()
 {
-    if (OwnHandle() == nullptr)
+    if (!OwnHandle())
         return;
     SetParent(OwnHandle(), ContainerWindow());
     Placed();
@@ -103,7 +103,7 @@ void UserControl::Sized()
 
 void UserControl::Refresh()
 {
-    if (OwnHandle() != nullptr)
+    if (OwnHandle())
         InvalidateRect(OwnHandle(), nullptr, FALSE);
 }
 
@@ -118,11 +118,11 @@ void UserControl::SetFocus()
         return;
     Form& form = ParentForm();
     const HWND focus = GetFocus();
-    if (form.ActiveControl() == this && focus != nullptr && (focus == OwnHandle() || focus == hWnd()))
+    if (form.ActiveControl() == this && focus && (focus == OwnHandle() || focus == hWnd()))
         return;
     // The control that is left must know so before its windows lose the keyboard focus.
     form.Activate(this);
-    if (form.ActiveControl() == this && OwnHandle() != nullptr)
+    if (form.ActiveControl() == this && OwnHandle())
         ::SetFocus(OwnHandle());
 }
 
@@ -130,10 +130,10 @@ void UserControl::SetFocus()
 void UserControl::Paint()
 {
     UserControl_Paint();
-    if (OwnHandle() == nullptr)
+    if (!OwnHandle())
         return;
     const WindowPaint paint(OwnHandle());
-    if (paint.Dc() != nullptr)
+    if (paint.Dc())
         surface_.CopyTo(paint.Dc());
 }
 

@@ -43,7 +43,7 @@ LRESULT UserControl::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
             Sized();
             return 0;
         case WM_SETCURSOR:
-            if (input_.CursorName() != nullptr && LOWORD(lParam) == HTCLIENT && reinterpret_cast<HWND>(wParam) == OwnHandle()) {
+            if (input_.CursorName() && LOWORD(lParam) == HTCLIENT && reinterpret_cast<HWND>(wParam) == OwnHandle()) {
                 SetCursor(LoadCursorW(nullptr, input_.CursorName()));
                 return TRUE;
             }
@@ -63,7 +63,7 @@ LRESULT UserControl::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
                 ParentForm().GiveFocusBack(*this);
             break;
         case WM_COMMAND:
-            if (Control* const control = ParentForm().ControlOf(reinterpret_cast<HWND>(lParam)); control != nullptr && control != this)
+            if (Control* const control = ParentForm().ControlOf(reinterpret_cast<HWND>(lParam)); control && control != this)
                 control->Command(HIWORD(wParam));
             break;
         case WM_CAPTURECHANGED:

@@ -202,7 +202,7 @@ void CheckBox::ResizeToCaption()
     SIZE text{};
     GetTextExtentPoint32W(GetSurface().Dc(), caption_.c_str(), static_cast<int>(caption_.size()), &text);
     const int pixels = AutoSizeWidth(text.cx);
-    GetExtender().Width(ContainerScale() == host::ScaleMode::pixels ? static_cast<float>(pixels) : host::PixelsToTwipsX(pixels));
+    GetExtender().Width(ContainerScale() == host::ScaleMode::Pixels ? static_cast<float>(pixels) : host::PixelsToTwipsX(pixels));
     hosted_.Cover();
 }
 

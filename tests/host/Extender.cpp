@@ -47,7 +47,7 @@ TEST_F(Extender, FormInPixels_PlacesItsOwnControlsInPixelsAndInnerOnesInTwips)
     EXPECT_EQ(outer.left, 7);
     EXPECT_EQ(outer.bottom, 59);
     EXPECT_EQ(inner.left, 20);
-    EXPECT_EQ(ProbeNamed(TEXT("Q")).ContainerScale(), host::ScaleMode::twips);
+    EXPECT_EQ(ProbeNamed(TEXT("Q")).ContainerScale(), host::ScaleMode::Twips);
     EXPECT_NE(form->Write().find("ScaleMode = 3\n"), std::string::npos);
 }
 

@@ -4,6 +4,23 @@
 
 namespace controls {
 
+namespace {
+
+COLORREF InsetColor(const ButtonLook& look)
+{
+    const COLORREF shadow = GetSysColor(COLOR_BTNSHADOW);
+    switch (look.state) {
+        case StateHot:
+            return look.useCustomColors ? Mix(look.highlight, look.back) : Mix(shadow, GetSysColor(COLOR_BTNFACE));
+        case StatePressed:
+            return look.HighlightOr(shadow);
+        default:
+            return look.customBack;
+    }
+}
+
+}  // namespace
+
 void PaintRaised3DStyle(Canvas& canvas, const ButtonLook& look)
 {
     if (!look.IsDisabled())
@@ -44,23 +61,6 @@ void PaintFlatHotStyle(Canvas& canvas, const ButtonLook& look)
     if (!look.IsDisabled() && look.contourStyle != ContourNone)
         canvas.Outline(canvas.Client(), look.useCustomColors ? look.contour : GetSysColor(COLOR_BTNSHADOW));
 }
-
-namespace {
-
-COLORREF InsetColor(const ButtonLook& look)
-{
-    const COLORREF shadow = GetSysColor(COLOR_BTNSHADOW);
-    switch (look.state) {
-        case StateHot:
-            return look.useCustomColors ? Mix(look.highlight, look.back) : Mix(shadow, GetSysColor(COLOR_BTNFACE));
-        case StatePressed:
-            return look.HighlightOr(shadow);
-        default:
-            return look.customBack;
-    }
-}
-
-}  // namespace
 
 void PaintInsetStyle(Canvas& canvas, const ButtonLook& look)
 {
