@@ -1,11 +1,14 @@
-// Every stored property of every control: its key, type and default, what is stored with it, what setting it tells the container.
+// Every stored property of every control, in the order of writing: its key, type and default, what is stored with it, what setting it
+// tells the container.
 #include "controls/CheckBox/CheckBox.h"
 #include "controls/CommandButton/CommandButton.h"
 #include "controls/Frame/Frame.h"
 #include "controls/TextBox/TextBox.h"
 #include "tests/controls/FormFixture.h"
+#include "tests/support/ControlContract.h"
 
 #include <map>
+#include <set>
 #include <sstream>
 
 namespace tests {
@@ -77,10 +80,10 @@ const std::vector<Key> button = {
     {"PictureDisabled", 'P', "None", bitmap, nullptr, "", "", true},
     {"PictureDisabledStyle", 'I', "0", "70000", SET(CommandButton, PictureDisabledStyle(70000))},
     {"Style", 'I', "7", "10", SET(CommandButton, Style(10)), "UseClassicTheme Style "},
-    {"UseClassicTheme", 'B', "0", "1", SET(CommandButton, UseClassicTheme(true)), "Style UseClassicTheme ", "Style "},
-    {"CaptionAlign", 'I', "0", "4", SET(CommandButton, CaptionAlign(4))},
-    {"PictureAlign", 'I', "1", "0", SET(CommandButton, PictureAlign(0))},
     {"NonThemeStyle", 'I', "0", "70000", SET(CommandButton, NonThemeStyle(70000))},
+    {"UseClassicTheme", 'B', "0", "1", SET(CommandButton, UseClassicTheme(true)), "Style UseClassicTheme ", "Style "},
+    {"PictureAlign", 'I', "1", "0", SET(CommandButton, PictureAlign(0))},
+    {"CaptionAlign", 'I', "0", "4", SET(CommandButton, CaptionAlign(4))},
     {"Enabled", 'L', "True", "False", SET(CommandButton, Enabled(false))},
     {"ShowFocus", 'B', "0", "1", SET(CommandButton, ShowFocus(true))},
     {"USeCustomColors", 'B', "0", "1", SET(CommandButton, UseCustomColors(true)), "UseCustomColors "},
@@ -96,14 +99,14 @@ const std::vector<Key> button = {
     {"ToolTipWidth", 'I', "0", "70000", SET(CommandButton, ToolTipWidth(70000))},
     {"ToolTipBackColor", 'C', "0x80000018", "0x00000001", SET(CommandButton, TooltipBackColor(1))},
     {"ToolTipForeColor", 'C', "0x80000017", "0x00000001", SET(CommandButton, ToolTipForeColor(1))},
+    {"Font", 'F', "own font", "Font(\"Tahoma\", 10)", nullptr, "", "", true},
     {"ButtonType", 'I', "0", "1", SET(CommandButton, ButtonType(1))},
     {"Value", 'I', "0", "1", SET(CommandButton, Value(1))},
-    {"MaskColorEnabled", 'B', "0", "1", SET(CommandButton, MaskColorEnabled(true))},
     {"MaskColor", 'C', "0x00C0C0C0", "0x00000001", SET(CommandButton, MaskColor(1))},
+    {"MaskColorEnabled", 'B', "0", "1", SET(CommandButton, MaskColorEnabled(true))},
     {"MousePointer", 'S', "0", "11", SET(CommandButton, MousePointer(11))},
     {"RoundedBordersByTheme", 'B', "1", "0", SET(CommandButton, RoundedBordersByTheme(false))},
     {"RightToLeft", 'L', "False", "True", SET(CommandButton, RightToLeft(true))},
-    {"Font", 'F', "own font", "Font(\"Tahoma\", 10)", nullptr, "", "", true},
 };
 
 const std::vector<Key> checkBox = {
@@ -173,6 +176,16 @@ const std::vector<Key> textBox = {
 
 #undef SET
 
+const struct {
+    const char* kind;
+    const std::vector<Key>& keys;
+    /// What the container stores, or one of the others excludes.
+    std::set<std::string> leftOut;
+} kinds[] = {{"Frame", frame, {}},
+             {"CommandButton", button, {}},
+             {"CheckBox", checkBox, {"Visible"}},
+             {"TextBox", textBox, {"Visible", "AllowOnlyNumbers"}}};
+
 std::string Standard(const Key& key)
 {
     if (key.standard == "own font")
@@ -225,6 +238,16 @@ protected:
             stored.erase(place);
         return stored;
     }
+    /// The keys of a control that was read with this in its file, each with a blank behind it.
+    std::string KeysWritten(const std::string& kind, const std::string& properties)
+    {
+        (void)Stored(kind, properties);
+        const auto written = host::ParseForm(form->Write());
+        std::string keys;
+        for (const host::Property& property : written.root.children.at(0).properties)
+            keys += Narrow(property.key) + " ";
+        return keys.substr(keys.find("TabIndex ") + 9);
+    }
     void HoldSetter(const std::string& kind, const Key& key)
     {
         (void)Stored(kind, "");
@@ -265,24 +288,43 @@ protected:
     }
 };
 
-TEST_F(StoredProperties, OfAFrame)
+TEST_F(StoredProperties, HaveTheirKeysTypesAndDefaults)
 {
-    Hold("Frame", frame);
+    for (const auto& [kind, keys, leftOut] : kinds)
+        Hold(kind, keys);
 }
 
-TEST_F(StoredProperties, OfACommandButton)
+TEST_F(StoredProperties, AreWrittenInTheirOrderAndKeepTheContract)
 {
-    Hold("CommandButton", button);
+    for (const auto& [kind, keys, leftOut] : kinds) {
+        SCOPED_TRACE(kind);
+        std::string stored, written;
+        for (const Key& key : keys)
+            if (!leftOut.contains(key.name)) {
+                stored += key.name + (" = " + key.other) + " ";
+                written += key.name + std::string(" ");
+            }
+        EXPECT_EQ(KeysWritten(kind, stored), written);
+        KeepsControlContract(factory, kind, stored);
+        KeepsControlContract(factory, kind, "");
+    }
 }
 
-TEST_F(StoredProperties, OfACheckBox)
+TEST_F(StoredProperties, FrameAndItsSurface_ShareAKey)
 {
-    Hold("CheckBox", checkBox);
-}
-
-TEST_F(StoredProperties, OfATextBox)
-{
-    Hold("TextBox", textBox);
+    const struct {
+        const char* stored;
+        int frame;
+        const char* keys;
+    } files[] = {{"", 0, "Tooltiptitle ToolTipIcon TooltipBalloon "},
+                 {"BackStyle = 1", 1, "BackStyle Tooltiptitle ToolTipIcon TooltipBalloon "},
+                 {"BackStyle = 0", 0, "Tooltiptitle ToolTipIcon TooltipBalloon BackStyle "},
+                 {"BackStyle = 1 BackStyle = 0 OLEDropMode = 1 Caption = \"c\"", 1,
+                  "BackStyle Tooltiptitle ToolTipIcon TooltipBalloon OLEDropMode BackStyle Caption "}};
+    for (const auto& [stored, frame, keys] : files) {
+        EXPECT_EQ(KeysWritten("Frame", stored), keys);
+        EXPECT_EQ(Get<controls::Frame>("C").BackStyle(), frame) << stored;
+    }
 }
 
 TEST_F(StoredProperties, WhatIsNoChangeOrNotAllowed_IsNotTold)

@@ -73,27 +73,6 @@ TEST_F(CheckBox, Properties_BecomeWindowStyles)
     }
 }
 
-TEST_F(CheckBox, Window_CoversTheControl)
-{
-    const auto check = [&] {
-        RECT own{}, hosted{};
-        GetWindowRect(Box().OwnHandle(), &own);
-        GetWindowRect(Box().hWnd(), &hosted);
-        EXPECT_TRUE(EqualRect(&own, &hosted));
-        EXPECT_EQ(WindowFromPoint({(own.left + own.right) / 2, (own.top + own.bottom) / 2}), Box().hWnd());
-    };
-    check();
-    Box().GetExtender().Move(300, 600, 2100, 450);
-    Box().Refresh();
-    check();
-    Box().BorderStyle(controls::BorderSingle);
-    check();
-    Box().GetExtender().Visible(false);
-    EXPECT_FALSE(IsWindowVisible(Box().hWnd()));
-    Box().GetExtender().Visible(true);
-    EXPECT_TRUE(IsWindowVisible(Box().hWnd()));
-}
-
 TEST_F(CheckBox, AutoSize_FollowsTheCaptionAndExcludesFontAutoSize)
 {
     SIZE text{};
@@ -194,6 +173,17 @@ TEST_F(CheckBox, KeysAndContextMenu_RaiseEvents)
     EXPECT_EQ(Take(), (Lines{"down 65 0", "press 97", "up 65"}));
     SendMessageW(Box().hWnd(), WM_CONTEXTMENU, 0, 0);
     EXPECT_EQ(Take(), Lines{"menu"});
+}
+
+TEST_F(CheckBox, InADesigner_HasAWindowThatIsNotWatched)
+{
+    for (const bool userMode : {true, false}) {
+        form = std::make_unique<KeyForm>();
+        Open("CheckBox Box { Width = 1500 Height = 300 }", userMode);
+        Click(Box().hWnd());
+        EXPECT_EQ(GetFocus(), Box().hWnd()) << "the button itself has heard of it";
+        EXPECT_EQ(Box().Value(), userMode);
+    }
 }
 
 }  // namespace tests
