@@ -40,31 +40,17 @@ protected:
         ReleaseDC(control.hWnd(), dc);
         return description.lbColor;
     }
+    /// The window that is seen lies over the one behind it.
+    static bool Covers(host::Control& control)
+    {
+        RECT own{}, shown{};
+        GetWindowRect(control.OwnHandle(), &own);
+        GetWindowRect(control.hWnd(), &shown);
+        return EqualRect(&own, &shown) != FALSE;
+    }
     /// The keyboard focus is on the window that is seen, not on the one behind it.
     bool HasKeys(std::string_view name) { return GetFocus() == Any(name).hWnd(); }
 };
-
-TEST_F(HostedControl, ClickOnADisabledOne_ChangesNothing)
-{
-    for (const char* const name : {"Tick", "Second"}) {
-        Any("First").SetFocus();
-        Any(name).Enabled(false);
-        Point(name);
-        ClickMouse();
-        EXPECT_TRUE(HasKeys("First")) << name;
-        PressKey('X');
-        PressKey(VK_SPACE);
-        PressKey(VK_TAB);
-        EXPECT_EQ(Focused(), name[0] == 'T' ? "Second" : "Outside") << name;
-    }
-    EXPECT_EQ(Get<controls::TextBox>("Second").Text(), TEXT("two"));
-    EXPECT_EQ(Get<controls::CheckBox>("Tick").Value(), 0);
-    EXPECT_EQ(Take(), Lines{});
-    Any("Tick").Enabled(true);
-    Point("Tick");
-    ClickMouse();
-    EXPECT_EQ(Take(), Lines{"Tick"}) << "on again";
-}
 
 TEST_F(HostedControl, FocusOnTheWindowBehindADisabledOne_GoesOnWithTab)
 {
@@ -203,6 +189,21 @@ TEST_F(HostedControl, RightClick_GivesTheEditTheFocusAndAsksForAMenu)
     EXPECT_NE(Get<controls::TextBox>("First").Text().find(TEXT("zz")), base::String::npos);
 }
 
+TEST_F(HostedControl, BackgroundOfATextBox_DependsOnFocusAndEnabled)
+{
+    auto& box = Get<controls::TextBox>("Second");
+    box.BackColor(1);
+    box.BackColorSelected(2);
+    box.BackColorDisabled(3);
+    EXPECT_EQ(Background(box), 1U);
+    box.SetFocus();
+    EXPECT_EQ(Background(box), 2U);
+    Any("First").SetFocus();
+    EXPECT_EQ(Background(box), 1U);
+    box.Enabled(false);
+    EXPECT_EQ(Background(box), 3U);
+}
+
 TEST_F(HostedControl, NewWindow_KeepsAllButItself)
 {
     auto& text = Get<controls::TextBox>("Second");
@@ -227,6 +228,7 @@ TEST_F(HostedControl, NewWindow_KeepsAllButItself)
         renew();
         SCOPED_TRACE(&renew - ofText);
         EXPECT_FALSE(IsWindow(before));
+        EXPECT_TRUE(Covers(text));
         EXPECT_EQ(text.Text(), TEXT("typed"));
         EXPECT_EQ(text.SelText(), TEXT("ype"));
         EXPECT_TRUE(HasKeys("Second"));
@@ -244,6 +246,7 @@ TEST_F(HostedControl, NewWindow_KeepsAllButItself)
         renew();
         SCOPED_TRACE(&renew - ofTick);
         EXPECT_FALSE(IsWindow(before) || IsWindow(tip));
+        EXPECT_TRUE(Covers(tick));
         EXPECT_EQ(tick.Value(), 2);
         EXPECT_EQ(tick.Caption(), TEXT("t"));
         EXPECT_TRUE(HasKeys("Tick"));

@@ -64,6 +64,8 @@ TEST_F(TextBoxText, Lines_AreThoseBetweenTheBreaksUnlessTheyAreWrapped)
             const auto lines = LinesOf(text);
             ASSERT_EQ(Box().LineCount(), static_cast<int>(lines.size()));
             EXPECT_FALSE(Box().ExistsLine(static_cast<int>(lines.size())));
+            EXPECT_EQ(Box().GetLine(static_cast<int>(lines.size())), TEXT(""));
+            EXPECT_EQ(Box().GetLineLength(static_cast<int>(lines.size())), -1);
             int index = 0;
             for (const auto& [start, length] : lines) {
                 EXPECT_TRUE(Box().ExistsLine(index) && Box().GetPosStartFromLineIndex(index) == start) << index;
