@@ -23,39 +23,15 @@ protected:
 
 TEST_F(Rendering, RoundCorners_AreCutFromTheWindow)
 {
-    const auto isInside = [&](int x, int y) {
-        const HRGN region = CreateRectRgn(0, 0, 0, 0);
-        GetWindowRgn(Button().hWnd(), region);
-        const bool inside = PtInRegion(region, x, y) != FALSE;
-        DeleteObject(region);
-        return inside;
-    };
-    Button().Style(controls::SoftRoundStyle);
-    EXPECT_FALSE(isInside(0, 0));
-    EXPECT_FALSE(isInside(width - 1, height - 1));
-    EXPECT_TRUE(isInside(width / 2, 0));
-    EXPECT_TRUE(isInside(width / 2, height - 1));
-    Button().Style(controls::ClassicStyle);
-    EXPECT_TRUE(isInside(0, 0));
-    EXPECT_TRUE(isInside(width - 1, height - 1));
-}
-
-TEST_F(Rendering, ClassicStyle_FillsAndBorders)
-{
-    Button().Style(controls::ClassicStyle);
-    EXPECT_EQ(Pixel(0, 0), GetSysColor(COLOR_3DLIGHT));
-    Button().ContourStyle(controls::ContourNone);
-    EXPECT_EQ(Pixel(0, 0), color);
-    Button().GetExtender().Default(true);
-    Button().DrawControl();
-    EXPECT_EQ(Pixel(0, 0), 0U) << "a default button has a black outline";
-
-    Button().ButtonType(controls::ToggleButton);
-    Button().Value(1);
-    EXPECT_EQ(Pixel(50, 14), GetSysColor(COLOR_BTNFACE));
-    EXPECT_EQ(Pixel(51, 14), color);
-    EXPECT_EQ(Pixel(50, 15), color);
-    EXPECT_EQ(Pixel(51, 15), GetSysColor(COLOR_BTNFACE));
+    for (const auto& [style, corner] : {std::pair{controls::SoftRoundStyle, FALSE}, {controls::ClassicStyle, TRUE}}) {
+        Button().Style(style);
+        const base::RegionHandle region(CreateRectRgn(0, 0, 0, 0));
+        GetWindowRgn(Button().hWnd(), region.Get());
+        for (const int y : {0, height - 1}) {
+            EXPECT_EQ(PtInRegion(region.Get(), y == 0 ? 0 : width - 1, y), corner) << style;
+            EXPECT_EQ(PtInRegion(region.Get(), width / 2, y), TRUE) << style;
+        }
+    }
 }
 
 TEST_F(Rendering, ThemeStyle_FallsBackWithoutThemes)
