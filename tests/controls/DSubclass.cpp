@@ -1,7 +1,6 @@
 #include "controls/DSubclass.h"
 
-#include "controls/OutOfMemory.h"
-#include "controls/SubclassHeap.h"
+#include "tests/controls/PlainWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -16,40 +15,6 @@ namespace tests {
 using controls::DSubclass;
 
 namespace {
-
-constexpr UINT probe = WM_APP + 7;
-
-/// A plain window; it answers `probe` with wParam + 1.
-class PlainWindow {
-public:
-    PlainWindow() : window_(CreateWindowExW(0, TEXT("Static"), TEXT(""), WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr))
-    {
-        original_ = reinterpret_cast<WNDPROC>(SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure)));
-    }
-    ~PlainWindow() { Destroy(); }
-    void Destroy()
-    {
-        if (IsWindow(window_))
-            DestroyWindow(window_);
-    }
-    [[nodiscard]] HWND Get() const { return window_; }
-    LRESULT Ask(WPARAM wParam = 10) const { return SendMessageW(window_, probe, wParam, 0); }
-
-private:
-    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-    {
-        return message == probe ? static_cast<LRESULT>(wParam + 1) : CallWindowProcW(original_, window, message, wParam, lParam);
-    }
-    static inline WNDPROC original_ = nullptr;
-    HWND window_;
-};
-
-base::String Published(HWND window)
-{
-    WCHAR text[20]{};
-    GetEnvironmentVariableW(controls::HeapName(window).c_str(), text, 20);
-    return text;
-}
 
 /// Notes `name` for each probe message.
 std::unique_ptr<DSubclass> Listener(HWND window, std::string& order, char name, bool handles = false)
@@ -168,23 +133,6 @@ TEST(DSubclass, WhatItsHandlerDoes_DecidesOnTheMessage)
         EXPECT_EQ(window.Ask(), row.answer);
         EXPECT_EQ(order, row.heardBehind ? "a" : "");
     }
-}
-
-TEST(DSubclass, HandlerThatSendsToItsWindow_Nests)
-{
-    const PlainWindow window;
-    std::vector<WPARAM> seen;
-    DSubclass subclass;
-    subclass.WndProc.Connect([&](HWND target, UINT message, WPARAM wParam, LPARAM, LRESULT&, bool&) {
-        if (message != probe)
-            return;
-        seen.push_back(wParam);
-        if (wParam > 0)
-            SendMessageW(target, probe, wParam - 1, 0);
-    });
-    subclass.Enable(window.Get());
-    EXPECT_EQ(window.Ask(2), 3);
-    EXPECT_EQ(seen, (std::vector<WPARAM>{2, 1, 0}));
 }
 
 TEST(DSubclass, EnableElsewhere_LeavesTheWindowBefore)
