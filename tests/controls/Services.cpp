@@ -6,7 +6,6 @@
 #include "controls/Gradient.h"
 #include "controls/PropertyTable.h"
 #include "controls/ThemeState.h"
-#include "controls/TranslateOleColor.h"
 
 #include "tests/controls/CommandButton/ButtonPaper.h"
 
@@ -79,13 +78,6 @@ TEST(Gradient, Directions_LayTheRampOut)
     }
 }
 
-TEST(TranslateOleColor, SystemColors_AreResolved)
-{
-    EXPECT_EQ(controls::TranslateOleColor(0x8000000F), GetSysColor(15));
-    EXPECT_EQ(controls::TranslateOleColor(0x00123456), 0x123456U);
-    EXPECT_EQ(controls::TranslateOleColor(0x7F000000), CLR_INVALID);
-}
-
 TEST(ThemeState, Version_IsAskedOnceAndKept)
 {
     controls::ThemeState state;
@@ -115,54 +107,9 @@ TEST(FontRule, Fonts_AreDescribed)
     EXPECT_FALSE(controls::GetMessageFontName().empty());
 }
 
-namespace {
-
-struct Settings {
-    std::int32_t number = 1;
-    bool flag = true;
-    std::uint32_t color = 0xFF;
-    bool last = false;
-};
-
-std::string Keys(const host::PropertyBag& bag)
+TEST(PropertyTable, RowBeforeAnUnknownKey_IsRefused)
 {
-    std::string keys;
-    for (const host::Property& property : bag.Properties())
-        keys += std::string(property.key.begin(), property.key.end()) + " ";
-    return keys;
-}
-
-}  // namespace
-
-TEST(PropertyTable, Rows_AreWrittenInTheirOwnOrderAndReadWithDefaults)
-{
-    using controls::StoredAs;
-    const controls::PropertyTable<Settings> table{
-        StoredAs<Settings, std::int32_t>(TEXT("Number"), &Settings::number, 1).WrittenBefore(TEXT("Last")),
-        StoredAs<Settings, std::uint8_t>(TEXT("Flag"), &Settings::flag, 1, controls::WhenDefault::Stored),
-        StoredAs<Settings, std::uint32_t>(TEXT("Color"), &Settings::color, [](Settings&) { return 0xFFU; }).WrittenBefore(TEXT("Flag")),
-        StoredAs<Settings, std::uint8_t>(TEXT("Last"), &Settings::last, 0, controls::WhenDefault::Stored),
-    };
-    Settings settings;
-    host::PropertyBag defaults;
-    table.Write(settings, defaults);
-    EXPECT_EQ(Keys(defaults), "Flag Last ");
-
-    settings = {7, false, 3};
-    host::PropertyBag bag;
-    table.Write(settings, bag);
-    EXPECT_EQ(Keys(bag), "Color Flag Number Last ");
-    Settings read;
-    table.Read(read, bag);
-    EXPECT_EQ(read.number, 7);
-    EXPECT_FALSE(read.flag);
-    EXPECT_EQ(read.color, 3U);
-    table.Read(read, host::PropertyBag());
-    EXPECT_TRUE(read.flag);
-    EXPECT_EQ(read.color, 0xFFU);
-    EXPECT_THROW((controls::PropertyTable<Settings>{
-                     StoredAs<Settings, std::uint8_t>(TEXT("Flag"), &Settings::flag, 1).WrittenBefore(TEXT("Flagg"))}),
-                 std::invalid_argument);
+    EXPECT_THROW((void)controls::WriteOrder({{TEXT("Flag"), TEXT("Flagg")}}), std::invalid_argument);
 }
 
 }  // namespace tests
