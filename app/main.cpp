@@ -1,15 +1,10 @@
 // The utility: one window and the message loop.
-#include "app/Form1.h"
-#include "controls/RegisterControls.h"
-#include "host/MessageLoop.h"
+#include "app/Utility.h"
+#include "base/SystemLibrary.h"
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int)
 {
-    host::ControlFactory factory;
-    controls::RegisterControls(factory);
-    app::Form1 form;
-    if (!form.Load(app::Form1Text(), factory))
-        return 1;
-    form.Show();
-    return host::MessageLoop::Run();
+    // First of all, before anything can load a library.
+    base::SearchSystemFolderOnly();
+    return app::RunUtility();
 }

@@ -1,12 +1,12 @@
 // SystemExport: a function that a system library exports, looked up at run time because old systems or import libraries lack it.
 #pragma once
 
-#include "base/Handles.h"
+#include "base/SystemLibrary.h"
 
 namespace base {
 
-/// `SystemExport<BOOL WINAPI(DWORD)> f(TEXT("kernel32"), "Name"); if (f) f(0);`
-/// A module that is not yet in the process stays loaded as long as this object lives.
+/// `SystemExport<BOOL WINAPI(DWORD)> f(TEXT("kernel32.dll"), "Name"); if (f) f(0);`
+/// A module that is not yet in the process is loaded from the system folder and stays as long as this object lives.
 /// https://learn.microsoft.com/windows/win32/api/libloaderapi/nf-libloaderapi-getprocaddress
 template <class Function>
 class SystemExport {
@@ -15,7 +15,7 @@ public:
     {
         HMODULE handle = GetModuleHandleW(module);
         if (!handle) {
-            loaded_.Reset(LoadLibraryW(module));
+            loaded_ = LoadSystemLibrary(module);
             handle = loaded_.Get();
         }
         if (handle)

@@ -12,7 +12,7 @@ std::optional<bool> answer;
 
 bool Ask()
 {
-    const SystemExport<BOOL WINAPI(HANDLE, PBOOL)> isWow64(TEXT("kernel32"), "IsWow64Process");
+    const SystemExport<BOOL WINAPI(HANDLE, PBOOL)> isWow64(TEXT("kernel32.dll"), "IsWow64Process");
     BOOL wow64 = FALSE;
     return isWow64 && isWow64(GetCurrentProcess(), &wow64) && wow64;
 }

@@ -51,7 +51,7 @@ std::int32_t Adjust(HANDLE token, const LUID& privilege, DWORD attributes)
 
 std::int32_t SystemSecurity::SetPrivilegeEx(std::int32_t In_PrivilegeNumber, bool In_Enabled)
 {
-    const base::SystemExport<LONG WINAPI(ULONG, BOOLEAN, BOOLEAN, BOOLEAN*)> adjust(TEXT("ntdll"), "RtlAdjustPrivilege");
+    const base::SystemExport<LONG WINAPI(ULONG, BOOLEAN, BOOLEAN, BOOLEAN*)> adjust(TEXT("ntdll.dll"), "RtlAdjustPrivilege");
     BOOLEAN previous = FALSE;
     if (!adjust ||
         adjust(static_cast<ULONG>(In_PrivilegeNumber), static_cast<BOOLEAN>(In_Enabled), static_cast<BOOLEAN>(FALSE), &previous) != 0)

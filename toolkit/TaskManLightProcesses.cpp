@@ -25,7 +25,7 @@ DWORD TaskManLight::GetPIDFromhWnd(HWND In_hWnd) const
 
 HANDLE TaskManLight::OpenHndProcessByHWnd(HWND In_hWnd) const
 {
-    const base::SystemExport<HANDLE WINAPI(HWND)> getProcessHandle(TEXT("oleacc"), "GetProcessHandleFromHwnd");
+    const base::SystemExport<HANDLE WINAPI(HWND)> getProcessHandle(TEXT("oleacc.dll"), "GetProcessHandleFromHwnd");
     return getProcessHandle ? getProcessHandle(In_hWnd) : nullptr;
 }
 

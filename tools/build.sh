@@ -30,22 +30,28 @@ exe_name='Velmora Setup Utility.exe'
 # The names of all DLLs that an exe imports, in lower case.
 imported_dlls() { x86_64-w64-mingw32-objdump -p "$1" | sed -n 's/.*DLL Name: //p' | tr 'A-Z' 'a-z' | sort -u; }
 
-# Every Windows has these. Anything else (a compiler's runtime above all) would have to be given away beside the exe.
-windows_dlls=' advapi32.dll comctl32.dll comdlg32.dll crypt32.dll gdi32.dll kernel32.dll msimg32.dll msvcrt.dll netapi32.dll ntdll.dll ole32.dll oleacc.dll oleaut32.dll psapi.dll shell32.dll shlwapi.dll user32.dll uxtheme.dll winspool.drv '
+# What an exe may bind at its start: Windows takes these from its own folder only (they are "known DLLs"), so that a file beside the exe cannot
+# stand in for them. A compiler's runtime is not among them.
+known_dlls=' advapi32.dll gdi32.dll kernel32.dll msvcrt.dll ole32.dll oleaut32.dll shell32.dll shlwapi.dll user32.dll '
 
-check_imports() {
-    local dll foreign=0
+# check_exe <exe>: what it binds at its start, and the guards that Windows lends to those who ask in their header.
+check_exe() {
+    local dll flag wrong=0 header
     for dll in $(imported_dlls "$1"); do
-        [[ "$windows_dlls" == *" $dll "* ]] || { echo "$1 needs $dll, which is no part of Windows"; foreign=1; }
+        [[ "$known_dlls" == *" $dll "* ]] || { echo "$1 binds $dll at its start"; wrong=1; }
     done
-    return $foreign
+    header="$(x86_64-w64-mingw32-objdump -p "$1")"
+    for flag in DYNAMIC_BASE NX_COMPAT TERMINAL_SERVICE_AWARE $([[ "$header" == *pei-x86-64* ]] && echo HIGH_ENTROPY_VA); do
+        [[ "$header" == *"$flag"* ]] || { echo "$1 has no $flag"; wrong=1; }
+    done
+    return $wrong
 }
 
 # dist_folder <preset> <folder>
 dist_folder() {
     local built="build/$1" folder="dist/$2"
     mkdir -p "$folder" && cp "$built/app/resources/$exe_name" "$built/tools/agent/Velmora.exe" "$folder/" &&
-        check_imports "$folder/$exe_name" && check_imports "$folder/Velmora.exe"
+        check_exe "$folder/$exe_name"
 }
 
 build_dist() {

@@ -138,7 +138,12 @@ DWORD WINAPI WaitForSingleObject(HANDLE object, DWORD milliseconds);
 
 // ---- Modules ----
 HMODULE WINAPI GetModuleHandleW(LPCWSTR name);
+#define LOAD_WITH_ALTERED_SEARCH_PATH 0x00000008
+#define LOAD_LIBRARY_SEARCH_SYSTEM32 0x00000800
 HMODULE WINAPI LoadLibraryW(LPCWSTR name);
+HMODULE WINAPI LoadLibraryExW(LPCWSTR name, HANDLE file, DWORD flags);
+BOOL WINAPI SetDefaultDllDirectories(DWORD flags);
+BOOL WINAPI SetDllDirectoryW(LPCWSTR folder);
 BOOL WINAPI FreeLibrary(HMODULE module);
 FARPROC WINAPI GetProcAddress(HMODULE module, LPCSTR name);
 DWORD WINAPI GetModuleFileNameW(HMODULE module, LPWSTR buffer, DWORD size);

@@ -19,6 +19,11 @@ public:
 
     /// The library is not on this PC: neither loaded nor found.
     void RemoveLibrary(std::u16string_view name);
+    /// A file of that name that somebody has put beside the exe; it exports nothing. Windows takes it for the name alone, until the program
+    /// says that it searches elsewhere.
+    void PlantBesideExe(std::u16string_view name);
+    /// Whether a library that Windows does not have is searched in the current folder.
+    [[nodiscard]] bool SearchesCurrentFolder() const;
     /// A function that GetProcAddress finds; `function` may be NULL: the export is missing on this PC.
     void Export(std::u16string_view library, std::string_view name, FARPROC function);
     void RemoveExport(std::u16string_view library, std::string_view name) { Export(library, name, nullptr); }

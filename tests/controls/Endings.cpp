@@ -77,8 +77,8 @@ TEST_F(Endings, InItsOwnEvents_AreSafe)
         MoveMouse(own, 200, 100);
         // The right button comes last: the menu of an edit has a loop of its own that waits for the user.
         for (const auto& act : std::initializer_list<std::function<void()>>{
-                 [&] { MoveMouse(own, 20, 10); }, [] { ClickMouse(); }, [] { ClickMouse(); }, [] { PressKey('A'); }, [] { PressKey(VK_SPACE); },
-                 [] { MouseButton(MOUSEEVENTF_RIGHTDOWN); }, [] { MouseButton(MOUSEEVENTF_RIGHTUP); }})
+                 [&] { MoveMouse(own, 20, 10); }, [] { ClickMouse(); }, [] { ClickMouse(); }, [] { PressKey('A'); },
+                 [] { PressKey(VK_SPACE); }, [] { MouseButton(MOUSEEVENTF_RIGHTDOWN); }, [] { MouseButton(MOUSEEVENTF_RIGHTUP); }})
             if (!raised)
                 act();
         EXPECT_TRUE(raised);

@@ -26,8 +26,7 @@ protected:
     base::String agent_ = PutAgent(TEXT("Velmora.exe"));
     base::String settings_ = folder_.Expect(TEXT("Velmora.ini"));
     base::String log_ = folder_.Expect(TEXT("Velmora.log"));
-
-private:
+    /// The same with the file that the environment variable names.
     base::String Put(const WCHAR* variable, base::StringView name);
 };
 

@@ -17,6 +17,8 @@ struct LibraryReference : Object {};
 /// What gives a module its handle value.
 struct ModuleNumber : Object {};
 
+constexpr std::u16string_view kSystemFolder = u"C:\\Windows\\System32\\";
+
 std::u16string Key(std::u16string_view name)
 {
     const std::u16string_view file = name.substr(name.find_last_of(u"\\/") + 1);
@@ -32,14 +34,35 @@ LoadedModules::LoadedModules(SimPc& pc) : pc_(pc), own_(std::make_unique<Module>
     own_->handle = AsHandle<HMODULE>(pc.Handles().Open(std::make_shared<ModuleNumber>(), HandleTable::Watch::Ignore));
 }
 
-void LoadedModules::Add(std::u16string_view name, bool loaded)
+std::unique_ptr<Module> LoadedModules::Make(std::u16string_view folder, std::u16string_view name)
 {
     auto module = std::make_unique<Module>();
-    const std::u16string bare(name.substr(0, name.find(u'.')));
-    module->path = u"C:\\Windows\\System32\\" + bare + u".dll";
-    module->loaded = loaded;
+    module->path = std::u16string(folder).append(name.substr(0, name.find(u'.'))).append(u".dll");
     module->handle = AsHandle<HMODULE>(pc_.Handles().Open(std::make_shared<ModuleNumber>(), HandleTable::Watch::Ignore));
-    modules_[Key(name)] = std::move(module);
+    return module;
+}
+
+void LoadedModules::Add(std::u16string_view name, bool loaded)
+{
+    (modules_[Key(name)] = Make(kSystemFolder, name))->loaded = loaded;
+}
+
+void LoadedModules::PlantBesideExe(std::u16string_view name)
+{
+    besideExe_[Key(name)] = Make(u"C:\\Tools\\", name);
+}
+
+Module* LoadedModules::Search(std::u16string_view name) const
+{
+    const std::u16string key = Key(name);
+    if (name.find(u'\\') != std::u16string_view::npos)
+        return UpperCase(name) == UpperCase(kSystemFolder) + key ? Find(name) : nullptr;
+    // A library that is in the process already is not searched for.
+    Module* module = Find(name);
+    if (module && module->IsMapped())
+        return module;
+    const auto planted = besideExe_.find(key);
+    return searchesExeFolder && planted != besideExe_.end() ? planted->second.get() : module;
 }
 
 Module* LoadedModules::Find(std::u16string_view name) const
@@ -52,9 +75,11 @@ Module* LoadedModules::Find(HMODULE module) const
 {
     if (!module || module == own_->handle)
         return own_.get();
-    for (const auto& entry : modules_) {
-        if (entry.second->handle == module && entry.second->IsMapped())
-            return entry.second.get();
+    for (const ByName* modules : {&modules_, &besideExe_}) {
+        for (const auto& entry : *modules) {
+            if (entry.second->handle == module && entry.second->IsMapped())
+                return entry.second.get();
+        }
     }
     return nullptr;
 }
@@ -97,8 +122,42 @@ HMODULE WINAPI LoadLibraryW(LPCWSTR name)
     SIM_CALL(nullptr, ERROR_MOD_NOT_FOUND, name);
     SimPc& pc = SimPc::Current();
     LoadedModules& modules = pc.Get<Modules>().Loaded();
-    Module* module = modules.Find(OrEmpty(name));
+    Module* module = modules.Search(OrEmpty(name));
     return module ? modules.Load(*module) : pc.Fail<HMODULE>(ERROR_MOD_NOT_FOUND, nullptr);
+}
+
+HMODULE WINAPI LoadLibraryExW(LPCWSTR name, HANDLE file, DWORD flags)
+{
+    SIM_CALL(nullptr, ERROR_MOD_NOT_FOUND, name, file, flags);
+    SimPc& pc = SimPc::Current();
+    const std::u16string_view path = OrEmpty(name);
+    // Searched beside the library means: by its full path only.
+    if (file || flags != LOAD_WITH_ALTERED_SEARCH_PATH || path.find(u':') == std::u16string_view::npos)
+        return pc.Fail<HMODULE>(ERROR_INVALID_PARAMETER, nullptr);
+    LoadedModules& modules = pc.Get<Modules>().Loaded();
+    Module* module = modules.Search(path);
+    return module ? modules.Load(*module) : pc.Fail<HMODULE>(ERROR_MOD_NOT_FOUND, nullptr);
+}
+
+BOOL WINAPI SetDefaultDllDirectories(DWORD flags)
+{
+    SIM_CALL(FALSE, ERROR_INVALID_PARAMETER, flags);
+    SimPc& pc = SimPc::Current();
+    if (flags != LOAD_LIBRARY_SEARCH_SYSTEM32)
+        return pc.Fail(ERROR_INVALID_PARAMETER, FALSE);
+    LoadedModules& modules = pc.Get<Modules>().Loaded();
+    modules.searchesExeFolder = modules.searchesCurrentFolder = false;
+    return TRUE;
+}
+
+BOOL WINAPI SetDllDirectoryW(LPCWSTR folder)
+{
+    SIM_CALL(FALSE, ERROR_INVALID_PARAMETER, folder);
+    // No folder at all takes the current one out of the search; others are nobody's business here.
+    if (!folder || *folder)
+        return SimPc::Current().Fail(ERROR_INVALID_PARAMETER, FALSE);
+    SimPc::Current().Get<Modules>().Loaded().searchesCurrentFolder = false;
+    return TRUE;
 }
 
 BOOL WINAPI FreeLibrary(HMODULE module)

@@ -31,6 +31,9 @@ public:
     /// A library that LoadLibraryW finds. Loaded ones are there from the start, as the program's imports make it.
     void Add(std::u16string_view name, bool loaded);
     void Remove(std::u16string_view name);
+    void PlantBesideExe(std::u16string_view name);
+    /// What a library's name leads to: with a path, the system folder's; alone, first what was planted where Windows still searches.
+    [[nodiscard]] Module* Search(std::u16string_view name) const;
     [[nodiscard]] Module* Find(std::u16string_view name) const;
     [[nodiscard]] Module* Find(HMODULE module) const;
     /// Counts a load; its reference is a leak until `Free`.
@@ -38,9 +41,16 @@ public:
     bool Free(Module& module);
     [[nodiscard]] HMODULE Own() const { return own_->handle; }
 
+    /// Where Windows searches for a name alone, beside the system folder.
+    bool searchesExeFolder = true, searchesCurrentFolder = true;
+
 private:
+    using ByName = std::map<std::u16string, std::unique_ptr<Module>>;  // upper-cased, with extension
+
+    std::unique_ptr<Module> Make(std::u16string_view folder, std::u16string_view name);
+
     SimPc& pc_;
-    std::map<std::u16string, std::unique_ptr<Module>> modules_;  // by upper-cased name with extension
+    ByName modules_, besideExe_;
     std::unique_ptr<Module> own_;
 };
 

@@ -46,6 +46,7 @@ Modules::Modules(SimPc& pc) : Area(pc), loaded_(std::make_unique<LoadedModules>(
         loaded_->Add(name, true);
     for (const char16_t* name : {u"shell32", u"advpack", u"oleacc", u"psapi", u"netapi32"})
         loaded_->Add(name, false);
+    Export(u"kernel32", "SetDefaultDllDirectories", AsExport(&SetDefaultDllDirectories));
     Export(u"kernel32", "SetProcessDEPPolicy", AsExport(&SetProcessDEPPolicy));
     Export(u"kernel32", "IsWow64Process", AsExport(&IsWow64Process));
     Export(u"ntdll", "RtlAdjustPrivilege", AsExport(&RtlAdjustPrivilege));
@@ -60,6 +61,16 @@ Modules::~Modules() = default;
 void Modules::RemoveLibrary(std::u16string_view name)
 {
     loaded_->Remove(name);
+}
+
+void Modules::PlantBesideExe(std::u16string_view name)
+{
+    loaded_->PlantBesideExe(name);
+}
+
+bool Modules::SearchesCurrentFolder() const
+{
+    return loaded_->searchesCurrentFolder;
 }
 
 void Modules::Export(std::u16string_view library, std::string_view name, FARPROC function)

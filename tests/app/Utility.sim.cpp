@@ -1,0 +1,41 @@
+#include "app/Utility.h"
+
+#include "platform/sim/MessageBoxes.h"
+#include "platform/sim/Volumes.h"
+#include "tests/app/UtilityScene.h"
+#include "tests/support/FailingMemory.h"
+
+#include <gtest/gtest.h>
+
+using namespace platform;
+
+namespace {
+
+class Utility : public testing::Test, protected tests::UtilityScene {};
+
+TEST_F(Utility, WithoutItsAgent_EndsWell)
+{
+    The<Volumes>().Remove(u"C:\\Tools\\Velmora.exe");
+    EXPECT_EQ(app::RunUtility(), 0);
+    EXPECT_EQ(The<MessageBoxes>().Last().text, u"\"Velmora.exe\" needs to be on this directory.");
+}
+
+TEST_F(Utility, WindowThatCannotBeOpened_IsToldAndEndsWithACode)
+{
+    pc.GetFaults().FailAlways("CreateWindowExW", ERROR_NOT_ENOUGH_MEMORY);
+    EXPECT_EQ(app::RunUtility(), 1);
+    ASSERT_EQ(The<MessageBoxes>().All().size(), 1u);
+    EXPECT_EQ(The<MessageBoxes>().Last().text, u"The window could not be opened:\r\nno window");
+    EXPECT_EQ(The<MessageBoxes>().Last().caption, u"Velmora Setup Utility");
+    EXPECT_EQ(The<MessageBoxes>().Last().style, 0x10u);
+}
+
+TEST_F(Utility, LackOfMemory_IsToldToo)
+{
+    const tests::FailingMemory first(1);
+    EXPECT_EQ(app::RunUtility(), 1);
+    ASSERT_EQ(The<MessageBoxes>().All().size(), 1u);
+    EXPECT_EQ(The<MessageBoxes>().Last().text, u"The window could not be opened:\r\nstd::bad_alloc");
+}
+
+}  // namespace
