@@ -1,5 +1,6 @@
 #include "app/ServiceControl.h"
 
+#include "app/LogonRight.h"
 #include "base/Handles.h"
 #include "toolkit/LogonDomain.h"
 
@@ -99,7 +100,7 @@ DWORD ServiceControl::ServiceGetConfig(String& account, DWORD& startType) const
     });
 }
 
-DWORD ServiceControl::ServiceInstall(String& account, StringView password, StringView folder, DWORD startType, bool interactive) const
+DWORD ServiceControl::ServiceInstall(String& account, const String& password, StringView folder, DWORD startType, bool interactive) const
 {
     account = Qualified(account);
     const String path = TEXT('"') + String(folder) + exeName_ + TEXT('"');
@@ -112,13 +113,15 @@ DWORD ServiceControl::ServiceInstall(String& account, StringView password, Strin
             return GetLastError();
         const ServiceHandle service(CreateServiceW(manager.Get(), serviceName_.c_str(), displayName_.c_str(), SERVICE_ALL_ACCESS, type,
                                                    startType, SERVICE_ERROR_NORMAL, path.c_str(), nullptr, nullptr, nullptr,
-                                                   account.c_str(), String(password).c_str()));
+                                                   account.c_str(), password.c_str()));
         if (!service)
             return GetLastError();
         String text = description_;
         SERVICE_DESCRIPTIONW description{};
         description.lpDescription = text.data();
         ChangeServiceConfig2W(service.Get(), SERVICE_CONFIG_DESCRIPTION, &description);
+        // The service is installed, whether its account gets the right or not: starting it tells.
+        GrantServiceLogon(account);
         return 0;
     });
 }

@@ -18,8 +18,8 @@ public:
     DWORD ServiceGetConfig(base::String& account, DWORD& startType) const;
 
     /// Installs `folder` (ending in a backslash) + the exe's name. An account without a domain is given the user's logon domain, or ".";
-    /// `account` comes back so. `interactive` counts for "LocalSystem" only.
-    DWORD ServiceInstall(base::String& account, base::StringView password, base::StringView folder, DWORD startType,
+    /// `account` comes back so, and a user's account gets the right to log on as a service. `interactive` counts for "LocalSystem" only.
+    DWORD ServiceInstall(base::String& account, const base::String& password, base::StringView folder, DWORD startType,
                          bool interactive) const;
 
     /// Asks the service to stop and deletes it. Windows removes a running service once it has stopped; nobody waits for that.

@@ -81,6 +81,8 @@ BOOL WINAPI AdjustTokenPrivileges(HANDLE token, BOOL disableAll, PTOKEN_PRIVILEG
                                   PDWORD needed);
 BOOL WINAPI GetTokenInformation(HANDLE token, TOKEN_INFORMATION_CLASS kind, LPVOID buffer, DWORD size, PDWORD needed);
 BOOL WINAPI GetUserNameW(LPWSTR buffer, LPDWORD size);
+BOOL WINAPI LookupAccountNameW(LPCWSTR system, LPCWSTR account, PSID sid, LPDWORD sidSize, LPWSTR domain, LPDWORD domainLength,
+                               PSID_NAME_USE use);
 BOOL WINAPI GetVersionExA(LPOSVERSIONINFOA version);
 
 // ---- Processes and threads ----

@@ -7,6 +7,9 @@ using LPCH = CHAR*;
 using SECURITY_INFORMATION = DWORD;
 using PSECURITY_DESCRIPTOR = PVOID;
 using PSID = PVOID;
+#define SECURITY_MAX_SID_SIZE 68
+enum SID_NAME_USE { SidTypeUser = 1, SidTypeWellKnownGroup = 5, SidTypeUnknown = 8 };
+using PSID_NAME_USE = SID_NAME_USE*;
 using PACCESS_MASK = ACCESS_MASK*;
 using PSECURITY_INFORMATION = SECURITY_INFORMATION*;
 
@@ -30,6 +33,14 @@ union ULARGE_INTEGER {
     ULONGLONG QuadPart;
 };
 using PULARGE_INTEGER = ULARGE_INTEGER*;
+
+// Inline in the SDK too; volatile, so that no compiler leaves it out.
+inline PVOID SecureZeroMemory(PVOID memory, SIZE_T size)
+{
+    for (volatile BYTE* byte = static_cast<BYTE*>(memory); size > 0; --size)
+        *byte++ = 0;
+    return memory;
+}
 
 // ---- Access rights ----
 #define DELETE 0x00010000

@@ -34,6 +34,18 @@ public:
     void AddAccount(std::u16string_view account, std::u16string_view password);
     [[nodiscard]] bool KnowsAccount(std::u16string_view account) const;
     [[nodiscard]] bool PasswordFits(std::u16string_view account, std::u16string_view password) const;
+    /// Whether a service can be started with it: built-in accounts can, others once they have the right "SeServiceLogonRight".
+    [[nodiscard]] bool MayLogOnAsService(std::u16string_view account) const;
+
+    /// What the functions for accounts work on.
+    struct Account {
+        std::u16string domain;
+        DWORD number = 0;
+        bool builtIn = false;
+    };
+    /// An account by its name, of this PC first when no domain is named.
+    [[nodiscard]] std::optional<Account> Lookup(std::u16string_view name) const;
+    void Grant(DWORD number, std::u16string_view right);
 
     /// A privilege in the program's token.
     struct Privilege {
@@ -60,7 +72,12 @@ private:
     std::u16string name_ = u"Anna";
     std::u16string logonDomain_ = u"OFFICE";
     std::u16string computerName_ = u"STUDIO";
-    std::map<std::u16string, std::u16string> accounts_;  // upper-cased full name, password
+    struct Logon {
+        std::u16string password;
+        DWORD number = 0;
+        std::vector<std::u16string> rights;
+    };
+    std::map<std::u16string, Logon> accounts_;  // by upper-cased full name
     std::vector<Privilege> privileges_;
     std::optional<SECURITY_IMPERSONATION_LEVEL> impersonation_;
 };

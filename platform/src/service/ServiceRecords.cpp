@@ -42,7 +42,8 @@ DWORD ServiceRecords::Start(Service& service)
     const Volumes& volumes = pc_.Get<Volumes>();
     if (ExecutableOf(service.path, [&](std::u16string_view path) { return volumes.IsFile(path); }).empty())
         return ERROR_FILE_NOT_FOUND;
-    if (!pc_.Get<Users>().PasswordFits(service.account, service.password))
+    const Users& users = pc_.Get<Users>();
+    if (!users.PasswordFits(service.account, service.password) || !users.MayLogOnAsService(service.account))
         return ERROR_SERVICE_LOGON_FAILED;
     Settle(service, SERVICE_START_PENDING, service.startTime, service.startFailure == 0 ? SERVICE_RUNNING : SERVICE_STOPPED,
            service.startFailure);

@@ -89,7 +89,9 @@ std::u16string Users::FullName(std::u16string_view account) const
 
 void Users::AddAccount(std::u16string_view account, std::u16string_view password)
 {
-    accounts_[FullName(account)] = password;
+    Logon& logon = accounts_[FullName(account)];
+    logon.password = password;
+    logon.number = static_cast<DWORD>(1000 + accounts_.size());
 }
 
 bool Users::KnowsAccount(std::u16string_view account) const
@@ -100,7 +102,35 @@ bool Users::KnowsAccount(std::u16string_view account) const
 bool Users::PasswordFits(std::u16string_view account, std::u16string_view password) const
 {
     const auto found = accounts_.find(FullName(account));
-    return IsBuiltIn(account) || (found != accounts_.end() && found->second == password);
+    return IsBuiltIn(account) || (found != accounts_.end() && found->second.password == password);
+}
+
+bool Users::MayLogOnAsService(std::u16string_view account) const
+{
+    const auto found = accounts_.find(FullName(account));
+    return IsBuiltIn(account) || (found != accounts_.end() && std::ranges::count(found->second.rights, u"SeServiceLogonRight") == 1);
+}
+
+std::optional<Users::Account> Users::Lookup(std::u16string_view name) const
+{
+    if (IsBuiltIn(name))
+        return Account{u"NT AUTHORITY", 0, true};
+    const std::u16string upper = UpperCase(name);
+    const bool qualified = name.find(u'\\') != std::u16string_view::npos;
+    for (const std::u16string& wanted : {upper, UpperCase(computerName_) + u'\\' + upper, UpperCase(logonDomain_) + u'\\' + upper}) {
+        if (const auto found = accounts_.find(wanted); found != accounts_.end())
+            return Account{wanted.substr(0, wanted.find(u'\\')), found->second.number};
+        if (qualified)
+            break;
+    }
+    return std::nullopt;
+}
+
+void Users::Grant(DWORD number, std::u16string_view right)
+{
+    for (auto& [name, logon] : accounts_)
+        if (logon.number == number)
+            logon.rights.emplace_back(right);
 }
 
 Users::Privilege* Users::Held(DWORD number)
