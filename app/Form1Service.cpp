@@ -2,6 +2,7 @@
 #include "app/Form1.h"
 #include "app/helpers/Paths.h"
 #include "app/SetEnabled.h"
+#include "base/Wipe.h"
 
 #include <iterator>
 
@@ -160,7 +161,12 @@ void Form1::cmdInstall_Click()
         const DWORD startType = StartTypeAt(ComboStartup->ListIndex());
         if (installs) {
             String account = txtAccount->Text();
-            error = Service.ServiceInstall(account, txtPassword->Text(), helpers::GetAppPath(), startType, false);
+            String password = txtPassword->Text();
+            const base::WipeAtEnd wipePassword(password);
+            error = Service.ServiceInstall(account, password, helpers::GetAppPath(), startType, false);
+            // Windows keeps it from here on.
+            if (error == 0)
+                txtPassword->Text(String());
         } else {
             error = Service.ServiceUninstall();
         }

@@ -5,6 +5,7 @@
 #include "app/helpers/Ini.h"
 #include "app/helpers/Paths.h"
 #include "app/SetEnabled.h"
+#include "base/Wipe.h"
 
 namespace app {
 
@@ -21,15 +22,24 @@ void Form1::LoadPassword()
 {
     if (!helpers::FileExists(IniFile))
         return;
-    if (const String stored = helpers::ReadIniString(IniFile, section, passwordKey, {}); !stored.empty())
-        TextPassword->Text(Base64Decode(stored, Base64Prefixed));
+    String stored = helpers::ReadIniString(IniFile, section, passwordKey, {});
+    const base::WipeAtEnd wipeStored(stored);
+    if (stored.empty())
+        return;
+    String password = Base64Decode(stored, Base64Prefixed);
+    const base::WipeAtEnd wipePassword(password);
+    TextPassword->Text(password);
 }
 
 void Form1::SavePassword()
 {
-    const String password = TextPassword->Text();
-    if (!password.empty() || helpers::FileExists(IniFile))
-        helpers::WriteIniString(IniFile, section, passwordKey, Base64Encode(password, Base64Prefixed));
+    String password = TextPassword->Text();
+    const base::WipeAtEnd wipePassword(password);
+    if (password.empty() && !helpers::FileExists(IniFile))
+        return;
+    String stored = Base64Encode(password, Base64Prefixed);
+    const base::WipeAtEnd wipeStored(stored);
+    helpers::WriteIniString(IniFile, section, passwordKey, stored);
 }
 
 void Form1::TextPassword_Change()

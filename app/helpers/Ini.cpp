@@ -98,10 +98,10 @@ String ReadIniString(StringView path, StringView section, StringView key, String
     std::array<WCHAR, 256> buffer{};
     const DWORD length = GetPrivateProfileStringW(base::Trim(section).c_str(), base::Trim(key).c_str(), String(fallback).c_str(),
                                                   buffer.data(), asked, file.c_str());
+    String value = base::Trim(StringView(buffer.data(), length));
+    SecureZeroMemory(buffer.data(), sizeof buffer);  // it may be a password
     // Windows tells a cut value only by a length of one less than asked for.
-    if (length < asked - 1)
-        return base::Trim(StringView(buffer.data(), length));
-    return ReadIniStringEx(path, section, key, fallback);
+    return length < asked - 1 ? value : ReadIniStringEx(path, section, key, fallback);
 }
 
 String ReadIniStringEx(StringView path, StringView section, StringView key, StringView fallback)

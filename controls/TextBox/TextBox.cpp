@@ -29,7 +29,7 @@ void TextBox::ReleaseWindow()
 void TextBox::CreateWindowAnew()
 {
     if (hosted_.Window())
-        cachedText_ = hosted_.Text();
+        Cache(hosted_.Text());
     const std::int32_t start = SelStart(), length = SelLength();
     HostedControl::CreateWindowAnew();
     if (!hosted_.Window())

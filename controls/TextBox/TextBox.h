@@ -172,6 +172,7 @@ private:
 
     void CreateLineWindow();
     void LimitText();
+    void Cache(base::String text);
     void ReplaceSelection(const base::String& text);
     /// Brings the hidden line window up to date and answers with the window that counts lines.
     HWND LineCounter(bool withCaret = false);
@@ -185,6 +186,7 @@ private:
     void PassKeyOn(UINT message, std::int16_t code);
     bool ForwardFocus(std::int16_t keyCode);
 
+    /// Only `Cache` changes it: what it held before may have been a password.
     base::String cachedText_;
     std::int32_t maxLength_ = 30000;
     bool locked_ = false;

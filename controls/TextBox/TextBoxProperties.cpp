@@ -34,7 +34,7 @@ const PropertyTable<TextBox>& TextBox::Properties()
         StoredAs<T, uint32_t>(TEXT("ForeColor"), &T::foreColor_, host::SystemColor(COLOR_WINDOWTEXT)),
         StoredAs<T, uint8_t>(TEXT("TabKeyTextual"), &T::tabKeyTextual_, 0),
         StoredThrough<T, String>(
-            TEXT("Text"), [](T& box) { return box.Text(); }, [](T& box, const String& text) { box.cachedText_ = text; },
+            TEXT("Text"), [](T& box) { return box.Text(); }, [](T& box, const String& text) { box.Cache(text); },
             [](T& box) { return box.Ambient().DisplayName(); }),
         StoredThrough<T, std::shared_ptr<host::Font>>(
             TEXT("Font"), [](T& box) { return box.Font(); }, [](T& box, const std::shared_ptr<host::Font>& font) { box.TakeFont(*font); },

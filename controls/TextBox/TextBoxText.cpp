@@ -1,4 +1,5 @@
 // TextBoxText: text, selection and lines.
+#include "base/Wipe.h"
 #include "controls/TextBox/TextBox.h"
 #include "controls/TextPrinter.h"
 
@@ -25,16 +26,22 @@ String TrimControls(StringView text)
 String TextBox::Text()
 {
     if (hosted_.Window())
-        cachedText_ = hosted_.Text();
+        Cache(hosted_.Text());
     if (trimText_)
-        cachedText_ = TrimControls(cachedText_);
+        Cache(TrimControls(cachedText_));
     return cachedText_;
+}
+
+void TextBox::Cache(String text)
+{
+    base::Wipe(cachedText_);
+    cachedText_.swap(text);
 }
 
 void TextBox::Text(const String& text)
 {
     const bool differs = text != cachedText_;
-    cachedText_ = text;
+    Cache(text);
     hosted_.Send(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
     PropertyChanged(TEXT("Text"));
     lineWindowStale_ = true;

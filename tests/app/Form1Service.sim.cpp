@@ -156,6 +156,8 @@ TEST_F(Form1Service, Install_QualifiesTheAccount)
         ASSERT_NE(The<Services>().Find(name), nullptr);
         EXPECT_EQ(The<Services>().Find(name)->account, account);
         EXPECT_EQ(The<Services>().Find(name)->password, u"secret");
+        EXPECT_TRUE(The<Users>().MayLogOnAsService(account));
+        EXPECT_EQ(Text(TEXT("txtPassword")).Text(), TEXT("")) << "Windows has it";
         The<Services>().Delete(name);
         Close();
     }
@@ -166,12 +168,13 @@ TEST_F(Form1Service, FailedInstall_LeavesTheButtonReady)
     ASSERT_TRUE(Open());
     Check(TEXT("chkSystem")).Value(0);
     Text(TEXT("txtAccount")).Text(TEXT("nobody"));
+    Text(TEXT("txtPassword")).Text(TEXT("secret"));
     Click(TEXT("cmdInstall"));
     EXPECT_EQ(The<Services>().Count(), 0u);
+    EXPECT_EQ(Text(TEXT("txtPassword")).Text(), TEXT("secret"));
     EXPECT_TRUE(Enabled(TEXT("cmdInstall")));
     EXPECT_EQ(Text(TEXT("txtAccount")).Text(), TEXT("nobody"));
     EXPECT_EQ(Button(TEXT("cmdInstall")).Caption(), TEXT("Install Service"));
-    Text(TEXT("txtPassword")).Text(TEXT("secret"));
     Check(TEXT("chkSystem")).Value(1);
     EXPECT_EQ(Text(TEXT("txtAccount")).Text(), TEXT("LocalSystem"));
     EXPECT_EQ(Text(TEXT("txtPassword")).Text(), TEXT(""));

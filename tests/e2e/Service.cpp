@@ -25,11 +25,13 @@ TEST_F(EndToEnd, Service_InstalledAsChosenAndUninstalled)
     utility.Click("chkSystem");
     ASSERT_TRUE(Eventually([&] { return utility.Enabled("txtAccount"); }));
     utility.Enter("txtAccount", TEXT("office\\jdoe"));
-    utility.Enter("txtPassword", TEXT("secret"));
+    utility.Enter("txtPassword", TEXT("well-kept secret"));
+    EXPECT_TRUE(Eventually([&] { return utility.PlacesOf(TEXT("well-kept secret")) > 0; }));
     EXPECT_TRUE(Eventually([&] { return tests::TextOf(utility.Shown("txtAccount")) == TEXT("office\\jdoe"); }));
     utility.Click("cmdInstall");
     ASSERT_TRUE(Eventually([] { return InstalledService().has_value(); }));
     EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "stopped"; }));
+    EXPECT_EQ(utility.PlacesOf(TEXT("well-kept secret")), 0) << "Windows has the password; nobody else needs it";
     const ServiceFacts facts = InstalledService().value();
     EXPECT_EQ(facts.startType, static_cast<DWORD>(SERVICE_DISABLED));
     EXPECT_EQ(facts.binaryPath, TEXT("\"") + agent_ + TEXT("\""));

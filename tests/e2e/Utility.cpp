@@ -3,6 +3,8 @@
 #include "tests/e2e/Machine.h"
 #include "tests/support/UserInput.h"
 
+#include <vector>
+
 namespace e2e {
 
 namespace {
@@ -44,6 +46,23 @@ DWORD Utility::ExitCode() const
     DWORD code = STILL_ACTIVE;
     GetExitCodeProcess(process_.Get(), &code);
     return code;
+}
+
+int Utility::PlacesOf(base::StringView text) const
+{
+    int places = 0;
+    MEMORY_BASIC_INFORMATION region{};
+    for (const BYTE* at = nullptr; VirtualQueryEx(process_.Get(), at, &region, sizeof region); at += region.RegionSize) {
+        at = static_cast<const BYTE*>(region.BaseAddress);
+        std::vector<char> bytes(region.State == MEM_COMMIT && region.Type == MEM_PRIVATE ? region.RegionSize : 0);
+        SIZE_T read = 0;
+        if (bytes.empty() || !ReadProcessMemory(process_.Get(), at, bytes.data(), bytes.size(), &read))
+            continue;
+        const std::string_view all(bytes.data(), read), wanted(reinterpret_cast<const char*>(text.data()), text.size() * sizeof(WCHAR));
+        for (std::size_t found = all.find(wanted); found != all.npos; found = all.find(wanted, found + 1))
+            ++places;
+    }
+    return places;
 }
 
 bool Utility::HasFocus(std::string_view name) const

@@ -25,6 +25,8 @@ public:
     /// What the process ended with, STILL_ACTIVE while it runs.
     [[nodiscard]] DWORD ExitCode() const;
     [[nodiscard]] HWND Window() const { return window_; }
+    /// Places in the process's own memory that hold this text, UTF-16.
+    [[nodiscard]] int PlacesOf(base::StringView text) const;
     /// The message box that the process shows, NULL when there is none.
     [[nodiscard]] HWND MessageBox() const { return FindTopLevel(TEXT("#32770")); }
     /// False when its message loop is held up.
