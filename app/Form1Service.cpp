@@ -1,5 +1,6 @@
 // The service panel: it shows what the service database says, once a second, and lets the user act on it.
 #include "app/Form1.h"
+#include "app/helpers/FileAccess.h"
 #include "app/helpers/Paths.h"
 #include "app/SetEnabled.h"
 #include "base/Wipe.h"
@@ -31,6 +32,16 @@ int StartupIndex(DWORD startType, int otherwise)
 DWORD StartTypeAt(int index)
 {
     return index >= 0 && index < std::ssize(startTypes) ? startTypes[index] : SERVICE_AUTO_START;
+}
+
+/// Whether the user's other programs may change the agent or put something beside it. What nobody could find out counts as no.
+bool OthersMayChange(const String& agent)
+{
+    const auto may = [](const String& path, int mask, bool isFolder) {
+        const auto access = helpers::CheckPathAccess(path, mask, isFolder, helpers::Asker::OrdinaryUser);
+        return access == helpers::PathAccess::Granted || access == helpers::PathAccess::NoAccessControl;
+    };
+    return may(helpers::GetFolderFromPath(agent), FILE_ADD_FILE, true) || may(agent, FILE_WRITE_DATA, false);
 }
 
 void Label(controls::CommandButton& button, StringView caption, StringView toolTip)
@@ -155,12 +166,12 @@ void Form1::cmdInstall_Click()
     RefreshServicePanel();
     const String tried = cmdInstall->Caption();
     const bool installs = !ServiceInstalled;
+    String account = txtAccount->Text();
     DWORD error = 0;
     if (cmdInstall->Enabled()) {
         cmdInstall->Enabled(false);
         const DWORD startType = StartTypeAt(ComboStartup->ListIndex());
         if (installs) {
-            String account = txtAccount->Text();
             String password = txtPassword->Text();
             const base::WipeAtEnd wipePassword(password);
             error = Service.ServiceInstall(account, password, helpers::GetAppPath(), startType, false);
@@ -177,6 +188,11 @@ void Form1::cmdInstall_Click()
         SetEnabled(*cmdInstall, true);
     if (error != 0)
         SayFailure(*cmdInstall, tried, error, [this, installs] { return ServiceInstalled == installs; });
+    else if (installs && ServiceInstalled && account == TEXT("LocalSystem") && OthersMayChange(AgentPath()))
+        Say(*cmdInstall, controls::Balloon::Icon::Warning, tried,
+            TEXT("The service is installed. Other programs can change what lies in its folder, and it runs with all rights: move it to a ")
+                TEXT("folder that only administrators can change, such as Program Files."),
+            [this] { return !ServiceInstalled; });
 }
 
 void Form1::cmdStart_Click()

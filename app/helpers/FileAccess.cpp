@@ -64,25 +64,48 @@ std::vector<BYTE> SecurityOf(const String& path)
     return descriptor;
 }
 
-PathAccess Check(std::vector<BYTE>& descriptor, DWORD mask)
+/// AccessCheck takes an impersonation token only, which a process gets by impersonating itself.
+base::KernelHandle OwnToken()
 {
     base::KernelHandle token;
-    if (!OpenThreadToken(GetCurrentThread(), TOKEN_QUERY, TRUE, token.Receive()))
-        return PathAccess::Failed;
+    if (ImpersonateSelf(SecurityDelegation)) {
+        OpenThreadToken(GetCurrentThread(), TOKEN_QUERY, TRUE, token.Receive());
+        RevertToSelf();
+    }
+    return token;
+}
+
+/// The process's token in which the group of the administrators counts only where it is denied something.
+/// https://learn.microsoft.com/windows/win32/api/securitybaseapi/nf-securitybaseapi-createrestrictedtoken
+base::KernelHandle OrdinaryToken()
+{
+    base::KernelHandle own, ordinary, token;
+    BYTE administrators[SECURITY_MAX_SID_SIZE];
+    DWORD size = sizeof administrators;
+    SID_AND_ATTRIBUTES denied{administrators, 0};
+    if (CreateWellKnownSid(WinBuiltinAdministratorsSid, nullptr, administrators, &size) &&
+        OpenProcessToken(GetCurrentProcess(), TOKEN_DUPLICATE | TOKEN_QUERY, own.Receive()) &&
+        CreateRestrictedToken(own.Get(), DISABLE_MAX_PRIVILEGE, 1, &denied, 0, nullptr, 0, nullptr, ordinary.Receive()))
+        DuplicateToken(ordinary.Get(), SecurityIdentification, token.Receive());
+    return token;
+}
+
+PathAccess Check(std::vector<BYTE>& descriptor, DWORD mask, HANDLE token)
+{
     GENERIC_MAPPING mapping = {FILE_GENERIC_READ, FILE_GENERIC_WRITE, FILE_GENERIC_EXECUTE, FILE_ALL_ACCESS};
     MapGenericMask(&mask, &mapping);
     alignas(PRIVILEGE_SET) std::array<BYTE, 32> privileges{};
     DWORD privilegesSize = static_cast<DWORD>(privileges.size());
     DWORD grantedMask = 0;
     BOOL status = FALSE;
-    AccessCheck(descriptor.data(), token.Get(), mask, &mapping, reinterpret_cast<PRIVILEGE_SET*>(privileges.data()), &privilegesSize,
+    AccessCheck(descriptor.data(), token, mask, &mapping, reinterpret_cast<PRIVILEGE_SET*>(privileges.data()), &privilegesSize,
                 &grantedMask, &status);
     return status ? PathAccess::Granted : PathAccess::Denied;
 }
 
 }  // namespace
 
-PathAccess CheckPathAccess(StringView path, int code, bool isFolder)
+PathAccess CheckPathAccess(StringView path, int code, bool isFolder, Asker asker)
 {
     String target = base::Trim(path);
     if (isFolder && !target.ends_with(TEXT('\\')))
@@ -95,12 +118,8 @@ PathAccess CheckPathAccess(StringView path, int code, bool isFolder)
     std::vector<BYTE> descriptor = SecurityOf(target);
     if (descriptor.empty())
         return PathAccess::Failed;
-    // AccessCheck takes an impersonation token only, which a process gets by impersonating itself.
-    if (!ImpersonateSelf(SecurityDelegation))
-        return PathAccess::Failed;
-    const PathAccess result = Check(descriptor, AccessMask(code, isFolder));
-    RevertToSelf();
-    return result;
+    const base::KernelHandle token = asker == Asker::CurrentUser ? OwnToken() : OrdinaryToken();
+    return token ? Check(descriptor, AccessMask(code, isFolder), token.Get()) : PathAccess::Failed;
 }
 
 PathAccess CheckFolderAccess(StringView folder, int code)

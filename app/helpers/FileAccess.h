@@ -1,4 +1,4 @@
-// FileAccess: asks Windows whether the current user may read or write a file or folder.
+// FileAccess: asks Windows who may read or write a file or folder.
 #pragma once
 
 #include "base/String.h"
@@ -16,9 +16,14 @@ enum class PathAccess : int {
     Missing = -3,
 };
 
+enum class Asker {
+    CurrentUser,
+    OrdinaryUser,  // the current user without an administrator's rights, as the user's other programs run
+};
+
 /// `code` is an `AccessCode` or an access mask. Never `Missing`: what does not exist has failed.
 /// https://learn.microsoft.com/windows/win32/api/securitybaseapi/nf-securitybaseapi-accesscheck
-PathAccess CheckPathAccess(base::StringView path, int code, bool isFolder);
+PathAccess CheckPathAccess(base::StringView path, int code, bool isFolder, Asker asker = Asker::CurrentUser);
 
 /// `Missing` when the folder does not exist, else as `CheckPathAccess`.
 PathAccess CheckFolderAccess(base::StringView folder, int code);

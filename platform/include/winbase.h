@@ -73,6 +73,10 @@ BOOL WINAPI ImpersonateSelf(SECURITY_IMPERSONATION_LEVEL level);
 BOOL WINAPI RevertToSelf();
 BOOL WINAPI OpenThreadToken(HANDLE thread, DWORD access, BOOL asSelf, PHANDLE token);
 BOOL WINAPI OpenProcessToken(HANDLE process, DWORD access, PHANDLE token);
+BOOL WINAPI DuplicateToken(HANDLE token, SECURITY_IMPERSONATION_LEVEL level, PHANDLE duplicate);
+BOOL WINAPI CreateRestrictedToken(HANDLE token, DWORD flags, DWORD disabledCount, PSID_AND_ATTRIBUTES disabled, DWORD deletedCount,
+                                  PLUID_AND_ATTRIBUTES deleted, DWORD restrictedCount, PSID_AND_ATTRIBUTES restricted, PHANDLE made);
+BOOL WINAPI CreateWellKnownSid(WELL_KNOWN_SID_TYPE kind, PSID domain, PSID sid, DWORD* size);
 VOID WINAPI MapGenericMask(PDWORD mask, PGENERIC_MAPPING mapping);
 BOOL WINAPI AccessCheck(PSECURITY_DESCRIPTOR descriptor, HANDLE token, DWORD desired, PGENERIC_MAPPING mapping, PPRIVILEGE_SET privileges,
                         LPDWORD privilegesSize, LPDWORD granted, LPBOOL status);

@@ -127,6 +127,40 @@ TEST_F(Form1Notices, FailedClick_IsExplainedUntilItComesTrueOrTheUserActs)
         }
 }
 
+TEST_F(Form1Notices, FolderOfASystemServiceThatOthersCanChange_IsWarnedOf)
+{
+    const std::u16string warning =
+        u"Install Service|The service is installed. Other programs can change what lies in its folder, and it runs with all rights: move "
+        u"it "
+        u"to a folder that only administrators can change, such as Program Files.";
+    const struct {
+        const char* what;
+        FileRights folder, program;
+        bool systemAccount, warns;
+    } cases[] = {{"open folder", {}, {.users = kReadOnlyRights}, true, true},
+                 {"open program", {.users = kReadOnlyRights}, {}, true, true},
+                 {"both closed", {.users = kReadOnlyRights}, {.users = kReadOnlyRights}, true, false},
+                 {"a user's account", {}, {}, false, false}};
+    for (const auto& [what, folder, program, systemAccount, warns] : cases) {
+        SCOPED_TRACE(what);
+        The<Volumes>().SetRights(u"C:\\Tools", folder);
+        The<Volumes>().SetRights(exe, program);
+        ASSERT_TRUE(Open());
+        if (!systemAccount) {
+            Check(TEXT("chkSystem")).Value(0);
+            Text(TEXT("txtAccount")).Text(TEXT("OFFICE\\Anna"));
+            Text(TEXT("txtPassword")).Text(TEXT("secret"));
+        }
+        Click(TEXT("cmdInstall"));
+        EXPECT_EQ(The<Services>().Count(), 1u);
+        EXPECT_EQ(Said(), warns ? warning : u"");
+        The<Services>().Delete(name);
+        pc.Advance(1000);
+        EXPECT_EQ(Balloon(), nullptr) << "no service, no warning";
+        Close();
+    }
+}
+
 TEST_F(Form1Notices, AgentThatRunsAlready_IsSaid)
 {
     ASSERT_TRUE(Open());
@@ -140,6 +174,7 @@ TEST_F(Form1Notices, AgentThatRunsAlready_IsSaid)
 
 TEST_F(Form1Notices, WhatWorks_IsNotSpokenOf)
 {
+    The<Volumes>().SetRights(u"C:\\Tools", {.users = kReadOnlyRights});
     ASSERT_TRUE(Open());
     for (const WCHAR* const button : {TEXT("cmdInstall"), TEXT("cmdStart"), TEXT("CommandStartVelmora"), TEXT("CommandCloseVelmora")}) {
         Click(button);

@@ -112,6 +112,35 @@ BOOL WINAPI GetFileSecurityW(LPCWSTR name, SECURITY_INFORMATION requested, PSECU
     return TRUE;
 }
 
+BOOL WINAPI CreateWellKnownSid(WELL_KNOWN_SID_TYPE kind, PSID domain, PSID sid, DWORD* size)
+{
+    SIM_CALL(FALSE, ERROR_INVALID_PARAMETER, static_cast<int>(kind));
+    SimPc& pc = SimPc::Current();
+    if (kind != WinBuiltinAdministratorsSid || domain || *size < kAdministrators.size())
+        return pc.Fail(ERROR_INVALID_PARAMETER, FALSE);
+    std::memcpy(sid, kAdministrators.data(), kAdministrators.size());
+    *size = static_cast<DWORD>(kAdministrators.size());
+    return TRUE;
+}
+
+BOOL WINAPI CreateRestrictedToken(HANDLE token, DWORD flags, DWORD disabledCount, PSID_AND_ATTRIBUTES disabled, DWORD deletedCount,
+                                  PLUID_AND_ATTRIBUTES, DWORD restrictedCount, PSID_AND_ATTRIBUTES, PHANDLE made)
+{
+    SIM_CALL(FALSE, ERROR_ACCESS_DENIED, token, flags);
+    SimPc& pc = SimPc::Current();
+    const auto opened = pc.Handles().Find<Token>(token);
+    if (!opened)
+        return pc.Fail(ERROR_INVALID_HANDLE, FALSE);
+    if (!opened->Grants(TOKEN_DUPLICATE))
+        return pc.Fail(ERROR_ACCESS_DENIED, FALSE);
+    // One kind is known here: without the group of the administrators.
+    if (disabledCount != 1 || std::memcmp(disabled->Sid, kAdministrators.data(), kAdministrators.size()) != 0 || deletedCount != 0 ||
+        restrictedCount != 0)
+        return pc.Fail(ERROR_INVALID_PARAMETER, FALSE);
+    *made = AsHandle<HANDLE>(pc.Handles().Open(std::make_shared<Token>(TOKEN_DUPLICATE | TOKEN_QUERY, opened->Impersonation(), true)));
+    return TRUE;
+}
+
 VOID WINAPI MapGenericMask(PDWORD mask, PGENERIC_MAPPING mapping)
 {
     SIM_NOTE(*mask);
@@ -148,7 +177,7 @@ BOOL WINAPI AccessCheck(PSECURITY_DESCRIPTOR descriptor, HANDLE token, DWORD des
         return pc.Fail(ERROR_INVALID_SECURITY_DESCR, FALSE);
 
     std::memset(privileges, 0, sizeof *privileges);
-    const DWORD all = Granted(bytes, pc.Get<Users>().Administrator());
+    const DWORD all = Granted(bytes, pc.Get<Users>().Administrator() && !opened->Restricted());
     const bool allowed = (desired & MAXIMUM_ALLOWED) != 0 ? all != 0 : (all & desired) == desired;
     *status = allowed;
     *granted = !allowed ? 0 : (desired & MAXIMUM_ALLOWED) != 0 ? all : desired;

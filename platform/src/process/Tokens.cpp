@@ -32,6 +32,19 @@ BOOL WINAPI OpenProcessToken(HANDLE process, DWORD access, PHANDLE token)
     return TRUE;
 }
 
+BOOL WINAPI DuplicateToken(HANDLE token, SECURITY_IMPERSONATION_LEVEL level, PHANDLE duplicate)
+{
+    SIM_CALL(FALSE, ERROR_ACCESS_DENIED, token, static_cast<int>(level));
+    SimPc& pc = SimPc::Current();
+    const auto opened = pc.Handles().Find<Token>(token);
+    if (!opened)
+        return pc.Fail(ERROR_INVALID_HANDLE, FALSE);
+    if (!opened->Grants(TOKEN_DUPLICATE))
+        return pc.Fail(ERROR_ACCESS_DENIED, FALSE);
+    *duplicate = AsHandle<HANDLE>(pc.Handles().Open(std::make_shared<Token>(TOKEN_QUERY, level, opened->Restricted())));
+    return TRUE;
+}
+
 BOOL WINAPI OpenThreadToken(HANDLE thread, DWORD access, BOOL asSelf, PHANDLE token)
 {
     SIM_CALL(FALSE, ERROR_NO_TOKEN, thread, access, asSelf);

@@ -12,11 +12,17 @@ namespace platform {
 /// There is one token, the user's; thread tokens carry how far they may be used.
 class Token : public KernelObject {
 public:
-    Token(DWORD access, std::optional<SECURITY_IMPERSONATION_LEVEL> impersonation) : KernelObject(access), impersonation_(impersonation) {}
+    Token(DWORD access, std::optional<SECURITY_IMPERSONATION_LEVEL> impersonation, bool restricted = false)
+        : KernelObject(access), impersonation_(impersonation), restricted_(restricted)
+    {
+    }
     [[nodiscard]] std::optional<SECURITY_IMPERSONATION_LEVEL> Impersonation() const { return impersonation_; }
+    /// Whether the group of the administrators grants it nothing.
+    [[nodiscard]] bool Restricted() const { return restricted_; }
 
 private:
     std::optional<SECURITY_IMPERSONATION_LEVEL> impersonation_;
+    bool restricted_;
 };
 
 }  // namespace platform

@@ -57,6 +57,21 @@ TEST_F(FileAccess, EachFolderRight_IsNeeded)
         }
 }
 
+TEST_F(FileAccess, OrdinaryUser_HasNotWhatOnlyAdministratorsHave)
+{
+    const auto ordinary = [](int code) { return helpers::CheckPathAccess(TEXT("C:\\Tools"), code, true, helpers::Asker::OrdinaryUser); };
+    EXPECT_EQ(ordinary(WriteAccess), PathAccess::Granted);
+    volumes.SetRights(u"C:\\Tools", {.users = kReadOnlyRights});
+    EXPECT_EQ(ordinary(WriteAccess), PathAccess::Denied);
+    EXPECT_EQ(ordinary(ReadAccess), PathAccess::Granted);
+    EXPECT_EQ(CheckFolderAccess(TEXT("C:\\Tools"), WriteAccess), PathAccess::Granted) << "the administrator's own";
+    for (const char* function : {"CreateWellKnownSid", "OpenProcessToken", "CreateRestrictedToken", "DuplicateToken"}) {
+        pc.GetFaults().FailAlways(function, ERROR_ACCESS_DENIED);
+        EXPECT_EQ(ordinary(ReadAccess), PathAccess::Failed) << function;
+        pc.GetFaults().Clear();
+    }
+}
+
 TEST_F(FileAccess, FailingSecurityCalls_AreNeverGranted)
 {
     const std::pair<const char*, PathAccess> cases[] = {{"GetVolumeInformationW", PathAccess::NoAccessControl},
