@@ -1,5 +1,4 @@
 // Windows come, are shown and go: which messages they get, in which order.
-#include "tests/support/KnownGap.h"
 #include "tests/support/MessageLog.h"
 
 namespace {

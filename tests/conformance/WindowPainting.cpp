@@ -5,9 +5,6 @@ namespace {
 
 using tests::MessageLog;
 
-constexpr COLORREF red = RGB(255, 0, 0);
-constexpr COLORREF blue = RGB(0, 0, 255);
-
 /// A popup and a child in its corner, both painted and at rest.
 class Painting : public testing::Test {
 protected:
@@ -15,30 +12,30 @@ protected:
         : top_(log_.Create("top", WS_POPUP | WS_VISIBLE, nullptr, {100, 100, 300, 250})),
           child_(log_.Create("child", WS_CHILD | WS_VISIBLE, top_, {20, 20, 70, 60}))
     {
-        log_.Also(WM_PAINT);
-        log_.Also(WM_ERASEBKGND);
+        log_.WithPainting();
         tests::PumpMessages(20);
         log_.Clear();
     }
 
-    void Fill(HWND window, COLORREF color, RECT area = {0, 0, 400, 400})
+    /// Whether what is drawn on a window at this point of the popup is seen on the one that has the point.
+    bool Draws(HWND window, HWND seen, POINT point)
     {
-        const HDC dc = GetDC(window);
-        const HBRUSH brush = CreateSolidBrush(color);
-        FillRect(dc, &area, brush);
-        DeleteObject(brush);
-        ReleaseDC(window, dc);
+        const auto on = [&](HWND each, auto use) {
+            POINT place = point;
+            MapWindowPoints(top_, each, &place, 1);
+            const HDC dc = GetDC(each);
+            const COLORREF color = use(dc, place.x, place.y);
+            ReleaseDC(each, dc);
+            return color;
+        };
+        on(window, [&](HDC dc, int x, int y) { return SetPixel(dc, x, y, ++color_); });
+        return on(seen, GetPixel) == color_;
     }
-    COLORREF PixelOf(HWND window, int x, int y)
-    {
-        const HDC dc = GetDC(window);
-        const COLORREF color = GetPixel(dc, x, y);
-        ReleaseDC(window, dc);
-        return color;
-    }
+
     MessageLog log_;
     HWND top_;
     HWND child_;
+    COLORREF color_ = 0;
 };
 
 TEST_F(Painting, Invalid_IsCollectedPaintedOnceAndThenValid)
@@ -74,34 +71,30 @@ TEST_F(Painting, Children_AreInvalidWithTheirParentUnlessItClipsThem)
 
 TEST_F(Painting, DeviceContext_IsClippedToWhatCanBeSeen)
 {
-    Fill(child_, blue);
-    EXPECT_EQ(PixelOf(top_, 20, 20), blue);
-    EXPECT_EQ(PixelOf(top_, 69, 59), blue);
-    EXPECT_NE(PixelOf(top_, 70, 59), blue) << "a child draws inside itself only";
-    Fill(top_, red);
-    EXPECT_EQ(PixelOf(child_, 5, 5), red) << "a parent draws over its children";
+    const POINT inside{69, 59}, beside{70, 59};
+    EXPECT_TRUE(Draws(child_, child_, inside));
+    EXPECT_FALSE(Draws(child_, top_, beside)) << "a child draws inside itself only";
+    EXPECT_TRUE(Draws(top_, child_, inside)) << "a parent draws over its children";
     SetWindowLongW(top_, GWL_STYLE, GetWindowLongW(top_, GWL_STYLE) | static_cast<LONG>(WS_CLIPCHILDREN));
-    Fill(child_, blue);
-    Fill(top_, red);
-    EXPECT_EQ(PixelOf(child_, 5, 5), blue) << "unless it clips them";
-    EXPECT_EQ(PixelOf(top_, 5, 5), red);
+    EXPECT_FALSE(Draws(top_, child_, inside)) << "unless it clips them";
+    EXPECT_TRUE(Draws(top_, top_, beside));
     const HWND behind = log_.Create("behind", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, top_, {40, 20, 90, 60});
-    Fill(behind, red);
-    EXPECT_EQ(PixelOf(child_, 25, 5), blue) << "a sibling in front";
-    EXPECT_EQ(PixelOf(behind, 40, 5), red);
+    EXPECT_FALSE(Draws(behind, child_, inside)) << "a sibling is in front";
+    EXPECT_TRUE(Draws(behind, behind, beside));
 }
 
 TEST_F(Painting, HidingAndMoving_ExposeTheParent)
 {
-    Fill(top_, red);
-    Fill(child_, blue);
+    const auto exposed = [&](const RECT& expected) {
+        RECT area{};
+        GetUpdateRect(top_, &area, FALSE);
+        ValidateRect(top_, nullptr);
+        return EqualRect(&area, &expected) != FALSE;
+    };
     MoveWindow(child_, 120, 20, 50, 40, TRUE);
-    tests::PumpMessages(20);
-    EXPECT_EQ(PixelOf(top_, 30, 30), GetSysColor(COLOR_BTNFACE)) << "the background comes back where it was";
-    EXPECT_EQ(PixelOf(top_, 5, 5), red) << "and nowhere else";
+    EXPECT_TRUE(exposed({20, 20, 70, 60}));
     ShowWindow(child_, SW_HIDE);
-    tests::PumpMessages(20);
-    EXPECT_EQ(PixelOf(top_, 130, 30), GetSysColor(COLOR_BTNFACE));
+    EXPECT_TRUE(exposed({120, 20, 170, 60}));
 }
 
 }  // namespace

@@ -3,8 +3,8 @@
 
 #include "tests/e2e/Machine.h"
 #include "tests/e2e/Utility.h"
-#include "tests/support/ControlParent.h"
 #include "tests/support/ScratchFolder.h"
+#include "tests/support/SentMessages.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include "platform/sim/Desktop.h"
 #include "platform/sim/SimPc.h"
 #include "tests/host/Probe.h"
-#include "tests/support/ControlParent.h"
+#include "tests/support/SentMessages.h"
 
 namespace tests {
 

@@ -1,7 +1,7 @@
 #include "host/ComboBox.h"
 #include "host/MessageLoop.h"
 #include "tests/host/Probe.h"
-#include "tests/support/ControlParent.h"
+#include "tests/support/SentMessages.h"
 
 namespace tests {
 

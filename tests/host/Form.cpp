@@ -2,7 +2,7 @@
 
 #include "host/MessageLoop.h"
 #include "tests/host/Probe.h"
-#include "tests/support/ControlParent.h"
+#include "tests/support/SentMessages.h"
 
 namespace tests {
 

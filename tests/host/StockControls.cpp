@@ -3,8 +3,8 @@
 #include "host/MessageLoop.h"
 #include "host/Timer.h"
 #include "tests/host/Probe.h"
-#include "tests/support/ControlParent.h"
 #include "tests/support/MessageLog.h"
+#include "tests/support/SentMessages.h"
 
 namespace tests {
 

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -12,8 +13,8 @@ namespace tests {
 
 /// Records what its windows are sent. They are made by `Create`, of a class with a plain procedure that ends in DefWindowProcW.
 ///
-/// Left out is what Windows versions send differently or at their own pleasure: painting, texts that captions ask for, input methods,
-/// hit tests, cursors, sizes asked for. `Also` puts one of those back in.
+/// Left out is what Windows versions send differently or at their own pleasure: painting unless it is asked for, texts that captions ask
+/// for, input methods, hit tests, cursors, sizes asked for.
 class MessageLog {
 public:
     MessageLog();
@@ -22,13 +23,10 @@ public:
     MessageLog& operator=(const MessageLog&) = delete;
 
     /// Creates a window that is recorded from its first message on; `name` is its text too. NULL when Windows refuses.
-    HWND Create(const char* name, DWORD style, HWND parent = nullptr, RECT place = {40, 30, 240, 180}, DWORD exStyle = 0);
+    HWND Create(const char* name, DWORD style, HWND parent = nullptr, RECT place = {40, 30, 240, 180});
 
-    /// What a message is answered with instead of DefWindowProcW's result: WM_CREATE with -1, for instance.
-    void Answer(UINT message, LRESULT result) { answers_.push_back({message, result}); }
-    /// Something to do whenever a message arrives, after it was recorded.
-    void On(UINT message, void (*action)(HWND window)) { actions_.push_back({message, action}); }
-    void Also(UINT message) { also_.push_back(message); }
+    /// From now on painting and erasing are recorded too.
+    void WithPainting() { paints_ = true; }
 
     void Clear() { messages_.clear(); }
 
@@ -40,20 +38,12 @@ public:
 
 private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    [[nodiscard]] bool Wanted(UINT message) const;
-    [[nodiscard]] std::string NameOf(HWND window) const;
 
-    struct Window {
-        HWND handle;
-        std::string name;
-    };
-    std::vector<Window> windows_;
+    std::map<HWND, std::string> windows_;
     std::string creating_;
     /// Each as "window MESSAGE" and, where the order of things depends on it, its wParam.
     std::vector<std::pair<UINT, std::string>> messages_;
-    std::vector<std::pair<UINT, LRESULT>> answers_;
-    std::vector<std::pair<UINT, void (*)(HWND)>> actions_;
-    std::vector<UINT> also_;
+    bool paints_ = false;
 };
 
 /// Handles everything that waits for the thread, then for so many milliseconds what else comes. On the stand-in PC the clock is turned.

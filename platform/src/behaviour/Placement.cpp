@@ -181,8 +181,7 @@ MINMAXINFO AskMinMax(const Window& window)
 
 namespace inner {
 
-/// What is told, and when: conformance test WindowPlacement.SizeAndMove_FollowFromWhatChanged. What has to be painted afterwards:
-/// Painting.HidingAndMoving_ExposeTheParent.
+/// What has to be painted afterwards: conformance test Painting.HidingAndMoving_ExposeTheParent.
 BOOL SetWindowPos(HWND handle, HWND insertAfter, int x, int y, int width, int height, UINT flags)
 {
     const WindowPtr window = RequireWindow(handle);

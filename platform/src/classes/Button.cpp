@@ -108,7 +108,7 @@ LRESULT Button::HandleMouse(UINT message, WPARAM wParam, LPARAM lParam)
     }
 }
 
-/// Conformance test Button.SpaceBar_ClicksWhenItIsReleased.
+/// The space bar clicks when it is let go, as the mouse does.
 LRESULT Button::HandleKey(UINT message, WPARAM key, LPARAM lParam)
 {
     if (message == WM_KEYDOWN) {
@@ -156,7 +156,8 @@ void Button::Press()
     SetState(0, BST_PUSHED);
 }
 
-/// A check box of this kind leaves its check to its owner: conformance test Button.Click_GivesTheFocusFirstAndLeavesTheCheck.
+/// A check box of this kind leaves its check to its owner: conformance test
+/// SystemControls.PressedButton_TakesFocusAndMouseClicksWhenLetGoAndLeavesTheCheck.
 void Button::Release(bool click)
 {
     pressing_ = bySpace_ = false;  // Before the capture goes, whose loss would take a press back.

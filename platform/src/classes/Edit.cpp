@@ -253,7 +253,7 @@ void Edit::Arrange()
                                        {client.left + 1, client.top + 1, client.right - 1, client.bottom - 1}});
 }
 
-/// Which colours are asked for: conformance test Edit.ColorsAreAskedAsEditWhileItCanBeTypedInto.
+/// Which colours are asked for: conformance test SystemControls.ColorsAreAskedAsEdit_WhileOneCanTypeIntoIt.
 void Edit::Paint(HDC dc)
 {
     const HBRUSH background = AskColors(readOnly_ || !Enabled() ? WM_CTLCOLORSTATIC : WM_CTLCOLOREDIT, dc);

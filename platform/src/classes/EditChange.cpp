@@ -10,8 +10,7 @@ void Edit::SetText(const char16_t* text)
     text_.Assign(Cased(text ? text : u""));
     Arrange();
     Repaint();
-    // An Edit with many lines keeps silent about text that it is given as a whole: conformance test
-    // Edit.SettingTheText_IsToldByASingleLineOnly.
+    // An Edit with many lines keeps silent about text that it is given as a whole.
     if (multiLine_)
         return;
     Notify(EN_UPDATE);
@@ -44,7 +43,6 @@ void Edit::Undo()
         Changed();
 }
 
-/// Conformance test Edit.TypingAndReplacing_IsToldByBothKinds.
 void Edit::Changed()
 {
     Arrange();

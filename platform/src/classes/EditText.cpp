@@ -72,7 +72,6 @@ void EditText::Remember(std::size_t start, std::u16string deleted, std::size_t i
     undo_ = {true, start, inserted, std::move(deleted)};
 }
 
-/// Conformance test Edit.Undo_TakesBackARunOfTypingAndThenItself.
 bool EditText::Undo()
 {
     if (!undo_.valid)

@@ -24,7 +24,7 @@ struct Hit {
 };
 
 /// Windows at a point, the deepest and topmost first, each before the one that lies below it. A disabled child lets the mouse through to
-/// its parent: conformance test Input.DisabledChild_LetsTheMouseThrough.
+/// its parent.
 void Collect(const std::vector<Window*>& siblings, POINT point, bool topLevel, std::vector<WindowPtr>& into)
 {
     for (Window* window : siblings) {
