@@ -51,29 +51,6 @@ TEST_F(Form1Agent, StartedAndClosed_TurnsTheButtonsAround)
     EXPECT_TRUE(The<Processes>().Running(exe).empty());
 }
 
-TEST_F(Form1Agent, StartWhileItRuns_OnlyDisablesTheButton)
-{
-    ASSERT_TRUE(Open());
-    The<Processes>().Launch(exe);
-    pc.Advance(700);
-    ExpectButtons(true, false);
-    Click(TEXT("CommandStartVelmora"));
-    EXPECT_EQ(Launches(), 0u);
-    EXPECT_FALSE(Enabled(TEXT("CommandStartVelmora")));
-}
-
-TEST_F(Form1Agent, ExecutableGone_LeavesTheButtonEnabled)
-{
-    ASSERT_TRUE(Open());
-    The<Volumes>().Remove(exe);
-    Click(TEXT("CommandStartVelmora"));
-    ExpectButtons(true, false);
-    EXPECT_EQ(Launches(), 0u);
-    The<Volumes>().WriteFile(exe, "");
-    Click(TEXT("CommandStartVelmora"));
-    EXPECT_EQ(Launches(), 1u) << "it is back";
-}
-
 TEST_F(Form1Agent, OwnWindowOfThatTitle_IsNoAgent)
 {
     ASSERT_TRUE(Open());

@@ -102,6 +102,7 @@ TEST_F(Form1Notices, FailedClick_IsExplainedUntilItComesTrueOrTheUserActs)
             scene();
             Click(button);
             EXPECT_EQ(Said(), said);
+            EXPECT_TRUE(Enabled(button)) << "to be tried again";
             EXPECT_EQ(GetForegroundWindow(), Form().hWnd());
             EXPECT_NE(GetFocus(), Balloon());
             pc.Advance(1900);
@@ -168,6 +169,8 @@ TEST_F(Form1Notices, AgentThatRunsAlready_IsSaid)
     pc.Advance(700);
     Click(TEXT("CommandStartVelmora"));
     EXPECT_EQ(Said(), u"Start Velmora|Velmora is already running.");
+    EXPECT_FALSE(Enabled(TEXT("CommandStartVelmora")));
+    EXPECT_TRUE(The<Processes>().Requests().empty());
     Click(TEXT("CommandCloseVelmora"));
     EXPECT_EQ(Balloon(), nullptr);
 }

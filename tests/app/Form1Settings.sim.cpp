@@ -106,7 +106,6 @@ TEST_F(Form1Settings, AutoStartValues_CheckTheirBoxes)
         RegistryValue value;
         int autoStart, hide, sound;
     } cases[] = {
-        {TextValue(u"\"C:\\Tools\\Velmora.exe\""), 1, 0, 0},
         {TextValue(u"\"C:\\Tools\\Velmora.exe\" /Hidden"), 1, 1, 0},
         {TextValue(u"\"C:\\Tools\\Velmora.exe\" /soundstart"), 1, 0, 1},
         {TextValue(u"x/HIDDENy/SOUNDSTARTz", REG_EXPAND_SZ), 1, 1, 1},
