@@ -39,7 +39,6 @@ TEST_F(Form1Agent, StartedAndClosed_TurnsTheButtonsAround)
     const auto& request = The<Processes>().Requests()[0];
     EXPECT_EQ(request.commandLine, exe);
     EXPECT_EQ(request.folder, u"C:\\Tools\\");
-    EXPECT_EQ(request.flags, 32u);
     EXPECT_EQ(request.showWindow, SW_SHOWNORMAL);
     ExpectButtons(false, false);
     pc.Advance(2000);

@@ -101,7 +101,6 @@ TEST_F(Form1Settings, NoUsableFolder_LosesThePasswordSilently)
 
 TEST_F(Form1Settings, AutoStartValues_CheckTheirBoxes)
 {
-    const std::string zeros(2000, '\0');
     const struct {
         RegistryValue value;
         int autoStart, hide, sound;
@@ -110,11 +109,8 @@ TEST_F(Form1Settings, AutoStartValues_CheckTheirBoxes)
         {TextValue(u"\"C:\\Tools\\Velmora.exe\" /soundstart"), 1, 0, 1},
         {TextValue(u"x/HIDDENy/SOUNDSTARTz", REG_EXPAND_SZ), 1, 1, 1},
         {TextValue(u""), 1, 0, 0},
-        {NumberValue(1), 1, 0, 0},
         {RegistryValue{REG_BINARY, "/\0H\0i\0d\0d\0e\0n\0"}, 1, 0, 0},
-        {TextValue(std::u16string(u" /Hidden").append(503, u'x')), 1, 1, 0},  // 1024 bytes
-        {TextValue(std::u16string(u" /Hidden").append(504, u'x')), 0, 0, 0},
-        {RegistryValue{REG_BINARY, zeros}, 0, 0, 0},
+        {TextValue(std::u16string(u" /Hidden").append(504, u'x')), 0, 0, 0},  // too long to be read
     };
     for (const auto& c : cases) {
         The<Registry>().Set(HKEY_LOCAL_MACHINE, runKey, u"Velmora", c.value);

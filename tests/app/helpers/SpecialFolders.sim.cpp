@@ -22,8 +22,6 @@ TEST_F(SpecialFolders, EndAsAsked)
     EXPECT_EQ(GetSpecialFolder(CSIDL_APPDATA, true, true), TEXT("C:\\Users\\Anna\\AppData\\Roaming\\"));
     EXPECT_EQ(GetSpecialFolder(CSIDL_APPDATA, false, true), TEXT("C:\\Users\\Anna\\AppData\\Roaming"));
     EXPECT_EQ(GetSpecialFolder(helpers::temporaryFolder, false, true), TEXT("C:\\Users\\Anna\\AppData\\Local\\Temp"));
-    pc.Get<Folders>().Path(CSIDL_APPDATA, u"");
-    EXPECT_EQ(GetSpecialFolder(CSIDL_APPDATA, true, true), TEXT(""));
 }
 
 TEST_F(SpecialFolders, SystemFolder_IsRedirectedFor32BitProgramsOn64Bits)
