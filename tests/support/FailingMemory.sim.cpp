@@ -11,7 +11,8 @@ bool struck = false;
 
 }  // namespace
 
-// Every form of the two is replaced, so that what one gives another can take, also under the sanitizers, which bring their own.
+// Every form for a single object is replaced, so that what one gives another can take, also under the sanitizers, which bring their own.
+// Those for arrays are a pair by themselves.
 
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
@@ -29,16 +30,6 @@ void* operator new(std::size_t size)
     throw std::bad_alloc();
 }
 
-void* operator new[](std::size_t size)
-{
-    return operator new(size);
-}
-
-void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
-{
-    return operator new(size, std::nothrow);
-}
-
 void operator delete(void* memory) noexcept
 {
     std::free(memory);
@@ -50,16 +41,6 @@ void operator delete(void* memory, std::size_t) noexcept
 }
 
 void operator delete(void* memory, const std::nothrow_t&) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete[](void* memory) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete[](void* memory, std::size_t) noexcept
 {
     std::free(memory);
 }
