@@ -1,87 +1,59 @@
-// A stranger's hands: clicks on what is off, the other mouse button, buttons let go elsewhere.
+// A stranger's hands: clicks on what is off, and the other mouse button.
 #include "tests/e2e/EndToEnd.h"
 #include "tests/support/UserInput.h"
 
 namespace e2e {
 
-class Hands : public EndToEnd {
-protected:
-    void SetUp() override
-    {
-        EndToEnd::SetUp();
-        utility_.emplace(exe_);
-        ASSERT_TRUE(utility_->Opened());
-    }
-    void TearDown() override
-    {
-        utility_.reset();
-        EndToEnd::TearDown();
-    }
-    [[nodiscard]] bool IsFocused(const char* name) const
-    {
-        return Eventually([&] { return utility_->HasFocus(name); });
-    }
-    [[nodiscard]] base::String TextOf(const char* name) const
-    {
-        WCHAR text[99]{};
-        SendMessageW(utility_->Shown(name), WM_GETTEXT, std::size(text), reinterpret_cast<LPARAM>(text));
-        return text;
-    }
+namespace {
 
-    std::optional<Utility> utility_;
-};
-
-TEST_F(Hands, ClickOnWhatIsOff_LeavesFocusAndTextAlone)
+bool ComesTo(const Utility& utility, const char* name)
 {
-    utility_->Press({VK_TAB});
-    ASSERT_TRUE(IsFocused("CheckAutoStart"));
-    for (const char* const name : {"txtAccount", "txtPassword", "CheckHideTrayIcon", "cmdStart", "CommandCloseVelmora"}) {
-        ASSERT_FALSE(utility_->Enabled(name)) << name;
-        utility_->Click(name);
-        utility_->Press({'X'});
-        utility_->Press({'Y'});
-        EXPECT_TRUE(IsFocused("CheckAutoStart")) << name;
-    }
-    EXPECT_EQ(TextOf("txtAccount"), TEXT("LocalSystem"));
-    EXPECT_EQ(TextOf("txtPassword"), TEXT(""));
-    EXPECT_FALSE(utility_->Checked("CheckHideTrayIcon"));
-    utility_->Press({VK_TAB});
-    EXPECT_TRUE(IsFocused("cmdInstall"));
+    return Eventually([&] { return utility.HasFocus(name); });
 }
 
-TEST_F(Hands, RightClickAndItsMenu_LeaveTheKeyboardWorking)
+}  // namespace
+
+TEST_F(EndToEnd, ClickOnWhatIsOff_LeavesFocusAndTextAlone)
 {
-    utility_->Press({VK_TAB});
-    ASSERT_TRUE(IsFocused("CheckAutoStart"));
+    Utility utility(exe_);
+    ASSERT_TRUE(utility.Opened());
+    utility.Press({VK_TAB});
+    ASSERT_TRUE(ComesTo(utility, "CheckAutoStart"));
+    for (const char* const name : {"txtAccount", "txtPassword", "CheckHideTrayIcon", "cmdStart", "CommandCloseVelmora"}) {
+        ASSERT_FALSE(utility.Enabled(name)) << name;
+        utility.Click(name);
+        utility.Press({'X'});
+        utility.Press({'Y'});
+        EXPECT_TRUE(ComesTo(utility, "CheckAutoStart")) << name;
+    }
+    EXPECT_EQ(tests::TextOf(utility.Shown("txtAccount")), TEXT("LocalSystem"));
+    EXPECT_EQ(tests::TextOf(utility.Shown("txtPassword")), TEXT(""));
+    EXPECT_FALSE(utility.Checked("CheckHideTrayIcon"));
+    utility.Press({VK_TAB});
+    EXPECT_TRUE(ComesTo(utility, "cmdInstall"));
+}
+
+TEST_F(EndToEnd, RightClickAndItsMenu_LeaveTheKeyboardWorking)
+{
+    Utility utility(exe_);
+    ASSERT_TRUE(utility.Opened());
+    utility.Press({VK_TAB});
+    ASSERT_TRUE(ComesTo(utility, "CheckAutoStart"));
     const RECT box = DesignOf("TextPassword").place;
-    tests::MoveMouse(utility_->Window(), box.left + 20, (box.top + box.bottom) / 2);
+    tests::MoveMouse(utility.Window(), box.left + 20, (box.top + box.bottom) / 2);
     tests::MouseButton(MOUSEEVENTF_RIGHTDOWN);
     tests::MouseButton(MOUSEEVENTF_RIGHTUP);
     ASSERT_TRUE(Eventually([] { return FindWindowW(TEXT("#32768"), nullptr) != nullptr; })) << "the edit's menu";
     tests::PressKey(VK_ESCAPE);
     ASSERT_TRUE(Eventually([] { return FindWindowW(TEXT("#32768"), nullptr) == nullptr; }));
-    ASSERT_TRUE(utility_->Responds());
+    ASSERT_TRUE(utility.Responds());
     // Wherever the menu left the focus, Tab gets on, and to the window that takes keys.
-    utility_->Press({VK_TAB});
-    if (!IsFocused("CheckAutoStart"))
-        utility_->Press({VK_SHIFT, VK_TAB});
-    ASSERT_TRUE(IsFocused("CheckAutoStart"));
-    utility_->Press({VK_SPACE});
-    EXPECT_TRUE(Eventually([&] { return utility_->Checked("CheckAutoStart"); }));
-}
-
-TEST_F(Hands, ButtonLetGoElsewhere_TogglesNothing)
-{
-    const RECT check = DesignOf("CheckAutoStart").place;
-    tests::MoveMouse(utility_->Window(), check.left + 8, (check.top + check.bottom) / 2);
-    tests::MouseButton(MOUSEEVENTF_LEFTDOWN);
-    tests::MoveMouse(utility_->Window(), check.left + 60, check.bottom + 90);
-    tests::MouseButton(MOUSEEVENTF_LEFTUP);
-    utility_->Press({VK_SHIFT});
-    EXPECT_TRUE(utility_->Responds());
-    EXPECT_FALSE(utility_->Checked("CheckAutoStart"));
-    utility_->Click("CheckAutoStart");
-    EXPECT_TRUE(Eventually([&] { return utility_->Checked("CheckAutoStart"); }));
+    utility.Press({VK_TAB});
+    if (!ComesTo(utility, "CheckAutoStart"))
+        utility.Press({VK_SHIFT, VK_TAB});
+    ASSERT_TRUE(ComesTo(utility, "CheckAutoStart"));
+    utility.Press({VK_SPACE});
+    EXPECT_TRUE(Eventually([&] { return utility.Checked("CheckAutoStart"); }));
 }
 
 }  // namespace e2e

@@ -48,34 +48,6 @@ TEST_F(EndToEnd, Service_InstalledAsChosenAndUninstalled)
     EXPECT_TRUE(utility.Enabled("CheckAutoStart") && utility.Enabled("ComboStartup") && utility.Enabled("txtAccount"));
 }
 
-TEST_F(EndToEnd, Service_InstalledAndUninstalledWithTheKeyboardAlone)
-{
-    Utility utility(exe_);
-    ASSERT_TRUE(utility.Opened());
-    // From wherever the focus is: F6 goes from frame to frame, Tab from control to control inside one.
-    const auto go = [&](WORD key, const char* name) {
-        for (int i = 0; i < 8 && !utility.HasFocus(name); ++i) {
-            utility.Press({key});
-            (void)Eventually([&] { return utility.HasFocus(name); }, Milliseconds(300));
-        }
-        EXPECT_TRUE(utility.HasFocus(name)) << name << ": " << utility.Situation();
-    };
-    go(VK_F6, "cmdInstall");
-    go(VK_TAB, "ComboStartup");
-    utility.Press({VK_DOWN});
-    ASSERT_TRUE(Eventually([&] { return utility.Selected("ComboStartup") == 1; }));
-    go(VK_F6, "cmdInstall");
-    utility.Press({VK_SPACE});
-    ASSERT_TRUE(Eventually([] { return InstalledService().has_value(); })) << utility.Situation();
-    EXPECT_EQ(InstalledService().value().startType, static_cast<DWORD>(SERVICE_DEMAND_START));
-    ASSERT_TRUE(Eventually([&] { return PanelOf(utility) == "stopped"; }));
-    EXPECT_TRUE(utility.HasFocus("cmdInstall")) << utility.Situation();
-    utility.Press({VK_SPACE});
-    ASSERT_TRUE(Eventually([&] { return PanelOf(utility) == "not installed" && !InstalledService(); })) << utility.Situation();
-    utility.Press({VK_ESCAPE});
-    EXPECT_TRUE(utility.Ended());
-}
-
 TEST_F(EndToEnd, Service_StartedAndStoppedByItsButton_AndFollowedWhateverOthersDo)
 {
     ASSERT_TRUE(InstallService(agent_, SERVICE_DISABLED));
@@ -90,14 +62,14 @@ TEST_F(EndToEnd, Service_StartedAndStoppedByItsButton_AndFollowedWhateverOthersD
 
     utility.Enter("TextPassword", TEXT("abc"));
     utility.Click("cmdStart");
-    ASSERT_TRUE(Eventually([&] { return ServiceState() == SERVICE_RUNNING; })) << utility.Situation();
+    ASSERT_TRUE(Eventually([&] { return ServiceState() == SERVICE_RUNNING; }));
     EXPECT_EQ(tests::BytesOf(settings_), "[Settings]\r\nPwd=AYWJj\r\n");
     EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "running"; }, serviceTick));
     EXPECT_EQ(tests::BytesOf(log_), "service running\r\n");
-    EXPECT_TRUE(Eventually([&] { return utility.HasFocus("cmdStart"); })) << utility.Situation();
+    EXPECT_TRUE(Eventually([&] { return utility.HasFocus("cmdStart"); }));
 
     utility.Click("cmdStart");
-    ASSERT_TRUE(Eventually([&] { return ServiceState() == SERVICE_STOPPED; })) << utility.Situation();
+    ASSERT_TRUE(Eventually([&] { return ServiceState() == SERVICE_STOPPED; }));
     EXPECT_TRUE(Eventually([&] { return PanelOf(utility) == "stopped"; }, serviceTick));
 
     // Windows starts one service at a time and refuses while it is at another.

@@ -7,18 +7,6 @@
 
 namespace e2e {
 
-namespace {
-
-GUITHREADINFO ThreadOf(HWND window)
-{
-    GUITHREADINFO info{};
-    info.cbSize = sizeof info;
-    GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
-    return info;
-}
-
-}  // namespace
-
 Utility::Utility(const base::String& exe) : process_(Launch(exe)) {}
 
 Utility::~Utility()
@@ -67,23 +55,10 @@ int Utility::PlacesOf(base::StringView text) const
 
 bool Utility::HasFocus(std::string_view name) const
 {
-    const HWND focus = ThreadOf(window_).hwndFocus;
-    return focus && focus == Shown(name);
-}
-
-std::string Utility::Situation() const
-{
-    const auto nameOf = [this](HWND window) -> std::string {
-        for (const Designed& control : Design())
-            if (window && control.kind != "Timer" && (window == Own(control.name) || window == Shown(control.name)))
-                return control.name + (IsWindowEnabled(window) ? "" : " (disabled)");
-        return !window ? "nothing" : window == window_ ? "the window" : "something else";
-    };
-    const GUITHREADINFO info = ThreadOf(window_);
-    POINT mouse{};
-    GetCursorPos(&mouse);
-    return "focus on " + nameOf(info.hwndFocus) + ", capture by " + nameOf(info.hwndCapture) + ", mouse over " +
-           nameOf(WindowFromPoint(mouse)) + ", in front " + nameOf(GetForegroundWindow());
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetWindowThreadProcessId(window_, nullptr), &info);
+    return info.hwndFocus && info.hwndFocus == Shown(name);
 }
 
 HWND Utility::FindTopLevel(const WCHAR* className) const

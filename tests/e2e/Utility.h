@@ -47,8 +47,6 @@ public:
 
     /// Whether the keyboard goes to what a person sees of it.
     [[nodiscard]] bool HasFocus(std::string_view name) const;
-    /// Focus, capture, what is below the mouse and what is in front: for the words of a failure.
-    [[nodiscard]] std::string Situation() const;
 
     // What a person does. Every one of them brings the window to the front first.
 
