@@ -51,15 +51,4 @@ TEST_F(Extender, FormInPixels_PlacesItsOwnControlsInPixelsAndInnerOnesInTwips)
     EXPECT_NE(form->Write().find("ScaleMode = 3\n"), std::string::npos);
 }
 
-TEST_F(Extender, ZOrder_RaisesAndLowersTheWindow)
-{
-    Open("Form F { ClientWidth = 4500 ClientHeight = 3000 Probe A { TabIndex = 0 } Probe B { TabIndex = 1 } Probe C { TabIndex = 2 } }");
-    const std::tuple<const WCHAR*, int, const WCHAR*> moves[] = {
-        {TEXT("B"), 0, TEXT("B")}, {TEXT("C"), 0, TEXT("C")}, {TEXT("C"), 1, TEXT("B")}};
-    for (const auto& [moved, place, topmost] : moves) {
-        ExtenderOf(moved).ZOrder(place);
-        EXPECT_EQ(GetWindow(form->hWnd(), GW_CHILD), WindowOf(topmost));
-    }
-}
-
 }  // namespace tests

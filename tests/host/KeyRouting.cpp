@@ -49,14 +49,13 @@ TEST_F(KeyRouting, Preview_SeesKeysFirstAndMayChangeOrSwallowThem)
     EXPECT_EQ(log.Take(), (Lines{"Form.KeyDown 65", "Form.KeyUp 65"}));
     form->changeKey = nullptr;
     form->KeyPreview(false);
-    ProbeNamed(TEXT("Plain")).replaceKeyBy = -1;
+    ProbeNamed(TEXT("Plain")).swallowsKeys = true;
     Press('A');
     EXPECT_EQ(log.Take(), (Lines{"Plain.KeyDown 65", "Plain.KeyPress 97", "Plain.KeyUp 65"}));
 }
 
 TEST_F(KeyRouting, EnterAndEsc_PressTheButtonsThatTheFormNames)
 {
-    form->KeyPreview(false);
     Open(keyboard);
     form->KeyPreview(false);
     const auto pressedBy = [&](base::StringView focused, int key, int shift = 0) {

@@ -27,8 +27,8 @@ void Probe::NoteMouse(const char* what, std::int16_t button, std::int16_t shift,
 void Probe::NoteKey(const char* what, std::int16_t& code, std::int16_t shift)
 {
     Note(std::string(what) + " " + std::to_string(code) + (shift != 0 ? " " + std::to_string(shift) : ""));
-    if (replaceKeyBy != 0)
-        code = replaceKeyBy > 0 ? replaceKeyBy : std::int16_t{0};
+    if (swallowsKeys)
+        code = 0;
 }
 
 void Probe::UserControl_ReadProperties(const host::PropertyBag& bag)

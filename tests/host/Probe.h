@@ -39,8 +39,7 @@ public:
 
     int paints = 0;
     std::function<void()> whenPainting;
-    /// Set in KeyDown and KeyPress; 0 leaves the code as it is, -1 makes it 0.
-    std::int16_t replaceKeyBy = 0;
+    bool swallowsKeys = false;
 
 private:
     void Note(const std::string& what) { log_.Add(Narrow(GetExtender().Name()) + "." + what); }

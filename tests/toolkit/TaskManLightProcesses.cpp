@@ -27,12 +27,6 @@ protected:
         EXPECT_EQ(count, std::ssize(all));
         return std::count(all.begin(), all.end(), process) == 1;
     }
-    static String ModuleName(HANDLE process)
-    {
-        WCHAR name[MAX_PATH]{};
-        GetModuleFileNameExW(process, nullptr, name, MAX_PATH);
-        return name;
-    }
 
     toolkit::TaskManLight tools;
 };
@@ -110,7 +104,9 @@ TEST_F(TaskManLightProcesses, WindowHandle_OpensItsProcess)
 TEST_F(TaskManLightProcesses, Paths_AgreeInAllTheirForms)
 {
     const HelperProcess helper("");
-    const String path = ModuleName(helper.Handle());
+    WCHAR name[MAX_PATH]{};
+    GetModuleFileNameExW(helper.Handle(), nullptr, name, MAX_PATH);
+    const String path = name;
     ASSERT_TRUE(path.ends_with(TEXT("\\toolkit_helper.exe")));
     EXPECT_EQ(tools.GetPathFromPID(helper.Id()), path);
     EXPECT_TRUE(tools.GetNTPathFromPID(helper.Id()).starts_with(TEXT("\\Device\\")));
