@@ -50,7 +50,7 @@ public:
     }
     /// The agent's settings file beside the utility; empty when there is none.
     [[nodiscard]] std::optional<std::string> Settings(std::u16string_view path = u"C:\\Tools\\Velmora.ini");
-    void WriteSettings(std::string_view bytes, std::u16string_view path = u"C:\\Tools\\Velmora.ini");
+    void WriteSettings(std::string_view bytes);
     /// The auto-start value.
     [[nodiscard]] std::optional<std::u16string> AutoStart();
     void SetAutoStart(std::u16string_view text);

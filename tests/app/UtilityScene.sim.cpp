@@ -70,9 +70,9 @@ std::optional<std::string> UtilityScene::Settings(std::u16string_view path)
     return The<Volumes>().ReadFile(path);
 }
 
-void UtilityScene::WriteSettings(std::string_view bytes, std::u16string_view path)
+void UtilityScene::WriteSettings(std::string_view bytes)
 {
-    The<Volumes>().WriteFile(path, bytes);
+    The<Volumes>().WriteFile(u"C:\\Tools\\Velmora.ini", bytes);
 }
 
 std::optional<std::u16string> UtilityScene::AutoStart()

@@ -39,22 +39,10 @@ TEST(MessageQueue, PostedComeBeforeQuitBeforePaint)
     EXPECT_FALSE(GetMessageW(&message, nullptr, 0, 0)) << "a posted one ends the loop as well";
 }
 
-TEST(Timer, FiresAfterEachPeriodAndOnlyWhenNothingElseWaits)
+TEST(MessageQueue, PeriodsThatPassUnheard_AreOneTimerMessageAfterThePosted)
 {
     MessageLog log;
     const HWND window = log.Create("top", WS_POPUP);
-    log.Clear();
-    EXPECT_NE(SetTimer(window, 7, 50, nullptr), 0u);
-    tests::PumpMessages(10);
-    EXPECT_TRUE(log.Is({})) << "too early";
-    tests::PumpMessages(165);
-    EXPECT_TRUE(log.Is({"top WM_TIMER 7", "top WM_TIMER 7", "top WM_TIMER 7"}));
-    EXPECT_TRUE(KillTimer(window, 7));
-    EXPECT_FALSE(KillTimer(window, 7));
-    tests::PumpMessages(120);
-    EXPECT_TRUE(log.Is({}));
-
-    // Periods that pass unheard become one message, and a posted message comes first.
     SetTimer(window, 8, 20, nullptr);
     const DWORD start = GetTickCount();
     while (GetTickCount() - start < 100)

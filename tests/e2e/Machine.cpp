@@ -72,11 +72,6 @@ bool ChangeServiceStartType(DWORD startType)
                                 nullptr, nullptr);
 }
 
-bool StartInstalledService()
-{
-    return StartServiceW(OpenInstalled(SERVICE_START).Get(), 0, nullptr);
-}
-
 bool RemoveService()
 {
     // A service that is starting takes no stop request until it runs.

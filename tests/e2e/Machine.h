@@ -23,7 +23,6 @@ struct ServiceFacts {
 [[nodiscard]] DWORD ServiceState();
 bool InstallService(const base::String& exe, DWORD startType);
 bool ChangeServiceStartType(DWORD startType);
-bool StartInstalledService();
 /// Stops it when it runs, deletes it and waits until it is gone.
 bool RemoveService();
 

@@ -6,27 +6,23 @@
 #include <windows.h>
 
 #include <memory>
-#include <string>
-#include <string_view>
 
 namespace tests {
 
 /// Where the utility stands on the stand-in PC.
 inline constexpr const char16_t* utilityPath = u"C:\\Tools\\Velmora Setup Utility.exe";
 
-/// How the agents of one executable behave; may be changed before one starts and while one runs.
+/// How the agents behave; may be changed before one starts and while one runs.
 struct AgentHabits {
-    /// Milliseconds from the launch until its windows are there.
-    std::uint64_t windowDelay = 500;
-    std::u16string mainTitle = u"Velmora";
     /// It stays when it is asked to close.
     bool ignoresClose = false;
 };
 
+/// Its windows are there 500 milliseconds after its launch.
 class AgentProgram : public platform::Program {
 public:
-    /// Puts an agent executable onto the PC. The habits are shared by all processes that it starts.
-    static std::shared_ptr<AgentHabits> Install(platform::SimPc& pc, std::u16string_view path = u"C:\\Tools\\Velmora.exe");
+    /// Puts the agent beside the utility. The habits are shared by all processes that it starts.
+    static std::shared_ptr<AgentHabits> Install(platform::SimPc& pc);
 
     AgentProgram(platform::SimPc& pc, DWORD processId, std::shared_ptr<AgentHabits> habits);
     void Start() override;

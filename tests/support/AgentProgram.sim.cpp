@@ -14,10 +14,11 @@ constexpr const WCHAR* identification = u"VELMORA-IDENTIFICATION-WINDOW";
 
 }  // namespace
 
-std::shared_ptr<AgentHabits> AgentProgram::Install(SimPc& pc, std::u16string_view path)
+std::shared_ptr<AgentHabits> AgentProgram::Install(SimPc& pc)
 {
     auto habits = std::make_shared<AgentHabits>();
-    pc.Get<Processes>().AddProgram(path, [&pc, habits](DWORD processId) { return std::make_shared<AgentProgram>(pc, processId, habits); });
+    pc.Get<Processes>().AddProgram(u"C:\\Tools\\Velmora.exe",
+                                   [&pc, habits](DWORD processId) { return std::make_shared<AgentProgram>(pc, processId, habits); });
     return habits;
 }
 
@@ -28,7 +29,7 @@ AgentProgram::AgentProgram(SimPc& pc, DWORD processId, std::shared_ptr<AgentHabi
 
 void AgentProgram::Start()
 {
-    pc_.Clock().Schedule(habits_->windowDelay, [this, process = pc_.Get<Processes>().Find(processId_)] {
+    pc_.Clock().Schedule(500, [this, process = pc_.Get<Processes>().Find(processId_)] {
         if (process->Runs())
             pc_.ActAs(process->MainActor(), [this] { OpenWindows(); });
     });
@@ -41,8 +42,8 @@ void AgentProgram::OpenWindows()
     windowClass.lpfnWndProc = &AgentProgram::Procedure;
     windowClass.lpszClassName = className;
     RegisterClassExW(&windowClass);
-    const HWND main = CreateWindowExW(0, className, habits_->mainTitle.c_str(), WS_OVERLAPPEDWINDOW | WS_VISIBLE, 60, 60, 300, 200, nullptr,
-                                      nullptr, nullptr, nullptr);
+    const HWND main = CreateWindowExW(0, className, TEXT("Velmora"), WS_OVERLAPPEDWINDOW | WS_VISIBLE, 60, 60, 300, 200, nullptr, nullptr,
+                                      nullptr, nullptr);
     // The identification window belongs to the main one, so that it is never taken for the main window itself.
     CreateWindowExW(0, className, identification, WS_POPUP, 0, 0, 1, 1, main, nullptr, nullptr, nullptr);
 }

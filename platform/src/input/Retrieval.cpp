@@ -79,7 +79,8 @@ bool TakeTimer(ThreadQueue& queue, MSG& message, const MessageFilter& filter, bo
 
 }  // namespace
 
-/// The order: conformance tests MessageQueue.PostedComeBeforeQuitBeforePaint and Timer.FiresAfterEachPeriodAndOnlyWhenNothingElseWaits.
+/// The order: conformance tests MessageQueue.PostedComeBeforeQuitBeforePaint and
+/// PeriodsThatPassUnheard_AreOneTimerMessageAfterThePosted.
 bool Retrieve(ThreadQueue& queue, MSG& message, const MessageFilter& filter, bool remove)
 {
     queue.fresh = 0;
