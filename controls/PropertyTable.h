@@ -3,10 +3,10 @@
 
 #include "host/PropertyBag.h"
 
-#include <functional>
-#include <memory>
+#include <cstring>
+#include <exception>
+#include <initializer_list>
 #include <type_traits>
-#include <utility>
 #include <vector>
 
 namespace controls {
@@ -14,185 +14,190 @@ namespace controls {
 /// Whether a value that equals its default is stored too.
 enum class WhenDefault { LeftOut, Stored };
 
-/// One stored property. What differs from row to row are pointers, not types: a control has some forty of them.
-template <class Control>
-class PropertyRow {
+/// A pointer or a number whose type only its giver and its user know.
+class Erased {
 public:
-    PropertyRow(const WCHAR* key, WhenDefault whenDefault) : key_(key), whenDefault_(whenDefault) {}
-    virtual ~PropertyRow() = default;
-    virtual void Read(Control& control, const host::PropertyBag& bag) const = 0;
-    virtual void Write(Control& control, host::PropertyBag& bag) const = 0;
-    [[nodiscard]] base::StringView Key() const { return key_; }
-
-protected:
-    const WCHAR* const key_;
-    const WhenDefault whenDefault_;
-};
-
-/// A row's key, and the key of the row that it is written before; empty where it is written in its turn.
-struct WrittenRow {
-    base::StringView key;
-    base::StringView before;
-};
-/// The places of the rows in the order of writing. Throws std::invalid_argument for a key that no row has which is written in its turn.
-std::vector<std::size_t> WriteOrder(const std::vector<WrittenRow>& rows);
-
-/// The rows stand in the order in which they are read. Most are written in the same order; a row may say which one it is written before.
-template <class Control>
-class PropertyTable {
-public:
-    struct Row {
-        explicit Row(std::shared_ptr<const PropertyRow<Control>> row) : property(std::move(row)) {}
-        Row WrittenBefore(base::StringView key) const
-        {
-            Row row = *this;
-            row.before = key;
-            return row;
-        }
-
-        std::shared_ptr<const PropertyRow<Control>> property;
-        base::StringView before;
-    };
-
-    PropertyTable(std::initializer_list<Row> rows)
+    Erased() = default;
+    template <class T>
+    explicit Erased(T value)
     {
-        std::vector<WrittenRow> written;
-        for (const Row& row : rows) {
-            rows_.push_back(row.property);
-            written.push_back({row.property->Key(), row.before});
-        }
-        writeOrder_ = WriteOrder(written);
+        static_assert(sizeof value <= sizeof bytes_ && std::is_trivially_copyable_v<T>);
+        std::memcpy(bytes_, &value, sizeof value);
     }
-
-    void Read(Control& control, const host::PropertyBag& bag) const
+    template <class T>
+    [[nodiscard]] T As() const
     {
-        for (const auto& row : rows_)
-            row->Read(control, bag);
-    }
-
-    void Write(Control& control, host::PropertyBag& bag) const
-    {
-        for (const std::size_t index : writeOrder_)
-            rows_[index]->Write(control, bag);
+        T value;
+        std::memcpy(&value, bytes_, sizeof value);
+        return value;
     }
 
 private:
-    std::vector<std::shared_ptr<const PropertyRow<Control>>> rows_;
-    std::vector<std::size_t> writeOrder_;
+    alignas(8) unsigned char bytes_[8]{};
 };
 
-/// A default: a value, or a function from the control to it.
+/// A default: a number, or a function without state from the control to it. Of other types null stands for the empty value.
 template <class Control, class Stored>
 class PropertyDefault {
 public:
     template <class Default>
     PropertyDefault(Default standard)
     {
-        if constexpr (std::is_invocable_v<Default, Control&>)
-            of_ = std::move(standard);
-        else
-            value_ = static_cast<Stored>(std::move(standard));
+        if constexpr (std::is_invocable_v<Default, Control&>) {
+            isComputed_ = true;
+            what_ = Erased(+[](Control& control) -> Stored { return Default()(control); });
+        } else {
+            static_assert(std::is_convertible_v<Default, std::int64_t>);
+            what_ = Erased(static_cast<std::int64_t>(standard));
+        }
     }
-    Stored Of(Control& control) const { return of_ ? of_(control) : value_; }
+    PropertyDefault(std::nullptr_t) {}
+    explicit PropertyDefault(Erased what, bool isComputed) : what_(what), isComputed_(isComputed) {}
+
+    [[nodiscard]] Stored Of(Control& control) const
+    {
+        if (isComputed_)
+            return what_.template As<Stored (*)(Control&)>()(control);
+        if constexpr (std::is_arithmetic_v<Stored>)
+            return static_cast<Stored>(what_.template As<std::int64_t>());
+        else
+            return {};
+    }
+    [[nodiscard]] Erased What() const { return what_; }
+    [[nodiscard]] bool IsComputed() const { return isComputed_; }
 
 private:
-    Stored value_{};
-    std::function<Stored(Control&)> of_;
+    Erased what_;
+    bool isComputed_ = false;
 };
 
-/// A property that is got and set through functions.
-template <class Control, class Stored>
-class ThroughRow final : public PropertyRow<Control> {
-public:
-    using Get = Stored (*)(Control&);
-    using Set = void (*)(Control&, const Stored&);
+/// One stored property. Rows are plain data, and what differs from row to row are pointers, not types: a control has some forty of them,
+/// and every type of its own would cost a kilobyte of code.
+template <class Control>
+struct PropertyRow {
+    const WCHAR* key = nullptr;
+    void (*read)(const PropertyRow& row, Control& control, const host::PropertyBag& bag) = nullptr;
+    void (*write)(const PropertyRow& row, Control& control, host::PropertyBag& bag) = nullptr;
+    Erased get{}, set{};  // functions; a pointer to the member instead of `get`
+    Erased standard{};
+    bool isStandardComputed = false;
+    WhenDefault whenDefault = WhenDefault::LeftOut;
+    /// The key of the row that it is written before; null where it is written in its turn.
+    const WCHAR* before = nullptr;
 
-    ThroughRow(const WCHAR* key, Get get, Set set, PropertyDefault<Control, Stored> standard, WhenDefault whenDefault)
-        : PropertyRow<Control>(key, whenDefault), get_(get), set_(set), standard_(std::move(standard))
+    [[nodiscard]] PropertyRow WrittenBefore(const WCHAR* other) const
     {
+        PropertyRow row = *this;
+        row.before = other;
+        return row;
     }
-    void Read(Control& control, const host::PropertyBag& bag) const override
+
+    template <class Stored>
+    [[nodiscard]] Stored Read(Control& control, const host::PropertyBag& bag) const
     {
-        set_(control, bag.Read<Stored>(this->key_, standard_.Of(control)));
+        return bag.Read<Stored>(key, PropertyDefault<Control, Stored>(standard, isStandardComputed).Of(control));
     }
-    void Write(Control& control, host::PropertyBag& bag) const override
+    template <class Stored>
+    void Write(Control& control, host::PropertyBag& bag, const Stored& value) const
     {
-        if (this->whenDefault_ == WhenDefault::Stored)
-            bag.Write(this->key_, get_(control));
+        if (whenDefault == WhenDefault::Stored)
+            bag.Write(key, value);
         else
-            bag.Write(this->key_, get_(control), standard_.Of(control));
+            bag.Write(key, value, PropertyDefault<Control, Stored>(standard, isStandardComputed).Of(control));
     }
-
-private:
-    const Get get_;
-    const Set set_;
-    const PropertyDefault<Control, Stored> standard_;
 };
 
-/// A property that is a member of the control.
-template <class Control, class Stored, class Value>
-class MemberRow final : public PropertyRow<Control> {
+/// A row's key, and the key of the row that it is written before; null where it is written in its turn.
+struct WrittenRow {
+    const WCHAR* key;
+    const WCHAR* before = nullptr;
+};
+
+/// A row is to be written before one that has no place of its own, or that there is not.
+class NoSuchRow : public std::exception {
 public:
-    MemberRow(const WCHAR* key, Value Control::*member, PropertyDefault<Control, Stored> standard, WhenDefault whenDefault)
-        : PropertyRow<Control>(key, whenDefault), member_(member), standard_(std::move(standard))
+    [[nodiscard]] const char* what() const noexcept override
     {
+        return "a property is to be written before one that has no place of its own";
     }
-    void Read(Control& control, const host::PropertyBag& bag) const override
+};
+
+/// The places of the rows in the order of writing. Throws `NoSuchRow`.
+std::vector<std::size_t> WriteOrder(const std::vector<WrittenRow>& rows);
+
+/// The rows stand in the order in which they are read. Most are written in the same order; a row may say which one it is written before.
+template <class Control>
+class PropertyTable {
+public:
+    PropertyTable(std::initializer_list<PropertyRow<Control>> rows) : rows_(rows)
     {
-        control.*member_ = static_cast<Value>(bag.Read<Stored>(this->key_, standard_.Of(control)));
+        std::vector<WrittenRow> written;
+        for (const auto& row : rows)
+            written.push_back({row.key, row.before});
+        writeOrder_ = WriteOrder(written);
     }
-    void Write(Control& control, host::PropertyBag& bag) const override
+
+    void Read(Control& control, const host::PropertyBag& bag) const
     {
-        const auto value = static_cast<Stored>(control.*member_);
-        if (this->whenDefault_ == WhenDefault::Stored)
-            bag.Write(this->key_, value);
-        else
-            bag.Write(this->key_, value, standard_.Of(control));
+        for (const auto& row : rows_)
+            row.read(row, control, bag);
+    }
+
+    void Write(Control& control, host::PropertyBag& bag) const
+    {
+        for (const std::size_t index : writeOrder_)
+            rows_[index].write(rows_[index], control, bag);
     }
 
 private:
-    Value Control::*const member_;
-    const PropertyDefault<Control, Stored> standard_;
+    std::vector<PropertyRow<Control>> rows_;
+    std::vector<std::size_t> writeOrder_;
 };
 
 /// A property that reads and writes itself, because its key holds more than its value.
 template <class Control>
-class OwnWayRow final : public PropertyRow<Control> {
-public:
-    using Reader = void (*)(Control&, const host::PropertyBag&, const WCHAR* key);
-    using Writer = void (*)(Control&, host::PropertyBag&, const WCHAR* key);
-
-    OwnWayRow(const WCHAR* key, Reader read, Writer write) : PropertyRow<Control>(key, WhenDefault::LeftOut), read_(read), write_(write) {}
-    void Read(Control& control, const host::PropertyBag& bag) const override { read_(control, bag, this->key_); }
-    void Write(Control& control, host::PropertyBag& bag) const override { write_(control, bag, this->key_); }
-
-private:
-    const Reader read_;
-    const Writer write_;
-};
-
-template <class Control>
-typename PropertyTable<Control>::Row StoredInItsOwnWay(const WCHAR* key, typename OwnWayRow<Control>::Reader read,
-                                                       typename OwnWayRow<Control>::Writer write)
+PropertyRow<Control> StoredInItsOwnWay(const WCHAR* key, void (*read)(Control&, const host::PropertyBag&, const WCHAR* key),
+                                       void (*write)(Control&, host::PropertyBag&, const WCHAR* key))
 {
-    return typename PropertyTable<Control>::Row(std::make_shared<OwnWayRow<Control>>(key, read, write));
+    using Row = PropertyRow<Control>;
+    Row row{key};
+    row.get = Erased(write);
+    row.set = Erased(read);
+    row.read = [](const Row& own, Control& control, const host::PropertyBag& bag) {
+        own.set.template As<decltype(read)>()(control, bag, own.key);
+    };
+    row.write = [](const Row& own, Control& control, host::PropertyBag& bag) {
+        own.get.template As<decltype(write)>()(control, bag, own.key);
+    };
+    return row;
 }
 
 /// A row for a value that is got and set through functions without state: `Stored get(Control&)`, `void set(Control&, Stored)`.
 template <class Control, class Stored, class Get, class Set>
-typename PropertyTable<Control>::Row StoredThrough(const WCHAR* key, Get, Set, PropertyDefault<Control, Stored> standard,
-                                                   WhenDefault whenDefault = WhenDefault::LeftOut)
+PropertyRow<Control> StoredThrough(const WCHAR* key, Get, Set, PropertyDefault<Control, Stored> standard,
+                                   WhenDefault whenDefault = WhenDefault::LeftOut)
 {
-    return typename PropertyTable<Control>::Row(std::make_shared<ThroughRow<Control, Stored>>(
-        key, [](Control& control) -> Stored { return Get()(control); },
-        [](Control& control, const Stored& stored) { Set()(control, stored); }, std::move(standard), whenDefault));
+    using Row = PropertyRow<Control>;
+    Row row{key};
+    row.get = Erased(+[](Control& control) -> Stored { return Get()(control); });
+    row.set = Erased(+[](Control& control, const Stored& stored) { Set()(control, stored); });
+    row.read = [](const Row& own, Control& control, const host::PropertyBag& bag) {
+        own.set.template As<void (*)(Control&, const Stored&)>()(control, own.template Read<Stored>(control, bag));
+    };
+    row.write = [](const Row& own, Control& control, host::PropertyBag& bag) {
+        own.Write(control, bag, own.get.template As<Stored (*)(Control&)>()(control));
+    };
+    row.standard = standard.What();
+    row.isStandardComputed = standard.IsComputed();
+    row.whenDefault = whenDefault;
+    return row;
 }
 
 /// A row for a value that `reach`, a function without state from the control to a reference, gives. `Stored` is the type in the bag; a
 /// truth value is kept there as a byte, 0 or 1, and counts as true whatever else than 0 is read.
 template <class Control, class Stored, class Reach>
-typename PropertyTable<Control>::Row StoredAs(const WCHAR* key, Reach, PropertyDefault<Control, Stored> standard,
-                                              WhenDefault whenDefault = WhenDefault::LeftOut)
+PropertyRow<Control> StoredAs(const WCHAR* key, Reach, PropertyDefault<Control, Stored> standard,
+                              WhenDefault whenDefault = WhenDefault::LeftOut)
 {
     return StoredThrough<Control, Stored>(
         key, [](Control& control) { return static_cast<Stored>(Reach()(control)); },
@@ -200,16 +205,28 @@ typename PropertyTable<Control>::Row StoredAs(const WCHAR* key, Reach, PropertyD
             auto& value = Reach()(control);
             value = static_cast<std::remove_reference_t<decltype(value)>>(stored);
         },
-        std::move(standard), whenDefault);
+        standard, whenDefault);
 }
 
 /// The same for a member of the control or of a base of it.
 template <class Control, class Stored, class Owner, class Value>
-typename PropertyTable<Control>::Row StoredAs(const WCHAR* key, Value Owner::*member, PropertyDefault<Control, Stored> standard,
-                                              WhenDefault whenDefault = WhenDefault::LeftOut)
+PropertyRow<Control> StoredAs(const WCHAR* key, Value Owner::*member, PropertyDefault<Control, Stored> standard,
+                              WhenDefault whenDefault = WhenDefault::LeftOut)
 {
-    return typename PropertyTable<Control>::Row(
-        std::make_shared<MemberRow<Control, Stored, Value>>(key, member, std::move(standard), whenDefault));
+    using Row = PropertyRow<Control>;
+    using Member = Value Control::*;
+    Row row{key};
+    row.get = Erased(static_cast<Member>(member));
+    row.read = [](const Row& own, Control& control, const host::PropertyBag& bag) {
+        control.*own.get.template As<Member>() = static_cast<Value>(own.template Read<Stored>(control, bag));
+    };
+    row.write = [](const Row& own, Control& control, host::PropertyBag& bag) {
+        own.Write(control, bag, static_cast<Stored>(control.*own.get.template As<Member>()));
+    };
+    row.standard = standard.What();
+    row.isStandardComputed = standard.IsComputed();
+    row.whenDefault = whenDefault;
+    return row;
 }
 
 }  // namespace controls

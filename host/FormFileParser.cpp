@@ -228,10 +228,17 @@ private:
     bool Points(float& points)
     {
         SkipBlanks();
-        std::string digits;
-        for (; PeekIsDigit() || Peek() == '.'; ++at_)
-            digits += static_cast<char>(Peek());
-        points = std::strtof(digits.c_str(), nullptr);
+        // Without the runtime's own reader, which brings 20 KB of number formats along. All powers of ten up to the sixth digit are exact.
+        double digits = 0, divisor = 0;
+        for (; PeekIsDigit() || (Peek() == '.' && divisor == 0); ++at_) {
+            if (Peek() == '.') {
+                divisor = 1;
+            } else if (divisor < 1e6) {
+                digits = digits * 10 + (Peek() - '0');
+                divisor *= 10;
+            }
+        }
+        points = static_cast<float>(divisor == 0 ? digits : digits / divisor);
         return points > 0 && points < 1000;
     }
 

@@ -2,16 +2,31 @@
 #include "base/Base64Bytes.h"
 #include "host/FormFile.h"
 
-#include <cstdio>
+#include <cmath>
 
 namespace host {
 
 namespace {
 
-base::String Widen(const char* ascii)
+/// "0x" and eight digits.
+base::String Hexadecimal(std::uint32_t number)
 {
-    const std::string_view text(ascii);
-    return {text.begin(), text.end()};
+    base::String text = TEXT("0x");
+    for (int shift = 28; shift >= 0; shift -= 4)
+        text += TEXT("0123456789ABCDEF")[number >> shift & 15];
+    return text;
+}
+
+/// Points with up to four decimal places, as many as Windows keeps of a font's size.
+base::String Points(float size)
+{
+    constexpr long long one = 10'000;
+    const long long parts = std::llround(static_cast<double>(size) * one);
+    base::String text = base::ToDecimal(parts / one);
+    if (parts % one == 0)
+        return text;
+    const base::String places = base::ToDecimal(one + parts % one);
+    return text + TEXT('.') + places.substr(1, places.find_last_not_of(TEXT('0')));
 }
 
 base::String Quoted(const base::String& text)
@@ -37,18 +52,14 @@ struct ValueWriter {
     {
         if (!number.hexadecimal)
             return base::ToDecimal(number.value);
-        char text[16];
-        std::snprintf(text, sizeof text, "0x%08X", static_cast<unsigned>(number.value));
-        return Widen(text);
+        return Hexadecimal(static_cast<std::uint32_t>(number.value));
     }
 
     base::String operator()(const base::String& text) const { return Quoted(text); }
 
     base::String operator()(const FontDescription& font) const
     {
-        char size[32];
-        std::snprintf(size, sizeof size, "%g", static_cast<double>(font.size));
-        base::String text = TEXT("Font(") + Quoted(font.name) + TEXT(", ") + Widen(size);
+        base::String text = TEXT("Font(") + Quoted(font.name) + TEXT(", ") + Points(font.size);
         if (font.weight == FW_BOLD)
             text += TEXT(", Bold");
         else if (font.weight != FW_NORMAL)

@@ -34,13 +34,18 @@ imported_dlls() { x86_64-w64-mingw32-objdump -p "$1" | sed -n 's/.*DLL Name: //p
 # stand in for them. A compiler's runtime is not among them.
 known_dlls=' advapi32.dll gdi32.dll kernel32.dll msvcrt.dll ole32.dll oleaut32.dll shell32.dll shlwapi.dll user32.dll '
 
+# It is to start at once, from a slow disk or over a network too. The tables of 32-bit programs for exceptions are larger.
+largest_x64=$((480 * 1024)) largest_x86=$((540 * 1024))
+
 # check_exe <exe>: what it binds at its start, and the guards that Windows lends to those who ask in their header.
 check_exe() {
-    local dll flag wrong=0 header
+    local dll flag wrong=0 header largest
     for dll in $(imported_dlls "$1"); do
         [[ "$known_dlls" == *" $dll "* ]] || { echo "$1 binds $dll at its start"; wrong=1; }
     done
     header="$(x86_64-w64-mingw32-objdump -p "$1")"
+    largest=$([[ "$header" == *pei-x86-64* ]] && echo $largest_x64 || echo $largest_x86)
+    [ "$(stat -c %s "$1")" -le "$largest" ] || { echo "$1 is larger than $largest bytes"; wrong=1; }
     for flag in DYNAMIC_BASE NX_COMPAT TERMINAL_SERVICE_AWARE $([[ "$header" == *pei-x86-64* ]] && echo HIGH_ENTROPY_VA); do
         [[ "$header" == *"$flag"* ]] || { echo "$1 has no $flag"; wrong=1; }
     done

@@ -43,10 +43,9 @@ String TextFromCodes(StringView codes)
     return text;
 }
 
-auto SystemRgb(int index)
-{
-    return [index](CommandButton&) { return GetSysColor(index); };
-}
+/// A default: the colour itself, not its place in the scheme.
+template <int Index>
+constexpr auto SystemRgb = [](CommandButton&) { return GetSysColor(Index); };
 
 }  // namespace
 
@@ -68,10 +67,10 @@ const PropertyTable<CommandButton>& CommandButton::Properties()
     const auto face = host::SystemColor(COLOR_BTNFACE);
     static const PropertyTable<B> table{
         StoredAs<B, uint8_t>(TEXT("CaptionHide"), &B::captionHide_, 0),
-        StoredAs<B, String>(TEXT("CaptionUniChars"), &B::captionUniChars_, String()),
-        StoredAs<B, String>(TEXT("Caption"), &B::caption_, String()),
+        StoredAs<B, String>(TEXT("CaptionUniChars"), &B::captionUniChars_, nullptr),
+        StoredAs<B, String>(TEXT("Caption"), &B::caption_, nullptr),
         StoredAs<B, int32_t>(TEXT("FontAutoSize"), &B::fontAutoSize_, AutoSizeOff),
-        StoredAs<B, String>(TEXT("ToolTipTextW"), Tip<B, &Settings::text>(), String()),
+        StoredAs<B, String>(TEXT("ToolTipTextW"), Tip<B, &Settings::text>(), nullptr),
         StoredAs<B, uint8_t>(TEXT("ForceTrueType"), &B::forceTrueType_, 0),
         StoredAs<B, int32_t>(TEXT("GradientDirection"), &B::gradientDirection_, GradientDiagonal),
         StoredAs<B, int32_t>(TEXT("CaptionFx"), &B::captionFx_, CaptionFxNone),
@@ -94,10 +93,10 @@ const PropertyTable<CommandButton>& CommandButton::Properties()
         StoredAs<B, uint8_t>(TEXT("USeCustomColors"), &B::useCustomColors_, 0),
         StoredAs<B, uint32_t>(TEXT("BackColor"), &B::backColor_, face),
         StoredAs<B, uint32_t>(TEXT("BackColorDisabled"), &B::backColorDisabled_, face),
-        StoredAs<B, uint32_t>(TEXT("HighlightColor"), &B::highLightColor_, SystemRgb(COLOR_HIGHLIGHT)),
-        StoredAs<B, uint32_t>(TEXT("FontColor"), &B::fontColor_, SystemRgb(COLOR_BTNTEXT)),
-        StoredAs<B, uint32_t>(TEXT("FontHighlightColor"), &B::fontHighlightColor_, SystemRgb(COLOR_BTNTEXT)),
-        StoredAs<B, String>(TEXT("Tooltiptitle"), Tip<B, &Settings::title>(), String(), WhenDefault::Stored),
+        StoredAs<B, uint32_t>(TEXT("HighlightColor"), &B::highLightColor_, SystemRgb<COLOR_HIGHLIGHT>),
+        StoredAs<B, uint32_t>(TEXT("FontColor"), &B::fontColor_, SystemRgb<COLOR_BTNTEXT>),
+        StoredAs<B, uint32_t>(TEXT("FontHighlightColor"), &B::fontHighlightColor_, SystemRgb<COLOR_BTNTEXT>),
+        StoredAs<B, String>(TEXT("Tooltiptitle"), Tip<B, &Settings::title>(), nullptr, WhenDefault::Stored),
         StoredAs<B, int32_t>(TEXT("ToolTipIcon"), Tip<B, &Settings::icon>(), 0, WhenDefault::Stored),
         StoredAs<B, uint8_t>(TEXT("TooltipBalloon"), Tip<B, &Settings::balloon>(), 0, WhenDefault::Stored),
         StoredAs<B, uint8_t>(TEXT("ToolTipCentred"), Tip<B, &Settings::centred>(), 0),

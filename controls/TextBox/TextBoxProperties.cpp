@@ -20,7 +20,7 @@ const PropertyTable<TextBox>& TextBox::Properties()
         StoredAs<T, int32_t>(TEXT("MaxLength"), &T::maxLength_, 30000),
         StoredAs<T, uint8_t>(TEXT("BorderStyle"), &T::borderStyle_, BorderSunken),
         StoredAs<T, std::int16_t>(TEXT("PasswordChar"), &T::passwordChar_, 0),
-        StoredAs<T, String>(TEXT("ToolTipTextW"), Tip<T, &Settings::text>(), String()),
+        StoredAs<T, String>(TEXT("ToolTipTextW"), Tip<T, &Settings::text>(), nullptr),
         StoredAs<T, uint8_t>(TEXT("ForceTrueType"), &T::forceTrueType_, 0),
         StoredAs<T, uint8_t>(TEXT("EnhacedLineComputing"), &T::enhacedLineComputing_, 0),
         StoredAs<T, uint8_t>(TEXT("ToolTipBalloon"), Tip<T, &Settings::balloon>(), 0),
@@ -44,7 +44,7 @@ const PropertyTable<TextBox>& TextBox::Properties()
         StoredAs<T, uint8_t>(
             TEXT("AllowOnlyAlphabetics"), [](T & box) -> auto& { return box.rules_.allowOnlyAlphabetics; }, 0),
         StoredAs<T, String>(
-            TEXT("AllowOnlyChars"), [](T & box) -> auto& { return box.rules_.allowOnlyChars; }, String()),
+            TEXT("AllowOnlyChars"), [](T & box) -> auto& { return box.rules_.allowOnlyChars; }, nullptr),
         StoredAs<T, uint8_t>(TEXT("Locked"), &T::locked_, 0),
         StoredAs<T, uint8_t>(TEXT("HideSelection"), &T::hideSelection_, 1),
         StoredAs<T, uint8_t>(TEXT("MultiLine"), &T::multiLine_, 0),

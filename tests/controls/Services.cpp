@@ -109,7 +109,7 @@ TEST(FontRule, Fonts_AreDescribed)
 
 TEST(PropertyTable, RowBeforeAnUnknownKey_IsRefused)
 {
-    EXPECT_THROW((void)controls::WriteOrder({{TEXT("Flag"), TEXT("Flagg")}}), std::invalid_argument);
+    EXPECT_THROW((void)controls::WriteOrder({{TEXT("Flag"), TEXT("Flagg")}}), controls::NoSuchRow);
 }
 
 }  // namespace tests

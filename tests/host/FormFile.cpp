@@ -68,6 +68,7 @@ TEST(FormFile, Mistake_IsReportedWithItsLine)
                                                  {"Form F {\n    A = [\"x\" \"y\"]\n}\n", 2},
                                                  {"Form F {\n    A = Font(\"x\")\n}\n", 2},
                                                  {"Form F {\n    A = Font(\"x\", 0)\n}\n", 2},
+                                                 {"Form F {\n    A = Font(\"x\", 8.2.5)\n}\n", 2},
                                                  {"Form F {\n    A = Font(\"x\", 8, Charset 256)\n}\n", 2},
                                                  {"Form F {\n    \xFF = 1\n}\n", 1},
                                                  {deep, 2}};

@@ -98,7 +98,8 @@ def as_png(rows):
 
 
 def main():
-    images = [as_png(draw(size)) if size == 256 else as_bitmap(draw(size)) for size in SIZES]
+    # Windows reads pictures of every size since Vista; small ones are no smaller for it.
+    images = [as_png(draw(size)) if size >= 64 else as_bitmap(draw(size)) for size in SIZES]
     offset = 6 + 16 * len(images)
     directory = struct.pack('<HHH', 0, 1, len(images))
     for size, image in zip(SIZES, images):
