@@ -157,6 +157,10 @@ void HostedControl::SubclassControl_WndProc(HWND window, UINT message, WPARAM wP
             hosted_.WindowFocused(true);
             SetFocus();
             break;
+        case WM_GETOBJECT:
+            result = ParentForm().Accessibles().Answer(window, wParam, lParam);
+            handled = result != 0;
+            break;
         case WM_THEMECHANGED:
         case WM_SYSCOLORCHANGE:
             CreateWindowAnew();

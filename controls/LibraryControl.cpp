@@ -3,6 +3,7 @@
 
 #include "controls/GoldenSection.h"
 #include "controls/WindowPlace.h"
+#include "host/AccessibleFacts.h"
 
 namespace controls {
 
@@ -10,6 +11,13 @@ void LibraryControl::UserControl_Show()
 {
     if (IsRunTime())
         AdoptExtenderToolTip();
+}
+
+/// A text that the container has been given is the newer one: the next tip takes it over.
+host::AccessibleFacts LibraryControl::Accessibility()
+{
+    const base::String& given = GetExtender().ToolTipText();
+    return {.description = given.empty() ? ToolTipTextW() : given};
 }
 
 void LibraryControl::ZedOrder(HWND insertAfter)

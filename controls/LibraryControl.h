@@ -19,6 +19,8 @@ enum BackStyleValue : std::int32_t { OwnColors, ContainerColors };
 class LibraryControl : public host::UserControl, public ToolTip {
 public:
     [[nodiscard]] bool IsRunTime() const { return Ambient().UserMode(); }
+    /// Description: the tip's text.
+    [[nodiscard]] host::AccessibleFacts Accessibility() override;
 
     // Kept by the container, which stores them; see host::Extender. Position and size count in the container's units.
 

@@ -20,7 +20,7 @@ public:
     ComObject(const ComObject&) = delete;
     ComObject& operator=(const ComObject&) = delete;
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID wanted, void** object) noexcept final
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID wanted, void** object) noexcept override
     {
         if (!object)
             return E_POINTER;

@@ -1,7 +1,10 @@
 // ComboBox: the list, the selection and the events.
 #include "host/ComboBox.h"
 
+#include "host/AccessibleFacts.h"
 #include "host/KeyRouting.h"
+
+#include <oleacc.h>
 
 namespace host {
 
@@ -53,6 +56,14 @@ void ComboBox::ListIndex(int index)
     if (hWnd())
         SendMessageW(hWnd(), CB_SETCURSEL, static_cast<WPARAM>(index), 0);
     Click.Raise();
+}
+
+AccessibleFacts ComboBox::Accessibility()
+{
+    const bool isDropped = SendMessageW(hWnd(), CB_GETDROPPEDSTATE, 0, 0) != FALSE;
+    return {.role = ROLE_SYSTEM_COMBOBOX,
+            .state = STATE_SYSTEM_HASPOPUP | (isDropped ? STATE_SYSTEM_EXPANDED : STATE_SYSTEM_COLLAPSED),
+            .value = Text()};
 }
 
 void ComboBox::Command(WORD notification)

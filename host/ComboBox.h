@@ -10,6 +10,7 @@ class ComboBox final : public StockControl {
 public:
     [[nodiscard]] base::StringView Kind() const override { return TEXT("ComboBox"); }
     [[nodiscard]] bool CanGetFocus() const override { return true; }
+    [[nodiscard]] AccessibleFacts Accessibility() override;
     /// All but Tab; Enter and Esc only while the list is dropped down.
     [[nodiscard]] bool WantsKey(std::int16_t keyCode) const override;
 

@@ -13,6 +13,7 @@ namespace host {
 
 class Form;
 class PropertyBag;
+struct AccessibleFacts;
 
 /// A control is made by a factory, put on a form by `Form` (which gives it its extender) and lives until the form object dies.
 /// Its windows and handles live from `LoadNew` or `LoadStored` to `Unload`.
@@ -35,6 +36,8 @@ public:
     virtual void SetFocus() {}
     /// The letter or digit that Alt brings here, as typed in the caption; empty for none.
     [[nodiscard]] virtual base::String AccessKey() const { return {}; }
+    /// What a screen reader is told of it.
+    [[nodiscard]] virtual AccessibleFacts Accessibility();
 
     [[nodiscard]] Extender& GetExtender() { return *extender_; }
     [[nodiscard]] const Extender& GetExtender() const { return *extender_; }

@@ -1,6 +1,7 @@
 // Form: a top-level window with the controls that its form text describes.
 #pragma once
 
+#include "host/AccessibleWindows.h"
 #include "host/Control.h"
 #include "host/ControlFactory.h"
 #include "host/Event.h"
@@ -124,6 +125,8 @@ public:
     /// A number for a control's SetTimer on the form's window, and who ticks when it is due.
     [[nodiscard]] UINT_PTR AddTimer(std::function<void()> tick);
     void RemoveTimer(UINT_PTR timer);
+    /// Answers WM_GETOBJECT for the windows of the form's controls.
+    [[nodiscard]] AccessibleWindows& Accessibles() { return accessibles_; }
 
     [[nodiscard]] HWND ContainerHandle() const final { return hWnd(); }
     [[nodiscard]] host::ScaleMode ContainerScaleMode() const final { return scaleMode_; }
@@ -173,6 +176,7 @@ private:
     std::map<base::String, Routine, std::less<>> routines_;
     std::map<UINT_PTR, std::function<void()>> timers_;
     UINT_PTR nextTimer_ = 1;
+    AccessibleWindows accessibles_;
     std::string loadError_;
 };
 

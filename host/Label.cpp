@@ -1,6 +1,10 @@
 // Label: its caption.
 #include "host/Label.h"
 
+#include "host/AccessibleFacts.h"
+
+#include <oleacc.h>
+
 namespace host {
 
 namespace {
@@ -28,6 +32,11 @@ base::String Label::AccessKey() const
         if (caption_[at + 1] != TEXT('&'))
             return caption_.substr(at + 1, 1);
     return {};
+}
+
+AccessibleFacts Label::Accessibility()
+{
+    return {.role = ROLE_SYSTEM_STATICTEXT, .state = STATE_SYSTEM_READONLY, .caption = caption_};
 }
 
 void Label::ReadProperties(const PropertyBag& bag)

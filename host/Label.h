@@ -12,6 +12,7 @@ public:
     [[nodiscard]] const base::String& Caption() const { return caption_; }
     void Caption(base::StringView caption);
     [[nodiscard]] base::String AccessKey() const override;
+    [[nodiscard]] AccessibleFacts Accessibility() override;
 
 private:
     [[nodiscard]] SystemWindow Describe() const override;

@@ -124,6 +124,10 @@ LRESULT StockControl::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM
             // The window would take the focus by itself, but the control that has it is to be told before.
             SetFocus();
             break;
+        case WM_GETOBJECT:
+            if (const LRESULT answer = ParentForm().Accessibles().Answer(window, wParam, lParam))
+                return answer;
+            break;
         case WM_SETFOCUS:
             ParentForm().Activate(this);
             break;

@@ -110,6 +110,14 @@ void UserControl::Refresh()
 void UserControl::PropertyChanged(base::StringView name)
 {
     ParentForm().OnPropertyChanged(*this, name);
+    if (name == TEXT("Caption"))
+        Announce(EVENT_OBJECT_NAMECHANGE);
+}
+
+void UserControl::Announce(DWORD event) const
+{
+    if (isShown_ && OwnHandle() && OwnHandle() == hWnd())
+        NotifyWinEvent(event, OwnHandle(), OBJID_CLIENT, CHILDID_SELF);
 }
 
 void UserControl::SetFocus()

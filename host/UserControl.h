@@ -49,6 +49,9 @@ public:
 protected:
     /// Tells the container that a property has changed and must be saved.
     void PropertyChanged(base::StringView name);
+    /// Tells screen readers what has changed, by an EVENT_OBJECT value. Only what Windows cannot see is told: that a system window which
+    /// the control shows is another now, Windows tells itself. Nobody knows a control that has not been shown yet.
+    void Announce(DWORD event) const;
 
     virtual void UserControl_Initialize() {}
     virtual void UserControl_InitProperties() {}

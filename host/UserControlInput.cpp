@@ -57,6 +57,7 @@ LRESULT UserControl::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
             GotFocus();
             return 0;
         case WM_ENABLE:
+            Announce(EVENT_OBJECT_STATECHANGE);
             if (wParam == FALSE)
                 ParentForm().PassFocusOn(*this);
             else
@@ -65,6 +66,10 @@ LRESULT UserControl::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
         case WM_COMMAND:
             if (Control* const control = ParentForm().ControlOf(reinterpret_cast<HWND>(lParam)); control && control != this)
                 control->Command(HIWORD(wParam));
+            break;
+        case WM_GETOBJECT:
+            if (const LRESULT answer = ParentForm().Accessibles().Answer(OwnHandle(), wParam, lParam))
+                return answer;
             break;
         case WM_CAPTURECHANGED:
             clickBegun_ = false;

@@ -1,6 +1,10 @@
 // CheckBox: the system's button and what is behind it.
 #include "controls/CheckBox/CheckBox.h"
 
+#include "host/AccessibleFacts.h"
+
+#include <oleacc.h>
+
 namespace controls {
 
 void CheckBox::UserControl_InitProperties()
@@ -17,6 +21,17 @@ void CheckBox::UserControl_Resize()
     hosted_.Cover();
     if (fontAutoSize_)
         FitFont();
+}
+
+host::AccessibleFacts CheckBox::Accessibility()
+{
+    host::AccessibleFacts facts = LibraryControl::Accessibility();
+    facts.role = ROLE_SYSTEM_CHECKBUTTON;
+    const std::uint8_t value = Value();
+    facts.state = value == Checked ? STATE_SYSTEM_CHECKED : value == Grayed ? STATE_SYSTEM_MIXED : 0;
+    facts.caption = Caption();
+    facts.action = value == Unchecked ? TEXT("Check") : TEXT("Uncheck");
+    return facts;
 }
 
 void CheckBox::ReleaseWindow()

@@ -21,6 +21,7 @@ public:
     ~CheckBox() override { ReleaseWindow(); }
 
     [[nodiscard]] base::StringView Kind() const override { return TEXT("CheckBox"); }
+    [[nodiscard]] host::AccessibleFacts Accessibility() override;
 
     /// 0 unchecked, 1 checked, 2 grayed. Set: -1 counts as 1, anything else as 0. A change raises `Click`.
     [[nodiscard]] std::uint8_t Value();

@@ -26,6 +26,8 @@ public:
 
     [[nodiscard]] base::StringView Kind() const override { return TEXT("CommandButton"); }
     [[nodiscard]] bool IsButton() const override { return true; }
+    /// Name: the window's text where there is one, else the caption.
+    [[nodiscard]] host::AccessibleFacts Accessibility() override;
 
     [[nodiscard]] const base::String& Caption() const { return caption_; }
     void Caption(const base::String& caption);
@@ -168,6 +170,10 @@ private:
     void HasFocus(bool has);
     void ShowState(std::int32_t state);
     void MoveFocus(host::FocusDirection direction);
+    /// STATE_SYSTEM bits of what is drawn.
+    [[nodiscard]] LONG AccessibleState() const;
+    /// Tells of a state that is another since it was told last.
+    void AnnounceState();
 
     void Follow(After after) override;
     void SendWindowText(const base::String& text);
@@ -224,6 +230,7 @@ private:
     std::int32_t state_ = 0;
     bool hasFocus_ = false;
     bool shown_ = false;
+    LONG announcedState_ = 0;
     std::int32_t lastMouseUpButton_ = 0;
     std::int16_t lastKeyDown_ = 0;
     WindowPlace place_;

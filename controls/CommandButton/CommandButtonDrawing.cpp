@@ -78,6 +78,7 @@ bool CommandButton::PaintThemed(Canvas& canvas, const ButtonLook& look)
 
 void CommandButton::DrawControl()
 {
+    AnnounceState();
     if (!shown_)
         return;
     const ButtonLook look = Look();

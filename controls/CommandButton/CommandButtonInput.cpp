@@ -27,7 +27,10 @@ void CommandButton::HasFocus(bool has)
 
 void CommandButton::UserControl_AmbientChanged(StringView name)
 {
-    if (!Ambient().UserMode() && name == TEXT("DisplayAsDefault"))
+    if (name != TEXT("DisplayAsDefault"))
+        return;
+    AnnounceState();
+    if (!Ambient().UserMode())
         DrawControl();
 }
 

@@ -188,6 +188,7 @@ void CommandButton::CaptionUniChars(const String& codes)
 void CommandButton::ScreenReaderCaption(const String& text)
 {
     SendWindowText(text);
+    Announce(EVENT_OBJECT_NAMECHANGE);
 }
 
 void CommandButton::Style(std::int32_t style)

@@ -3,6 +3,9 @@
 
 #include "controls/Frame/FramePainter.h"
 #include "controls/ThemeState.h"
+#include "host/AccessibleFacts.h"
+
+#include <oleacc.h>
 
 namespace controls {
 
@@ -31,6 +34,14 @@ void Frame::Start()
         AcceptFiles(true);
     if (Ambient().UserMode())
         subclassControl_.TryEnable(hWnd());
+}
+
+host::AccessibleFacts Frame::Accessibility()
+{
+    host::AccessibleFacts facts = LibraryControl::Accessibility();
+    facts.role = ROLE_SYSTEM_GROUPING;
+    facts.caption = caption_;
+    return facts;
 }
 
 void Frame::UserControl_Terminate()

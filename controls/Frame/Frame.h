@@ -23,6 +23,7 @@ public:
     [[nodiscard]] base::StringView Kind() const override { return TEXT("Frame"); }
     [[nodiscard]] bool CanGetFocus() const override { return false; }
     [[nodiscard]] bool TabStop() const { return false; }
+    [[nodiscard]] host::AccessibleFacts Accessibility() override;
 
     /// One "&" marks the access key, "&&" is a literal ampersand. Reading makes the window's text equal to it again.
     [[nodiscard]] base::String Caption();

@@ -2,6 +2,9 @@
 #include "controls/TextBox/TextBox.h"
 
 #include "controls/TextBox/TextBoxEditStyle.h"
+#include "host/AccessibleFacts.h"
+
+#include <oleacc.h>
 
 namespace controls {
 
@@ -18,6 +21,18 @@ void TextBox::UserControl_Paint()
 {
     hosted_.ControlPainted();
     FixFocus();
+}
+
+/// What is typed in secret is not read out.
+host::AccessibleFacts TextBox::Accessibility()
+{
+    host::AccessibleFacts facts = LibraryControl::Accessibility();
+    facts.role = ROLE_SYSTEM_TEXT;
+    const bool isSecret = useSystemPasswordChar_ || hosted_.Send(EM_GETPASSWORDCHAR) != 0;
+    facts.state = (isSecret ? STATE_SYSTEM_PROTECTED : 0) | (locked_ ? STATE_SYSTEM_READONLY : 0);
+    if (!isSecret)
+        facts.value = hosted_.Text();
+    return facts;
 }
 
 void TextBox::ReleaseWindow()

@@ -22,6 +22,7 @@ public:
     ~TextBox() override { ReleaseWindow(); }
 
     [[nodiscard]] base::StringView Kind() const override { return TEXT("TextBox"); }
+    [[nodiscard]] host::AccessibleFacts Accessibility() override;
 
     // Text and selection.
 

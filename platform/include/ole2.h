@@ -1,6 +1,7 @@
 // OLE's functions as the Windows SDK names them.
 #pragma once
 
+#include "oaidl.h"
 #include "oleidl.h"
 #include "winerror.h"
 

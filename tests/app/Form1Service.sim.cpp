@@ -46,6 +46,21 @@ protected:
     }
 };
 
+/// A reader would say every second what it is told every second.
+TEST_F(Form1Service, PanelAtRest_TellsReadersNothing)
+{
+    Installed();
+    ASSERT_TRUE(Open());
+    pc.Advance(1000);
+    pc.Trace().Start();
+    pc.Advance(5000);
+    EXPECT_EQ(pc.Trace().Count("NotifyWinEvent"), 0U);
+    The<Services>().SetState(name, SERVICE_RUNNING);
+    pc.Advance(1000);
+    EXPECT_NE(pc.Trace().Count("NotifyWinEvent"), 0U);
+    pc.Trace().Stop();
+}
+
 TEST_F(Form1Service, EveryState_HasItsPanel)
 {
     Installed();

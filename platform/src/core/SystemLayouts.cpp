@@ -37,3 +37,4 @@ static_assert(sizeof(QUERY_SERVICE_CONFIGW) == Wide(64, 36) && offsetof(QUERY_SE
 static_assert(sizeof(WKSTA_USER_INFO_1) == Wide(32, 16) && offsetof(WKSTA_USER_INFO_1, wkui1_logon_domain) == Wide(8, 4));
 static_assert(sizeof(DLLVERSIONINFO) == 20 && sizeof(DROPFILES) == 20);
 static_assert(sizeof(FORMATETC) == Wide(32, 20) && offsetof(FORMATETC, tymed) == Wide(24, 16) && sizeof(STGMEDIUM) == Wide(24, 12));
+static_assert(sizeof(VARIANT) == Wide(24, 16) && offsetof(VARIANT, lVal) == 8);

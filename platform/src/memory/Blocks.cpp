@@ -15,7 +15,8 @@ void* Blocks::Allocate(std::size_t size, Kind kind)
     block->size = size;
     block->kind = kind;
     void* const memory = block->bytes.get();
-    handles_[memory] = pc_.Handles().Open(block);
+    std::uintptr_t& handle = handles_[memory];  // Made first: without memory for it nothing is open yet.
+    handle = pc_.Handles().Open(block);
     return memory;
 }
 

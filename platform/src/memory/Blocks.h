@@ -1,4 +1,4 @@
-// Blocks: memory that the system gives out by pointer and expects back: GlobalAlloc, network buffers.
+// Blocks: memory that the system gives out by pointer and expects back: GlobalAlloc, network buffers, automation's texts.
 #pragma once
 
 #include "platform/sim/SimPc.h"
@@ -12,7 +12,7 @@ namespace platform {
 
 class Blocks : public Area {
 public:
-    enum class Kind { Global, Net };
+    enum class Kind { Global, Net, Text };
     using Area::Area;
 
     /// Zeroed memory; a block that is never given back is a leak, named after the call that made it.

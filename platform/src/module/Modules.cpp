@@ -53,6 +53,9 @@ Modules::Modules(SimPc& pc) : Area(pc), loaded_(std::make_unique<LoadedModules>(
     Export(u"ntdll", "NtQuerySystemInformation", AsExport(&NtQuerySystemInformation));
     Export(u"advpack", "IsNTAdmin", AsExport(&IsNTAdmin));
     Export(u"oleacc", "GetProcessHandleFromHwnd", AsExport(&GetProcessHandleFromHwnd));
+    Export(u"oleacc", "LresultFromObject", AsExport(&LresultFromObject));
+    Export(u"oleacc", "ObjectFromLresult", AsExport(&ObjectFromLresult));
+    Export(u"oleacc", "CreateStdAccessibleObject", AsExport(&CreateStdAccessibleObject));
     Export(u"comctl32", "DllGetVersion", AsExport(&CommonControlsGetVersion));
 }
 

@@ -1,0 +1,110 @@
+// What only the stand-in PC shows: the events that readers are told, and a PC where they are not to be had.
+#include "controls/CheckBox/CheckBox.h"
+#include "controls/CommandButton/CommandButton.h"
+#include "controls/Frame/Frame.h"
+#include "platform/sim/SimPc.h"
+#include "tests/controls/FormFixture.h"
+#include "tests/support/FailingMemory.h"
+#include "tests/support/Reader.h"
+
+#include <functional>
+#include <optional>
+
+namespace tests {
+
+class AccessibleEvents : public FormFixture {
+protected:
+    void SetUp() override
+    {
+        Open(R"(CommandButton Push { Left = 150 Top = 150 Width = 1500 Height = 450 TabIndex = 1 Caption = "Push" }
+            CommandButton Toggle { Left = 150 Top = 900 Width = 1500 Height = 450 TabIndex = 2 ButtonType = 1 }
+            CheckBox Check { Left = 150 Top = 1500 Width = 1500 Height = 450 TabIndex = 3 Caption = "Check" }
+            Frame Group { Left = 4500 Top = 150 Width = 3000 Height = 1500 TabIndex = 4 Caption = "Group" })");
+    }
+    /// "name" and "state" for each event of the control's client area while `act` runs.
+    Lines EventsOf(std::string_view name, const std::function<void()>& act)
+    {
+        platform::CallTrace& trace = platform::SimPc::Current().Trace();
+        trace.Start();
+        act();
+        trace.Stop();
+        char window[32];
+        std::snprintf(window, sizeof window, ", 0x%llX, 0x",
+                      static_cast<unsigned long long>(reinterpret_cast<std::uintptr_t>(Any(name).hWnd())));
+        Lines events;
+        for (const platform::CallRecord& call : trace.Of("NotifyWinEvent")) {
+            EXPECT_NE(call.arguments.find(window), std::string::npos) << call.arguments;
+            EXPECT_TRUE(call.arguments.ends_with("FFFFFFFC, 0")) << call.arguments;
+            events.push_back(call.arguments.starts_with("0x800C,")   ? "name"
+                             : call.arguments.starts_with("0x800A,") ? "state"
+                                                                     : call.arguments);
+        }
+        return events;
+    }
+};
+
+TEST_F(AccessibleEvents, WhatWindowsCannotSee_IsTold)
+{
+    auto& push = Get<controls::CommandButton>("Push");
+    auto& toggle = Get<controls::CommandButton>("Toggle");
+    const struct {
+        const char* what;
+        const char* control;
+        std::function<void()> act;
+        Lines events;
+    } cases[] = {
+        {"caption", "Push", [&] { push.Caption(TEXT("Other")); }, {"name"}},
+        {"text for readers", "Push", [&] { push.ScreenReaderCaption(TEXT("Other")); }, {"name"}},
+        {"a press", "Push", [&] { SendMessageW(push.hWnd(), WM_KEYDOWN, VK_SPACE, 1); }, {"state"}},
+        {"its end", "Push", [&] { SendMessageW(push.hWnd(), WM_KEYUP, VK_SPACE, 1); }, {"state"}},
+        {"disabled", "Push", [&] { push.Enabled(false); }, {"state"}},
+        {"default", "Push", [&] { push.GetExtender().Default(true); }, {"state"}},
+        {"a redraw", "Push", [&] { push.Refresh(); }, {}},
+        {"on", "Toggle", [&] { toggle.Value(1); }, {"state"}},
+        {"off", "Toggle", [&] { toggle.Value(0); }, {"state"}},
+        {"the frame's caption", "Group", [&] { Get<controls::Frame>("Group").Caption(TEXT("Other")); }, {"name"}},
+        {"the frame disabled", "Group", [&] { Get<controls::Frame>("Group").Enabled(false); }, {"state"}},
+        {"a system window, which Windows sees",
+         "Check",
+         [&] {
+             Get<controls::CheckBox>("Check").Value(1);
+             Get<controls::CheckBox>("Check").Caption(TEXT("Other"));
+             Get<controls::CheckBox>("Check").Enabled(false);
+         },
+         {}},
+    };
+    for (const auto& [what, control, act, events] : cases)
+        EXPECT_EQ(EventsOf(control, act), events) << what;
+}
+
+TEST_F(AccessibleEvents, WithoutTheLibraryOrOle_WindowsAnswers)
+{
+    platform::Faults& faults = platform::SimPc::Current().GetFaults();
+    for (const char* const function : {"LoadLibraryExW", "GetProcAddress", "OleInitialize", "LresultFromObject"}) {
+        faults.FailAlways(function, ERROR_NOT_ENOUGH_MEMORY);
+        EXPECT_EQ(SendMessageW(Any("Push").hWnd(), WM_GETOBJECT, 0, OBJID_CLIENT), 0) << function;
+        faults.Clear();
+    }
+}
+
+/// Exceptions end inside: a reader is told of the shortage and gets no half of an answer.
+TEST_F(AccessibleEvents, WithoutMemory_NothingLeaves)
+{
+    const Reader reader = Reader::Of(SendMessageW(Any("Push").hWnd(), WM_GETOBJECT, 0, OBJID_CLIENT));
+    ASSERT_TRUE(reader);
+    Get<controls::CommandButton>("Push").Caption(TEXT("A caption that is too long to need no memory"));
+    bool struck = true, refused = false;
+    for (int n = 1; struck; ++n) {
+        BSTR name = nullptr;
+        std::optional<FailingMemory> failing(n);
+        const HRESULT result = reader->get_accName(itself, &name);
+        struck = FailingMemory::HasStruck();
+        failing.reset();
+        EXPECT_EQ(result, name ? S_OK : E_OUTOFMEMORY);
+        refused = refused || !name;
+        SysFreeString(name);
+    }
+    EXPECT_TRUE(refused);
+}
+
+}  // namespace tests
