@@ -89,8 +89,8 @@ TEST_F(Form1Layout, EveryControl_IsAsItWasDrawn)
         const char* toolTip = "";
     } design[] = {
         {"DFrame1", "Frame", "", "8,8 305x73", 12, "'Set Password (need restart Velmora)' " + sans},
-        {"TextPassword", "TextBox", "DFrame1", "80,32 209x19", 0, password, "Password to send for shutdown this PC"},
         {"Label1", "Label", "DFrame1", "16,33 57x17", -1, "'Password:' " + label},
+        {"TextPassword", "TextBox", "DFrame1", "80,32 209x19", 0, password, "Password to send for shutdown this PC"},
         {"FrameAutoStart", "Frame", "", "8,88 305x105", 14, "'Auto Start (optional)' " + sans},
         {"CheckAutoStart", "CheckBox", "FrameAutoStart", "16,24 ?x17", 1, "'Auto start when Windows starts' " + box,
          "Auto start ''Velmora.exe'' when Windows starts"},
