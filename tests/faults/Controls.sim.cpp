@@ -4,10 +4,12 @@
 #include "controls/RegisterControls.h"
 #include "controls/TextBox/TextBox.h"
 #include "controls/ThemeState.h"
+#include "host/Accessible.h"
 #include "host/Form.h"
 #include "host/MessageLoop.h"
 #include "platform/sim/Desktop.h"
 #include "tests/support/FaultSweep.h"
+#include "tests/support/Reader.h"
 
 #include <gtest/gtest.h>
 
@@ -57,6 +59,35 @@ TEST_P(ControlFaults, Creation)
         platform::SimPc::Current().Settle();
         form.Unload();
         EXPECT_EQ(form.hWnd(), nullptr);
+    });
+}
+
+/// A reader gets an answer or none, and the next time the whole of it.
+TEST_P(ControlFaults, ReadOut)
+{
+    FaultSweep([this](const auto& arm) {
+        host::Form form;
+        ASSERT_TRUE(Load(form)) << form.LoadError();
+        form.Show();
+        const HWND window = form.Controls().front()->hWnd();
+        const auto ask = [window] { return SendMessageW(window, WM_GETOBJECT, 0, OBJID_CLIENT); };
+        const auto readOut = [](const tests::Reader& reader) {
+            LONG left = -1, width = 0;
+            reader->accLocation(&left, &left, &width, &width, tests::itself);
+            return std::to_string(reader.Role()) + reader.Name() + reader.Value() + reader.Description() + std::to_string(width);
+        };
+        const tests::Reader reader(new host::Accessible(window));
+        reader->AddRef();
+        const std::string whole = readOut(reader);
+        EXPECT_NE(whole.find("A tip"), std::string::npos);
+        arm();
+        const LRESULT answer = ask();
+        readOut(reader);
+        platform::SimPc::Current().GetFaults().Clear();
+        if (answer > 0) {
+            EXPECT_EQ(readOut(tests::Reader::Of(answer)), whole);
+        }
+        EXPECT_EQ(readOut(tests::Reader::Of(ask())), whole);
     });
 }
 
