@@ -39,6 +39,7 @@ bool Form::Load(std::string_view formText, const ControlFactory& factory)
 {
     if (state_ != State::Made)
         return false;
+    ScreenResolution::Forget();
     Form_Initialize();
     const ParsedForm parsed = ParseForm(formText);
     if (!parsed.Ok())

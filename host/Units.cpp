@@ -4,6 +4,7 @@
 #include "base/Handles.h"
 
 #include <cmath>
+#include <optional>
 
 namespace host {
 
@@ -11,17 +12,23 @@ namespace {
 
 constexpr int twipsPerInch = 1440;
 
+std::optional<ScreenResolution> known;
+
 }  // namespace
 
 ScreenResolution ScreenResolution::Get()
 {
+    if (known)
+        return *known;
     const base::ScreenDc screen(GetDC(nullptr));
-    ScreenResolution resolution;
-    if (screen) {
-        resolution.x = GetDeviceCaps(screen.Get(), LOGPIXELSX);
-        resolution.y = GetDeviceCaps(screen.Get(), LOGPIXELSY);
-    }
-    return resolution;
+    if (!screen)
+        return {};
+    return known.emplace(ScreenResolution{GetDeviceCaps(screen.Get(), LOGPIXELSX), GetDeviceCaps(screen.Get(), LOGPIXELSY)});
+}
+
+void ScreenResolution::Forget()
+{
+    known.reset();
 }
 
 int TwipsToPixelsX(float twips)

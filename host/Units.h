@@ -8,11 +8,14 @@ namespace host {
 /// How a container counts positions and sizes.
 enum class ScaleMode : int { Twips = 1, Pixels = 3 };
 
-/// The screen's resolution in pixels per inch; 96 when no screen DC can be had.
+/// The screen's resolution in pixels per inch; 96 when no screen DC can be had. Windows keeps it the same as long as a program runs that
+/// does not follow each monitor's own.
 struct ScreenResolution {
     int x = 96;
     int y = 96;
+    /// Asked for once; every form that loads asks again.
     [[nodiscard]] static ScreenResolution Get();
+    static void Forget();
 };
 
 [[nodiscard]] int TwipsToPixelsX(float twips);
