@@ -98,6 +98,7 @@ void Form1::Form_Unload()
 void Form1::Say(controls::CommandButton& button, controls::Balloon::Icon icon, const String& tried, const String& text,
                 std::function<bool()> isOver)
 {
+    button.DestroyToolTip();  // it would lie over the balloon
     Notice.Show(button.hWnd(), icon, tried, text);
     NoticeIsOver = std::move(isOver);
 }

@@ -48,6 +48,8 @@ public:
 
     /// The tip's window while there is one.
     [[nodiscard]] HWND ToolTipWindow() const { return window_; }
+    /// Takes the tip away until the mouse comes in again.
+    void DestroyToolTip();
 
 protected:
     struct Settings {
@@ -84,7 +86,6 @@ protected:
     void MouseLeft();
     /// Takes over the plain tip text that the container keeps for the control.
     void AdoptExtenderToolTip();
-    void DestroyToolTip();
 
 private:
     void Notify(const WCHAR* name);

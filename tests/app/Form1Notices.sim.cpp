@@ -17,13 +17,14 @@ constexpr const char16_t* exe = u"C:\\Tools\\Velmora.exe";
 
 class Form1Notices : public testing::Test, protected tests::UtilityScene {
 protected:
-    HWND Balloon()
+    /// The balloon, or the plain tip that a button shows when the mouse rests on it.
+    HWND Balloon(bool plain = false)
     {
         for (const HWND window : The<Desktop>().Windows()) {
             WCHAR className[32]{};
             GetClassNameW(window, className, 32);
             if (className == base::StringView(TOOLTIPS_CLASSW) && IsWindowVisible(window) &&
-                (GetWindowLongW(window, GWL_STYLE) & TTS_BALLOON))
+                ((GetWindowLongW(window, GWL_STYLE) & TTS_BALLOON) == 0) == plain)
                 return window;
         }
         return nullptr;
@@ -105,7 +106,9 @@ TEST_F(Form1Notices, FailedClick_IsExplainedUntilItComesTrueOrTheUserActs)
             EXPECT_TRUE(Enabled(button)) << "to be tried again";
             EXPECT_EQ(GetForegroundWindow(), Form().hWnd());
             EXPECT_NE(GetFocus(), Balloon());
+            The<Desktop>().Hover(Form().Find(button)->hWnd(), 6, 5);
             pc.Advance(1900);
+            EXPECT_EQ(Balloon(true), nullptr) << "the button's tip lies over it";
             EXPECT_EQ(Said(), said) << "it stays";
             if (end == std::string_view("it comes true"))
                 comesTrue();
