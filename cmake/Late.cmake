@@ -1,5 +1,6 @@
 # Libraries that are bound when a function of theirs is first called, not when the program starts: import libraries made from cmake/late/*.def.
-# The numbers in those files are the bytes of the arguments, which belong to the name in 32-bit programs only.
+# The numbers in those files are the bytes of the arguments, which belong to the name in 32-bit programs only. The parts of a library have the
+# prefix in their names, which the tool else makes of its process's number.
 function(velmora_late_libraries target)
   add_library(${target} INTERFACE)
   foreach(name ${ARGN})
@@ -12,8 +13,8 @@ function(velmora_late_libraries target)
       string(REGEX REPLACE "@[0-9]+" "" text "${text}")
     endif()
     file(GENERATE OUTPUT "${undecorated}" CONTENT "${text}")
-    add_custom_command(OUTPUT "${library}" COMMAND ${CMAKE_DLLTOOL} --kill-at --input-def "${undecorated}" --output-delaylib "${library}"
-      DEPENDS "${undecorated}" VERBATIM)
+    add_custom_command(OUTPUT "${library}" COMMAND ${CMAKE_DLLTOOL} --kill-at --temp-prefix ${name}_ --input-def "${undecorated}"
+      --output-delaylib "${library}" DEPENDS "${undecorated}" VERBATIM)
     add_custom_target(late_${name} DEPENDS "${library}")
     add_dependencies(${target} late_${name})
     target_link_libraries(${target} INTERFACE "${library}")

@@ -8,7 +8,9 @@ if(WIN32)
   target_compile_definitions(velmora_settings INTERFACE UNICODE _UNICODE NOMINMAX WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0900)
   # The program has one thread, so that a static needs no lock.
   target_compile_options(velmora_settings INTERFACE -ffunction-sections -fdata-sections -fno-threadsafe-statics)
-  target_link_options(velmora_settings INTERFACE -Wl,--gc-sections -s)
+  # The same sources give the same bytes, wherever and whenever they are built.
+  target_compile_options(velmora_settings INTERFACE "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.")
+  target_link_options(velmora_settings INTERFACE -Wl,--gc-sections,--no-insert-timestamp -s)
 endif()
 
 if(NOT WIN32)

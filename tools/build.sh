@@ -37,9 +37,25 @@ known_dlls=' advapi32.dll gdi32.dll kernel32.dll msvcrt.dll ole32.dll oleaut32.d
 # It is to start at once, from a slow disk or over a network too. The tables of 32-bit programs for exceptions are larger.
 largest_x64=$((480 * 1024)) largest_x86=$((540 * 1024))
 
-# check_exe <exe>: what it binds at its start, and the guards that Windows lends to those who ask in their header.
+# The one place that the version stands in.
+project_version() { sed -n 's/^project(.* VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt; }
+
+# check_version <exe>: its properties and its manifest tell the project's version.
+check_version() {
+    local version wanted wrong=0 resources
+    version="$(project_version)"
+    resources="$(x86_64-w64-mingw32-windres --input-format=coff --output-format=rc "$1")"
+    for wanted in "FILEVERSION ${version//./, }, 0" "PRODUCTVERSION ${version//./, }, 0" \
+        "\"FileVersion\", \"$version.0\"" "\"ProductVersion\", \"$version\"" "name=\"\"Velmora.SetupUtility\"\" version=\"\"$version.0\"\""; do
+        grep -qF -e "$wanted" <<<"$resources" || { echo "$1 does not say $wanted"; wrong=1; }
+    done
+    return $wrong
+}
+
+# check_exe <exe>: what it binds at its start, the guards that Windows lends to those who ask in their header, and its version.
 check_exe() {
     local dll flag wrong=0 header largest
+    check_version "$1" || wrong=1
     for dll in $(imported_dlls "$1"); do
         [[ "$known_dlls" == *" $dll "* ]] || { echo "$1 binds $dll at its start"; wrong=1; }
     done
