@@ -37,7 +37,7 @@ known_dlls=' advapi32.dll gdi32.dll kernel32.dll msvcrt.dll ole32.dll oleaut32.d
 # It is to start at once, from a slow disk or over a network too. The tables of 32-bit programs for exceptions are larger.
 largest_x64=$((480 * 1024)) largest_x86=$((540 * 1024))
 
-# The one place that the version stands in.
+# The version, from the one place that it stands in.
 project_version() { sed -n 's/^project(.* VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt; }
 
 # check_version <exe>: its properties and its manifest tell the project's version.
