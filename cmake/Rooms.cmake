@@ -2,7 +2,7 @@
 
 add_library(velmora_settings INTERFACE)
 target_include_directories(velmora_settings INTERFACE "${CMAKE_SOURCE_DIR}")
-target_compile_options(velmora_settings INTERFACE -Wall -Wextra -Werror -Wshadow=local -Wnon-virtual-dtor -Woverloaded-virtual)
+target_compile_options(velmora_settings INTERFACE -Wall -Wextra $<$<BOOL:${VELMORA_STRICT}>:-Werror> -Wshadow=local -Wnon-virtual-dtor -Woverloaded-virtual)
 if(WIN32)
   # _WIN32_IE and WINVER open the declarations up to Windows 7, the oldest system that the manifest names.
   target_compile_definitions(velmora_settings INTERFACE UNICODE _UNICODE NOMINMAX WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0900)
