@@ -37,13 +37,13 @@ known_dlls=' advapi32.dll gdi32.dll kernel32.dll msvcrt.dll ole32.dll oleaut32.d
 # It is to start at once, from a slow disk or over a network too. The tables of 32-bit programs for exceptions are larger.
 largest_x64=$((480 * 1024)) largest_x86=$((540 * 1024))
 
-# The version, from the one place that it stands in.
-project_version() { sed -n 's/^project(.* VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt; }
+# The version, from the one place that it stands in: project_version <CMakeLists.txt>
+project_version() { sed -n 's/^project(.* VERSION \([0-9.]*\) .*/\1/p' "$1"; }
 
 # check_version <exe>: its properties and its manifest tell the project's version.
 check_version() {
     local version wanted wrong=0 resources
-    version="$(project_version)"
+    version="$(project_version CMakeLists.txt)"
     resources="$(x86_64-w64-mingw32-windres --input-format=coff --output-format=rc "$1")"
     for wanted in "FILEVERSION ${version//./, }, 0" "PRODUCTVERSION ${version//./, }, 0" \
         "\"FileVersion\", \"$version.0\"" "\"ProductVersion\", \"$version\"" "name=\"\"Velmora.SetupUtility\"\" version=\"\"$version.0\"\""; do
