@@ -20,6 +20,8 @@ public:
     [[nodiscard]] virtual HWND ContainerHandle() const = 0;
     /// How the controls' Left, Top, Width and Height count: the form's own mode on the form, twips everywhere else.
     [[nodiscard]] virtual ScaleMode ContainerScaleMode() const { return ScaleMode::Twips; }
+    /// Where the corner of the container stands in its window's client area: above and to the left of it where it is scrolled.
+    [[nodiscard]] virtual POINT ContainerOrigin() const { return {}; }
     [[nodiscard]] virtual OleColor ContainerBackColor() const = 0;
     [[nodiscard]] virtual OleColor ContainerForeColor() const = 0;
 

@@ -78,7 +78,8 @@ void Extender::Move(float left, float top, float width, float height)
 RECT Extender::PixelRect() const
 {
     const ScaleMode mode = container_->ContainerScaleMode();
-    const int left = ToPixelsX(left_, mode), top = ToPixelsY(top_, mode);
+    const POINT origin = container_->ContainerOrigin();
+    const LONG left = origin.x + ToPixelsX(left_, mode), top = origin.y + ToPixelsY(top_, mode);
     return {left, top, left + ToPixelsX(width_, mode), top + ToPixelsY(height_, mode)};
 }
 

@@ -1,8 +1,6 @@
 // Form: its life, its window and its properties. The controls are in FormControls.cpp, the messages in FormMessages.cpp.
 #include "host/Form.h"
 
-#include <algorithm>
-
 namespace host {
 
 namespace {
@@ -15,16 +13,6 @@ std::vector<Form*>& LoadedForms()
 }
 
 constexpr DWORD windowStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
-
-/// A window of this size in the middle of the screen's part that the task bar leaves free.
-RECT Centred(SIZE size)
-{
-    RECT area{};
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-    const LONG left = std::max(area.left, area.left + (area.right - area.left - size.cx) / 2);
-    const LONG top = std::max(area.top, area.top + (area.bottom - area.top - size.cy) / 2);
-    return {left, top, left + size.cx, top + size.cy};
-}
 
 }  // namespace
 
@@ -60,13 +48,17 @@ bool Form::Load(std::string_view formText, const ControlFactory& factory)
 
 bool Form::MakeWindow()
 {
-    RECT frame{0, 0, TwipsToPixelsX(static_cast<float>(clientWidth_)), TwipsToPixelsY(static_cast<float>(clientHeight_))};
-    AdjustWindowRectEx(&frame, windowStyle, FALSE, 0);
+    const SIZE content{TwipsToPixelsX(static_cast<float>(clientWidth_)), TwipsToPixelsY(static_cast<float>(clientHeight_))};
+    RECT area{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
     WindowShape shape;
     shape.style = windowStyle;
-    shape.place = Centred({frame.right - frame.left, frame.bottom - frame.top});
+    shape.place = scroll_.Fit(content, area, shape.style);
     shape.text = caption_;
-    return Make(shape);
+    if (!Make(shape))
+        return false;
+    scroll_.Show(hWnd());
+    return true;
 }
 
 void Form::Show()

@@ -6,6 +6,7 @@
 #include "host/ControlFactory.h"
 #include "host/Event.h"
 #include "host/FormFile.h"
+#include "host/FormScroll.h"
 #include "host/KeyRouting.h"
 #include "host/OwnWindow.h"
 #include "host/PropertyBag.h"
@@ -120,6 +121,8 @@ public:
     void OnPropertyChanged(Control& control, base::StringView name);
     /// Lets the form handle a key as its own. False when the code became 0; else wParam holds the code that goes on.
     bool HandleKey(KeyEvent event, WPARAM& wParam);
+    /// A key has been where it was pressed; in a form that is scrolled it may be one that turns its pages.
+    void ScrollByKey(const MSG& key) { scroll_.Key(hWnd(), key.hwnd, key.wParam); }
     /// Enters a control in the list of another container.
     static void MoveTo(Control& control, Container& from, Container& to);
     /// A number for a control's SetTimer on the form's window, and who ticks when it is due.
@@ -130,6 +133,7 @@ public:
 
     [[nodiscard]] HWND ContainerHandle() const final { return hWnd(); }
     [[nodiscard]] host::ScaleMode ContainerScaleMode() const final { return scaleMode_; }
+    [[nodiscard]] POINT ContainerOrigin() const final { return scroll_.Origin(); }
     [[nodiscard]] OleColor ContainerBackColor() const final { return backColor_; }
     [[nodiscard]] OleColor ContainerForeColor() const final { return foreColor_; }
 
@@ -163,6 +167,7 @@ private:
     base::String caption_;
     int clientWidth_ = 0;
     int clientHeight_ = 0;
+    FormScroll scroll_;
     bool keyPreview_ = false;
     bool rightToLeft_ = false;
     bool userMode_ = true;

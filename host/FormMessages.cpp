@@ -41,6 +41,8 @@ LRESULT Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
             ForwardToControls(message, wParam, lParam);
             break;
         default:
+            if (scroll_.On(hWnd(), message, wParam))
+                return 0;
             if (const auto event = KeyEventOf(message); event && !HandleKey(*event, wParam))
                 return 0;
     }
@@ -69,6 +71,8 @@ void Form::ForwardToControls(UINT message, WPARAM wParam, LPARAM lParam)
 
 void Form::Activate(Control* control)
 {
+    if (control && IsLoaded())
+        scroll_.Reveal(hWnd(), control->OwnHandle());
     if (active_ == control || !IsLoaded())
         return;
     passedOnFrom_ = nullptr;

@@ -156,6 +156,7 @@ bool RouteMessage(MSG& message)
         case WM_RBUTTONDOWN:
         case WM_NCLBUTTONDOWN:
         case WM_NCRBUTTONDOWN:
+        case WM_MOUSEWHEEL:
             form->UserActs();
             return false;
         case WM_SYSCHAR:
@@ -166,7 +167,11 @@ bool RouteMessage(MSG& message)
     const std::optional<KeyEvent> event = KeyEventOf(message.message);
     if (event == KeyEvent::Down)
         form->UserActs();
-    return event && RouteKey(*form, message);
+    if (!event || RouteKey(*form, message))
+        return event.has_value();
+    if (message.message == WM_KEYDOWN)
+        form->ScrollByKey(message);
+    return false;
 }
 
 }  // namespace host

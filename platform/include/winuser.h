@@ -9,4 +9,5 @@
 #include "winuser/metrics.h"
 #include "winuser/painting.h"
 #include "winuser/placement.h"
+#include "winuser/scroll.h"
 #include "winuser/window.h"

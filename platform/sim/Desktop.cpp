@@ -62,6 +62,18 @@ void Desktop::Dpi(int dotsPerInch)
     pc_.Get<Screen>().Dpi(dotsPerInch);
 }
 
+void Desktop::Resolution(int width, int height)
+{
+    pc_.Get<Screen>().Size({width, height});
+    Window& root = Tree().Desktop();
+    root.frame = root.client = {0, 0, width, height};
+    for (const WindowPtr& window : WindowTree::Children(root)) {
+        inner::SendMessage(window->handle, WM_DISPLAYCHANGE, 32, MAKELPARAM(width, height));
+        inner::SendMessage(window->handle, WM_SETTINGCHANGE, SPI_SETWORKAREA, 0);
+    }
+    Settle();
+}
+
 void Desktop::Settle()
 {
     pc_.Settle();

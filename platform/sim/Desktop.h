@@ -27,6 +27,8 @@ public:
     /// Dots per inch (96).
     [[nodiscard]] int Dpi() const;
     void Dpi(int dotsPerInch);
+    /// The screen gets another size (1280 by 800): every window is told.
+    void Resolution(int width, int height);
 
     // -- What the user does. Each step lets everybody handle what it causes (`SimPc::Settle`). Points are screen pixels --
 

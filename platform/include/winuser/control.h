@@ -34,6 +34,11 @@
 #define BST_FOCUS 0x0008
 
 // Edit. https://learn.microsoft.com/windows/win32/controls/edit-control-styles
+#define DLGC_WANTARROWS 0x0001
+#define DLGC_WANTALLKEYS 0x0004
+#define DLGC_HASSETSEL 0x0008
+#define DLGC_WANTCHARS 0x0080
+
 #define ES_CENTER 0x0001
 #define ES_RIGHT 0x0002
 #define ES_MULTILINE 0x0004

@@ -3,6 +3,8 @@
 
 #include "window.h"
 
+#include <climits>
+
 #define WM_CREATE 0x0001
 #define WM_DESTROY 0x0002
 #define WM_MOVE 0x0003
@@ -20,6 +22,7 @@
 #define WM_ERASEBKGND 0x0014
 #define WM_SYSCOLORCHANGE 0x0015
 #define WM_SHOWWINDOW 0x0018
+#define WM_SETTINGCHANGE 0x001A
 #define WM_ACTIVATEAPP 0x001C
 #define WM_CANCELMODE 0x001F
 #define WM_SETCURSOR 0x0020
@@ -36,6 +39,7 @@
 #define WM_CONTEXTMENU 0x007B
 #define WM_STYLECHANGING 0x007C
 #define WM_STYLECHANGED 0x007D
+#define WM_DISPLAYCHANGE 0x007E
 #define WM_GETICON 0x007F
 #define WM_SETICON 0x0080
 #define WM_NCCREATE 0x0081
@@ -44,6 +48,7 @@
 #define WM_NCHITTEST 0x0084
 #define WM_NCPAINT 0x0085
 #define WM_NCACTIVATE 0x0086
+#define WM_GETDLGCODE 0x0087
 #define WM_NCMOUSEMOVE 0x00A0
 #define WM_NCLBUTTONDOWN 0x00A1
 #define WM_NCRBUTTONDOWN 0x00A4
@@ -59,6 +64,8 @@
 #define WM_KEYLAST 0x0109
 #define WM_COMMAND 0x0111
 #define WM_SYSCOMMAND 0x0112
+#define WM_HSCROLL 0x0114
+#define WM_VSCROLL 0x0115
 #define WM_TIMER 0x0113
 #define WM_MOUSEFIRST 0x0200
 #define WM_MOUSEMOVE 0x0200
@@ -121,6 +128,7 @@
 #define CF_UNICODETEXT 13
 #define CF_HDROP 15
 #define WHEEL_DELTA 120
+#define WHEEL_PAGESCROLL UINT_MAX
 #define GET_X_LPARAM(value) (static_cast<int>(static_cast<short>(LOWORD(value))))
 #define GET_Y_LPARAM(value) (static_cast<int>(static_cast<short>(HIWORD(value))))
 #define GET_WHEEL_DELTA_WPARAM(value) (static_cast<short>(HIWORD(value)))

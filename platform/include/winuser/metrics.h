@@ -71,6 +71,7 @@
 #define COLOR_MENUBAR 30
 
 #define SPI_GETNONCLIENTMETRICS 0x0029
+#define SPI_SETWORKAREA 0x002F
 #define SPI_GETWORKAREA 0x0030
 #define SPI_GETWHEELSCROLLLINES 0x0068
 #define SPI_GETKEYBOARDCUES 0x100A
@@ -94,7 +95,19 @@ struct NONCLIENTMETRICSW {
     int iPaddedBorderWidth;
 };
 
+#define MONITOR_DEFAULTTONEAREST 0x00000002
+
+struct MONITORINFO {
+    DWORD cbSize;
+    RECT rcMonitor;
+    RECT rcWork;
+    DWORD dwFlags;
+};
+#define MONITORINFOF_PRIMARY 0x00000001
+
 int WINAPI GetSystemMetrics(int index);
+HMONITOR WINAPI MonitorFromWindow(HWND window, DWORD otherwise);
+BOOL WINAPI GetMonitorInfoW(HMONITOR monitor, MONITORINFO* info);
 DWORD WINAPI GetSysColor(int index);
 BOOL WINAPI SystemParametersInfoW(UINT action, UINT parameter, PVOID data, UINT flags);
 BOOL WINAPI SystemParametersInfoA(UINT action, UINT parameter, PVOID data, UINT flags);

@@ -65,6 +65,8 @@ LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam)
             if (Alive() && Focused() && !dropped_)
                 DropDown();
             return 0;
+        case WM_GETDLGCODE:
+            return DLGC_WANTARROWS | DLGC_WANTCHARS;
         case WM_MOUSEWHEEL:
             Turn(GET_WHEEL_DELTA_WPARAM(wParam));
             return 0;

@@ -76,6 +76,8 @@ LRESULT Edit::Handle(UINT message, WPARAM wParam, LPARAM lParam)
             return HandleMouse(message, wParam, lParam);
         case WM_CONTEXTMENU:
             return 0;  // Its menu opens, and nobody is there to choose from it.
+        case WM_GETDLGCODE:
+            return DLGC_HASSETSEL | DLGC_WANTCHARS | DLGC_WANTARROWS | (multiLine_ ? DLGC_WANTALLKEYS : 0);
         case WM_MOUSEWHEEL:
             if (!multiLine_)
                 return inner::DefWindowProc(window_, message, wParam, lParam);

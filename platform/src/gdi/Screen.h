@@ -16,6 +16,7 @@ public:
     void Dpi(int dotsPerInch) { dpi_ = dotsPerInch; }
     /// Pixels.
     [[nodiscard]] SIZE Size() const { return size_; }
+    void Size(SIZE pixels) { size_ = pixels; }
     [[nodiscard]] RECT WorkArea() const { return {0, 0, size_.cx, size_.cy - kTaskbarHeight}; }
 
 private:

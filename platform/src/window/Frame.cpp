@@ -66,6 +66,29 @@ void DrawCaption(Canvas& canvas, const Window& window, POINT corner)
     canvas.Text(window.text, caption, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
 }
 
+/// The groove and the thumb: as much of the groove as the page is of the range.
+void DrawScrollBars(Canvas& canvas, const Window& window, POINT corner)
+{
+    const Graphics& graphics = SimPc::Current().Get<Graphics>();
+    const RECT client = Shifted(window.client, -corner.x, -corner.y);
+    for (const int bar : {SB_HORZ, SB_VERT}) {
+        const bool vertical = bar == SB_VERT;
+        if (!(window.style & (vertical ? WS_VSCROLL : WS_HSCROLL)))
+            continue;
+        RECT groove = vertical ? RECT{client.right, client.top, client.right + Metric(SM_CXVSCROLL), client.bottom}
+                               : RECT{client.left, client.bottom, client.right, client.bottom + Metric(SM_CYHSCROLL)};
+        canvas.Fill(groove, graphics.SystemColor(COLOR_SCROLLBAR));
+        const Window::ScrollBar& state = window.scrollBars[bar];
+        const int range = std::max(state.maximum - state.minimum + 1, 1);
+        LONG& first = vertical ? groove.top : groove.left;
+        LONG& last = vertical ? groove.bottom : groove.right;
+        const LONG start = first, length = last - first;
+        first = start + length * (state.position - state.minimum) / range;
+        last = start + length * (state.position - state.minimum + static_cast<int>(state.page)) / range;
+        canvas.Fill(groove, graphics.SystemColor(COLOR_BTNSHADOW));
+    }
+}
+
 }  // namespace
 
 RECT FrameWidths(DWORD style, DWORD exStyle)
@@ -159,6 +182,7 @@ void PaintFrame(Window& window)
         }
         if (width > 0)
             canvas.Outline(whole, graphics.SystemColor(COLOR_WINDOWFRAME));
+        DrawScrollBars(canvas, window, corner);
         if (window.exStyle & WS_EX_CLIENTEDGE)
             canvas.Edge(edge, EDGE_SUNKEN, BF_RECT);
     }

@@ -119,6 +119,25 @@ int WINAPI GetSystemMetrics(int index)
     return Metric(index);
 }
 
+/// There is one monitor, and its number is 1.
+HMONITOR WINAPI MonitorFromWindow(HWND window, DWORD otherwise)
+{
+    SIM_NOTE(window, otherwise);
+    return AsHandle<HMONITOR>(1);
+}
+
+BOOL WINAPI GetMonitorInfoW(HMONITOR monitor, MONITORINFO* info)
+{
+    SIM_CALL(FALSE, ERROR_INVALID_MONITOR_HANDLE, monitor);
+    if (info->cbSize != sizeof *info)
+        return SimPc::Current().Fail(ERROR_INVALID_PARAMETER, FALSE);
+    const Screen& screen = SimPc::Current().Get<Screen>();
+    info->rcMonitor = {0, 0, screen.Size().cx, screen.Size().cy};
+    info->rcWork = screen.WorkArea();
+    info->dwFlags = MONITORINFOF_PRIMARY;
+    return TRUE;
+}
+
 BOOL WINAPI SystemParametersInfoW(UINT action, UINT parameter, PVOID data, UINT flags)
 {
     SIM_CALL(FALSE, ERROR_NOT_ENOUGH_MEMORY, action, parameter, data, flags);

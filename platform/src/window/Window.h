@@ -48,6 +48,12 @@ struct Window final : Object, std::enable_shared_from_this<Window> {
     RECT restored{};              // where it returns to when it is no longer minimised
     std::optional<Region> shape;  // SetWindowRgn, from the window's corner
 
+    struct ScrollBar {
+        int minimum = 0, maximum = 100, position = 0;
+        UINT page = 0;
+    };
+    ScrollBar scrollBars[2];  // SB_HORZ, SB_VERT
+
     LONG_PTR id = 0;  // identifier of a child, menu of the others
     HINSTANCE instance = nullptr;
     LONG_PTR userData = 0;
