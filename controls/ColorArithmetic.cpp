@@ -44,4 +44,10 @@ COLORREF Mix(COLORREF first, COLORREF second)
                mean(GetBValue(first), GetBValue(second)));
 }
 
+bool IsLighter(COLORREF color, COLORREF than)
+{
+    const auto brightness = [](COLORREF of) { return 3 * GetRValue(of) + 6 * GetGValue(of) + GetBValue(of); };
+    return brightness(color) > brightness(than);
+}
+
 }  // namespace controls

@@ -20,4 +20,7 @@ namespace controls {
 /// The mean of both, rounded to nearest.
 [[nodiscard]] COLORREF Mix(COLORREF first, COLORREF second);
 
+/// By what the eye makes of red, green and blue.
+[[nodiscard]] bool IsLighter(COLORREF color, COLORREF than);
+
 }  // namespace controls

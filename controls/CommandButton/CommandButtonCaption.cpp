@@ -17,8 +17,7 @@ void DrawCaption(Canvas& canvas, const CaptionLook& caption, int offset, COLORRE
 
 COLORREF CaptionColor(const ButtonLook& look, const CaptionLook& caption)
 {
-    const bool isGreyed = look.IsDisabled() && caption.effect != CaptionFxNone;
-    if (isGreyed)
+    if (look.IsDisabled())
         return GetSysColor(COLOR_GRAYTEXT);
     if (!look.useCustomColors)
         return GetSysColor(COLOR_BTNTEXT);
@@ -45,7 +44,8 @@ void PaintButtonCaption(Canvas& canvas, const ButtonLook& look, const CaptionLoo
 {
     SetBkMode(canvas.Dc(), TRANSPARENT);
     PaintEffect(canvas, caption);
-    if (look.IsDisabled() && caption.effect == CaptionFxNone) {
+    // Light and shadow of an engraving need a face that is neither: in a dark scheme both would be light, as text that is not greyed.
+    if (look.IsDisabled() && caption.effect == CaptionFxNone && !look.isSchemeDark) {
         DrawCaption(canvas, caption, 1, Shift(GetSysColor(COLOR_3DLIGHT), 40));
         DrawCaption(canvas, caption, 0, GetSysColor(COLOR_BTNSHADOW));
     } else {

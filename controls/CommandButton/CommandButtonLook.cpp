@@ -1,6 +1,7 @@
 // CommandButtonLook: from stored colours to those that are drawn.
 #include "controls/CommandButton/CommandButtonLook.h"
 
+#include "controls/ColorArithmetic.h"
 #include "controls/TranslateOleColor.h"
 
 namespace controls {
@@ -10,6 +11,7 @@ void ButtonLook::Resolve(const ButtonColors& colors)
     const COLORREF face = GetSysColor(COLOR_BTNFACE);
     const auto custom = [&](host::OleColor color) { return colors.custom ? host::ToRgb(color) : face; };
     useCustomColors = colors.custom;
+    isSchemeDark = IsLighter(GetSysColor(COLOR_BTNTEXT), face);
     ground = custom(colors.backDisabled);
     back = TranslateOleColor(IsDisabled() ? colors.backDisabled : colors.back);
     customBack = custom(colors.back);

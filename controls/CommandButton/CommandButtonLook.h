@@ -26,6 +26,7 @@ struct ButtonLook {
     bool isDefault = false;            // Enter presses this button
     bool hasFocus = false;
     bool useCustomColors = false;
+    bool isSchemeDark = false;     // light text on dark faces: nothing can be told by what is darker still
     COLORREF ground = 0;           // what the surface is cleared with when the button is disabled
     COLORREF back = 0;             // of the state: a disabled button has a property of its own for it
     COLORREF customBack = 0;       // the back colour, whatever the state, or the button face without colours of one's own

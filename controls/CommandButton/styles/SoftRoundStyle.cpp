@@ -39,7 +39,10 @@ Shades ShadesOf(COLORREF color, std::int32_t state)
 
 void PaintSoftRoundStyle(Canvas& canvas, const ButtonLook& look)
 {
-    const Shades shades = ShadesOf(look.Face(), look.state);
+    Shades shades = ShadesOf(look.Face(), look.state);
+    // Around a face that is dark itself no darker line can be seen.
+    if (look.isSchemeDark && !look.useCustomColors)
+        shades.frame = shades.corners = GetSysColor(look.IsDisabled() ? COLOR_GRAYTEXT : COLOR_BTNTEXT);
     const int width = canvas.Width();
     const int height = canvas.Height();
     canvas.Fill(canvas.Client(), shades.fill);

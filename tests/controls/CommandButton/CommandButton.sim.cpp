@@ -73,6 +73,27 @@ TEST_F(CommandButtonCalls, Caption_HasTheColoursOfItsStateAndEffect)
     EXPECT_EQ(Texts(StateNormal), Texts_{});
 }
 
+TEST_F(CommandButtonCalls, BlackScheme_ShowsTheDesignedButtonAndGreysItsCaption)
+{
+    auto& graphics = Pc().Get<platform::Graphics>();
+    constexpr COLORREF white = 0xFFFFFF, green = 0x3FF23F;
+    const std::pair<int, COLORREF> scheme[] = {
+        {COLOR_BTNFACE, 0}, {COLOR_BTNTEXT, white}, {COLOR_GRAYTEXT, green}, {COLOR_BTNSHADOW, 0x808080}, {COLOR_3DLIGHT, white}};
+    for (const auto& [index, color] : scheme)
+        graphics.SystemColor(index, color);
+    for (const auto& [state, color] :
+         {std::pair{controls::StateNormal, white}, {controls::StateHot, white}, {controls::StateDisabled, green}}) {
+        Show(state == controls::StateDisabled ? "Enabled = False" : "");
+        Button().Style(controls::SoftRoundStyle);
+        EXPECT_EQ(Texts(state), (std::vector<std::pair<LONG, COLORREF>>{{3, color}})) << state;
+        for (const auto& [x, y] : {std::pair{50, 0}, {0, 15}, {99, 15}, {50, 29}})
+            EXPECT_EQ(GetPixel(Button().GetSurface().Dc(), x, y), color) << state << " at " << x << ", " << y;
+    }
+    Show("USeCustomColors = 1 BackColor = 0x00C08040");
+    Button().Style(controls::SoftRoundStyle);
+    EXPECT_EQ(GetPixel(Button().GetSurface().Dc(), 50, 0), 0x6C2C00U) << "colours of one's own";
+}
+
 TEST_F(CommandButtonCalls, Window_IsCutOnlyWhenItsShapeChanges)
 {
     Show("ContourStyle = 2 RoundedValue = 9");
