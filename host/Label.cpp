@@ -1,7 +1,10 @@
 // Label: its caption.
 #include "host/Label.h"
 
+#include "base/Handles.h"
 #include "host/AccessibleFacts.h"
+
+#include <algorithm>
 
 #include <oleacc.h>
 
@@ -15,7 +18,21 @@ constexpr const WCHAR* captionKey = TEXT("Caption");
 
 StockControl::SystemWindow Label::Describe() const
 {
-    return {TEXT("Static"), SS_LEFT, caption_};
+    // In the manner of an edit control: a last line that is only partly visible is left out.
+    return {TEXT("Static"), SS_LEFT | SS_EDITCONTROL, caption_};
+}
+
+RECT Label::WindowRect(RECT place) const
+{
+    const base::ScreenDc screen(GetDC(nullptr));
+    TEXTMETRICW font{};
+    if (screen) {
+        const HGDIOBJ former = SelectObject(screen.Get(), Font()->Handle());
+        GetTextMetricsW(screen.Get(), &font);
+        SelectObject(screen.Get(), former);
+    }
+    place.bottom = std::max(place.bottom, place.top + font.tmHeight);
+    return place;
 }
 
 void Label::Caption(base::StringView caption)

@@ -5,7 +5,8 @@
 
 namespace host {
 
-/// A "Static" window. The letter after a single "&" in the caption is its access key and goes to the next control in tab order.
+/// A "Static" window that shows whole lines only. The letter after a single "&" in the caption is its access key and goes to the next
+/// control in tab order.
 class Label final : public StockControl {
 public:
     [[nodiscard]] base::StringView Kind() const override { return TEXT("Label"); }
@@ -16,6 +17,8 @@ public:
 
 private:
     [[nodiscard]] SystemWindow Describe() const override;
+    /// At least one line of its font high, however low the place.
+    [[nodiscard]] RECT WindowRect(RECT place) const override;
     void ReadProperties(const PropertyBag& bag) override;
     void WriteProperties(PropertyBag& bag) override;
 

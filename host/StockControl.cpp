@@ -70,6 +70,7 @@ void StockControl::Font(std::shared_ptr<host::Font> font)
     const std::shared_ptr<host::Font> former = std::exchange(font_, font ? std::move(font) : Ambient().Font());
     if (hWnd())
         SendMessageW(hWnd(), WM_SETFONT, reinterpret_cast<WPARAM>(font_->Handle()), TRUE);
+    Placed();
 }
 
 void StockControl::SetFocus()
@@ -83,10 +84,10 @@ void StockControl::SetFocus()
 
 void StockControl::Placed()
 {
+    if (!hWnd())
+        return;
     const RECT place = WindowRect(GetExtender().PixelRect());
-    if (hWnd())
-        SetWindowPos(hWnd(), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
-                     SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(hWnd(), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void StockControl::ContainerChanged()

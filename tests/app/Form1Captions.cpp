@@ -75,6 +75,24 @@ void ExpectWholeCaptions()
             EXPECT_LE(std::abs(ink.left + ink.right - button.GetSurface().ScaleWidth()), 4) << trace << " stands in the middle";
         }
     }
+    // A label's and a check box's line needs no more than its window.
+    for (host::Control* const control : form.Controls()) {
+        auto* const check = dynamic_cast<controls::CheckBox*>(control);
+        const auto* const label = dynamic_cast<host::Label*>(control);
+        if (!check && !label)
+            continue;
+        const String& text = check ? check->Caption() : label->Caption();
+        const base::ScreenDc screen(GetDC(nullptr));
+        const HGDIOBJ former = SelectObject(screen.Get(), reinterpret_cast<HFONT>(SendMessageW(control->hWnd(), WM_GETFONT, 0, 0)));
+        SIZE extent{};
+        GetTextExtentPoint32W(screen.Get(), text.c_str(), static_cast<int>(text.size()), &extent);
+        SelectObject(screen.Get(), former);
+        RECT client{};
+        GetClientRect(control->hWnd(), &client);
+        const std::string trace(text.begin(), text.end());
+        EXPECT_LE(extent.cy, client.bottom) << trace;
+        EXPECT_LE(extent.cx + (check ? GetSystemMetrics(SM_CXMENUCHECK) : 0), client.right) << trace;
+    }
     form.Unload();
 }
 

@@ -1,3 +1,4 @@
+#include "base/Handles.h"
 #include "host/ComboBox.h"
 #include "host/Label.h"
 #include "host/MessageLoop.h"
@@ -47,6 +48,42 @@ TEST_F(StockControls, Label_ShowsItsCaptionInItsFont)
     EXPECT_EQ(label.AccessKey(), TEXT(""));
     EXPECT_EQ(TextOf(label.hWnd()), TEXT("Plain &&"));
     EXPECT_EQ(font(), std::pair(base::String(TEXT("MS Sans Serif")), LONG{FW_NORMAL}));
+}
+
+TEST_F(StockControls, Label_ShowsWholeLinesOnly)
+{
+    auto& label = Get<host::Label>(TEXT("Caption"));
+    host::Extender& extender = label.GetExtender();
+    const auto sized = [&](float points) {
+        label.Font(std::make_shared<host::Font>(host::FontDescription{.size = points}));
+        RECT client{};
+        GetClientRect(label.hWnd(), &client);
+        return client.bottom;
+    };
+    // 17 pixels are enough for 11 and one line's leading, not for 32: the window grows and the place that is stored does not.
+    EXPECT_EQ(sized(8.25F), 17);
+    EXPECT_GE(sized(24), 32);
+    EXPECT_EQ(extender.Height(), 255);
+    EXPECT_EQ(sized(8.25F), 17);
+    // There is no room for the second word beside the first, nor for its line below.
+    extender.Width(600);
+    const auto picture = [&](base::StringView caption) {
+        label.Caption(caption);
+        const base::MemoryDc dc(CreateCompatibleDC(nullptr));
+        BITMAPINFO info{};
+        info.bmiHeader = {sizeof info.bmiHeader, 40, -17, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+        void* bits = nullptr;
+        const base::BitmapHandle bitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+        const HGDIOBJ former = SelectObject(dc.Get(), bitmap.Get());
+        SendMessageW(label.hWnd(), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.Get()), 0);
+        std::vector<COLORREF> pixels;
+        for (int place = 0; place < 40 * 17; ++place)
+            pixels.push_back(GetPixel(dc.Get(), place % 40, place / 40));
+        SelectObject(dc.Get(), former);
+        return pixels;
+    };
+    EXPECT_EQ(picture(TEXT("Two lines")), picture(TEXT("Two")));
+    EXPECT_NE(picture(TEXT("Two")), picture(TEXT("")));
 }
 
 TEST_F(StockControls, Combo_RaisesClickWhenTheSelectionChanges)

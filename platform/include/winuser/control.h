@@ -101,6 +101,7 @@
 
 // Static. https://learn.microsoft.com/windows/win32/controls/static-control-styles
 #define SS_LEFT 0x0000
+#define SS_EDITCONTROL 0x2000
 
 // Message boxes. https://learn.microsoft.com/windows/win32/api/winuser/nf-winuser-messageboxindirectw
 #define MB_OK 0x00000000

@@ -48,9 +48,9 @@ protected:
 private:
     [[nodiscard]] UINT Format() const
     {
-        if (Style() & 0xFFFF)
+        if (Style() & 0xFFFF & ~SS_EDITCONTROL)
             SimPc::Current().Unsupported("Static: style " + std::to_string(Style() & 0xFFFF));
-        return DT_EXPANDTABS | DT_LEFT | DT_WORDBREAK;
+        return DT_EXPANDTABS | DT_LEFT | DT_WORDBREAK | (Style() & SS_EDITCONTROL ? DT_EDITCONTROL : 0u);
     }
 };
 

@@ -207,6 +207,8 @@ int DrawTextIn(DeviceContext& dc, std::u16string_view text, RECT& rectangle, UIN
     const int available = rectangle.right - rectangle.left;
     int y = top;
     for (const Line& line : lines) {
+        if (format & DT_EDITCONTROL && !(format & DT_NOCLIP) && y + face.Height() > rectangle.bottom)
+            break;
         const bool shortens = format & (DT_END_ELLIPSIS | DT_WORD_ELLIPSIS);
         const int width = shortens ? std::min(block.Width(line), available) : block.Width(line);
         const POINT at = dc.ToImage(POINT{AlignedLeft(rectangle, width, format), y});
