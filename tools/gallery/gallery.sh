@@ -1,5 +1,5 @@
 # The controls to play with, and the pictures in docs/.
-# the controls live, with their properties; without a display renews the pictures in docs/; --draw, --sheet: see tools/gallery/Gallery.h
+# the controls live, with their properties; without a display renews the pictures in docs/; --screens, --draw, --sheet: see tools/gallery
 . tools/run.sh
 
 # import_window <file> <geometry>: the window and what stands over it.
@@ -65,6 +65,36 @@ pictures() {
     ls -l "$root"/docs/*.png
 }
 
+# screen_picture <dots an inch> <display size> <file> [pose...]: the utility's window on such a screen, in a session of its own.
+screen_picture() {
+    local dots="$1" display_size="$2" file="$3"
+    shift 3
+    (
+        run_prefix="$run_prefix-$dots"
+        wine_clone "$run_prefix"
+        wine_set_resolution "$run_prefix" "$dots"
+        run_started=()
+        trap 'run_end; rm -rf "$run_prefix"' EXIT
+        virtual_display
+        cd "$run_folder"
+        open_window "$exe_name"
+        [ $# -eq 0 ] || pose "$@"
+        sleep 2
+        import -window root -trim +repage -strip "$root/docs/images/$file"
+        close_window
+    )
+}
+
+# The window in every resolution that Windows offers, and where the screen is too low for it.
+screens() {
+    prepare
+    mkdir -p "$root/docs/images"
+    local dots
+    for dots in 96 120 144 192; do screen_picture "$dots" 1000x1300 "window-$dots.png"; done
+    screen_picture 192 1366x768 window-192-scrolled.png scroll
+    ls -l "$root"/docs/images/*.png
+}
+
 # A picture of one face or of a sheet of them, with the words that tools/gallery/Gallery.h lists. draw <native or windows> <words...>
 draw() {
     local preset="$1" words file
@@ -82,6 +112,7 @@ draw() {
 
 case "${1:-}" in
 --native) shift && draw native "$@" ;;
+--screens) screens ;;
 --draw | --sheet) draw windows "$@" ;;
 *) if [ -n "${DISPLAY:-}" ]; then live; else pictures; fi ;;
 esac

@@ -3,6 +3,7 @@
 //     gallery             every control, live, with its properties to play with
 //     gallery themed      the utility's window with visual styles, until it is closed
 //     gallery hover 9 5   rests the mouse on a point of the running utility's window
+//     gallery scroll      scrolls the running utility's window to its lower end
 //     gallery close       closes the running utility
 //
 // and what Gallery.h lists.
@@ -25,6 +26,8 @@ int main(int count, char** words)
     const HWND window = FindWindowW(nullptr, TEXT("Velmora Setup Utility"));
     if (window && verb == "hover" && count == 4)
         return gallery::Hover(window, std::atoi(words[2]), std::atoi(words[3]));
+    if (window && verb == "scroll")
+        return PostMessageW(window, WM_VSCROLL, SB_BOTTOM, 0) ? 0 : 1;
     if (window && verb == "close")
         return PostMessageW(window, WM_CLOSE, 0, 0) ? 0 : 1;
     return 2;
