@@ -54,7 +54,7 @@ FOLDERS = {
 FOLDERS['platform/sim'] = [folder for folder in FOLDERS if folder.startswith('platform/src/')]
 CODE = ('.h', '.cpp')
 # What is compiled for Windows alone, beside `*.win.cpp`: it meets the real headers, so that the stand-in PC owes it nothing.
-WINDOWS_ONLY = ('tests/e2e/', 'tests/helper/', 'tools/agent/', 'tools/gallery/Live', 'tools/gallery/Poses')
+WINDOWS_ONLY = ('tests/e2e/', 'tests/helper/', 'tools/agent/', 'tools/bench/start/', 'tools/gallery/Live', 'tools/gallery/Poses')
 # Pages whose C++ blocks are lines of a test program.
 EXAMPLES = {'docs/toolkit.md': 'tests/toolkit/Examples.cpp'}
 UNFINISHED = re.compile(r'\b(' + '|'.join(['TO' + 'DO', 'FIX' + 'ME', 'X' + 'XX', 'HA' + 'CK']) + r')\b')
