@@ -5,7 +5,7 @@
 
 namespace controls {
 
-/// Raised by `DSubclass::Enable` when memory for the heap, its block or its published name is not to be had.
+/// Raised by `DSubclass::Enable` when there is no memory for the heap, its block or its published name.
 class OutOfMemory : public std::exception {
 public:
     static constexpr int number = 7;

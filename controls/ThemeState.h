@@ -11,7 +11,7 @@ namespace controls {
 /// Visual styles come and go while the process runs, but the version of its common controls does not: that is asked once and kept.
 class ThemeState {
 public:
-    /// Gives the major version of the common controls, 0 when it is not to be had.
+    /// Gives the major version of the common controls, 0 when it is unavailable.
     using VersionQuery = std::function<DWORD()>;
 
     /// The state that all controls of the process share.

@@ -18,7 +18,7 @@ LRESULT Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
             Fill(reinterpret_cast<HDC>(wParam));
             return 1;
         case WM_PAINT:
-            // A window that stands on the form may ask for the background behind it and gives a DC for it.
+            // A child window may ask for the background behind it and gives a DC for it.
             if (wParam == 0)
                 break;
             Fill(reinterpret_cast<HDC>(wParam));

@@ -39,7 +39,7 @@ protected:
     ~OleDragEvents() = default;
 };
 
-/// The way from COM's objects to the control. Other programs may keep those longer than the control lives; then it leads nowhere.
+/// The way from COM's objects to the control. Other programs may keep those longer than the control lives; afterwards it does nothing.
 struct OleDragLink {
     OleDragEvents* control = nullptr;
     bool dragging = false;
