@@ -28,7 +28,8 @@ public:
     /// Installs the object on `window`, after taking it off the one before. False for a dead window, for a window that refuses, and
     /// when the window before does not let go. Raises `OutOfMemory` with everything undone that this call had made.
     bool Enable(HWND window);
-    /// Like `Enable`, but lack of memory too just returns false: a control whose window cannot be watched still stands and can be programmed.
+    /// Like `Enable`, but lack of memory too just returns false: a control whose window cannot be watched still stands and can be
+    /// programmed.
     bool TryEnable(HWND window) noexcept;
     /// Takes the object off its window. False when it was not installed, when a live window does not let go (it then stays installed),
     /// and when the window was gone already (it is then not installed any more).
