@@ -45,7 +45,7 @@ String TextFromCodes(StringView codes)
 
 /// A default: the colour itself, not its place in the scheme.
 template <int Index>
-constexpr auto SystemRgb = [](CommandButton&) { return GetSysColor(Index); };
+constexpr auto systemRgb = [](CommandButton&) { return GetSysColor(Index); };
 
 }  // namespace
 
@@ -93,9 +93,9 @@ const PropertyTable<CommandButton>& CommandButton::Properties()
         StoredAs<B, uint8_t>(TEXT("USeCustomColors"), &B::useCustomColors_, 0),
         StoredAs<B, uint32_t>(TEXT("BackColor"), &B::backColor_, face),
         StoredAs<B, uint32_t>(TEXT("BackColorDisabled"), &B::backColorDisabled_, face),
-        StoredAs<B, uint32_t>(TEXT("HighlightColor"), &B::highLightColor_, SystemRgb<COLOR_HIGHLIGHT>),
-        StoredAs<B, uint32_t>(TEXT("FontColor"), &B::fontColor_, SystemRgb<COLOR_BTNTEXT>),
-        StoredAs<B, uint32_t>(TEXT("FontHighlightColor"), &B::fontHighlightColor_, SystemRgb<COLOR_BTNTEXT>),
+        StoredAs<B, uint32_t>(TEXT("HighlightColor"), &B::highLightColor_, systemRgb<COLOR_HIGHLIGHT>),
+        StoredAs<B, uint32_t>(TEXT("FontColor"), &B::fontColor_, systemRgb<COLOR_BTNTEXT>),
+        StoredAs<B, uint32_t>(TEXT("FontHighlightColor"), &B::fontHighlightColor_, systemRgb<COLOR_BTNTEXT>),
         StoredAs<B, String>(TEXT("Tooltiptitle"), Tip<B, &Settings::title>(), nullptr, WhenDefault::Stored),
         StoredAs<B, int32_t>(TEXT("ToolTipIcon"), Tip<B, &Settings::icon>(), 0, WhenDefault::Stored),
         StoredAs<B, uint8_t>(TEXT("TooltipBalloon"), Tip<B, &Settings::balloon>(), 0, WhenDefault::Stored),
