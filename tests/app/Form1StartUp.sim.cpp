@@ -175,4 +175,17 @@ TEST_F(Form1StartUp, Closing_LetsGoOfEverything)
     EXPECT_EQ(The<Desktop>().TimersOf(SimPc::Own().process), 0u);
 }
 
+TEST_F(Form1StartUp, ThousandTicks_HoldNoMoreThanTen)
+{
+    ASSERT_TRUE(Open());
+    The<Processes>().Launch(u"C:\\Tools\\Velmora.exe");
+    The<Services>().Install(u"Velmora", u"\"C:\\Tools\\Velmora.exe\"");
+    pc.Advance(10'000);
+    const std::size_t handles = pc.Handles().Count(), windows = The<Desktop>().Windows().size();
+    EXPECT_GT(windows, 0u);
+    pc.Advance(990'000);
+    EXPECT_EQ(pc.Handles().Count(), handles);
+    EXPECT_EQ(The<Desktop>().Windows().size(), windows);
+}
+
 }  // namespace
