@@ -1,4 +1,4 @@
-// Heap memory is overwritten before it is given back: what passes through a text on its way, a password above all, leaves no copy behind.
+// What C++ objects held in the heap is overwritten before it is given back: a password on its way through texts leaves no copy there.
 #include <malloc.h>
 #include <windows.h>
 
