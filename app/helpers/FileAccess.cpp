@@ -64,17 +64,6 @@ std::vector<BYTE> SecurityOf(const String& path)
     return descriptor;
 }
 
-/// AccessCheck takes an impersonation token only, which a process gets by impersonating itself.
-base::KernelHandle OwnToken()
-{
-    base::KernelHandle token;
-    if (ImpersonateSelf(SecurityDelegation)) {
-        OpenThreadToken(GetCurrentThread(), TOKEN_QUERY, TRUE, token.Receive());
-        RevertToSelf();
-    }
-    return token;
-}
-
 /// The process's token in which the group of the administrators counts only where it is denied something.
 /// https://learn.microsoft.com/windows/win32/api/securitybaseapi/nf-securitybaseapi-createrestrictedtoken
 base::KernelHandle OrdinaryToken()
@@ -90,17 +79,32 @@ base::KernelHandle OrdinaryToken()
     return token;
 }
 
-PathAccess Check(std::vector<BYTE>& descriptor, DWORD mask, HANDLE token)
+PathAccess Check(std::vector<BYTE>& descriptor, DWORD mask, const base::KernelHandle& token)
 {
+    if (!token)
+        return PathAccess::Failed;
     GENERIC_MAPPING mapping = {FILE_GENERIC_READ, FILE_GENERIC_WRITE, FILE_GENERIC_EXECUTE, FILE_ALL_ACCESS};
     MapGenericMask(&mask, &mapping);
     alignas(PRIVILEGE_SET) std::array<BYTE, 32> privileges{};
     DWORD privilegesSize = static_cast<DWORD>(privileges.size());
     DWORD grantedMask = 0;
     BOOL status = FALSE;
-    AccessCheck(descriptor.data(), token, mask, &mapping, reinterpret_cast<PRIVILEGE_SET*>(privileges.data()), &privilegesSize,
+    AccessCheck(descriptor.data(), token.Get(), mask, &mapping, reinterpret_cast<PRIVILEGE_SET*>(privileges.data()), &privilegesSize,
                 &grantedMask, &status);
     return status ? PathAccess::Granted : PathAccess::Denied;
+}
+
+/// AccessCheck takes an impersonation token only, which a process gets by impersonating itself.
+PathAccess CheckImpersonating(std::vector<BYTE>& descriptor, DWORD mask)
+{
+    if (!ImpersonateSelf(SecurityDelegation))
+        return PathAccess::Failed;
+    base::KernelHandle token;
+    OpenThreadToken(GetCurrentThread(), TOKEN_QUERY, TRUE, token.Receive());
+    const PathAccess result = Check(descriptor, mask, token);
+    token.Reset();
+    RevertToSelf();
+    return result;
 }
 
 }  // namespace
@@ -118,8 +122,8 @@ PathAccess CheckPathAccess(StringView path, int code, bool isFolder, Asker asker
     std::vector<BYTE> descriptor = SecurityOf(target);
     if (descriptor.empty())
         return PathAccess::Failed;
-    const base::KernelHandle token = asker == Asker::CurrentUser ? OwnToken() : OrdinaryToken();
-    return token ? Check(descriptor, AccessMask(code, isFolder), token.Get()) : PathAccess::Failed;
+    const DWORD mask = AccessMask(code, isFolder);
+    return asker == Asker::CurrentUser ? CheckImpersonating(descriptor, mask) : Check(descriptor, mask, OrdinaryToken());
 }
 
 PathAccess CheckFolderAccess(StringView folder, int code)

@@ -45,6 +45,19 @@ TEST_F(FileAccess, Codes_AskForTheirRights)
     EXPECT_EQ(pc.Get<Users>().Impersonation(), std::nullopt);
 }
 
+TEST_F(FileAccess, CurrentUser_IsAskedWhileImpersonated)
+{
+    pc.Trace().Start();
+    EXPECT_EQ(CheckFolderAccess(TEXT("C:\\Tools"), ReadAccess), PathAccess::Granted);
+    std::string calls;
+    for (const auto& call : pc.Trace().Records())
+        for (const char* const wanted :
+             {"ImpersonateSelf", "OpenThreadToken", "MapGenericMask", "AccessCheck", "CloseHandle", "RevertToSelf"})
+            if (call.name == wanted)
+                calls += call.name + " ";
+    EXPECT_EQ(calls, "ImpersonateSelf OpenThreadToken MapGenericMask AccessCheck CloseHandle RevertToSelf ");
+}
+
 TEST_F(FileAccess, EachFolderRight_IsNeeded)
 {
     pc.Get<Users>().Administrator(false);
