@@ -8,8 +8,8 @@ HDC Surface::Dc()
     if (!dc_)
         return nullptr;
     SelectFont();
-    if (window_)
-        InvalidateRect(window_, nullptr, FALSE);
+    if (window_ && !isMarked_)
+        isMarked_ = InvalidateRect(window_, nullptr, FALSE) != FALSE;
     return dc_.Get();
 }
 

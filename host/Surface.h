@@ -17,8 +17,9 @@ public:
     Surface(const Surface&) = delete;
     Surface& operator=(const Surface&) = delete;
 
-    /// The memory DC on the 32-bit picture; asking for it marks the window for a repaint. The same DC until the size changes, NULL when
-    /// there is none. The surface's font is selected in it; whatever else is selected must be taken out again.
+    /// The memory DC on the 32-bit picture; asking for it marks the window for a repaint, unless it waits for one since it was last asked
+    /// for. The same DC until the size changes, NULL when there is none. The surface's font is selected in it; whatever else is selected
+    /// must be taken out again.
     [[nodiscard]] HDC Dc();
     /// Fills the picture with the background colour.
     void Clear();
@@ -36,7 +37,13 @@ public:
     // The user control does these.
 
     /// Binds the surface to its window (NULL unbinds).
-    void Attach(HWND window) { window_ = window; }
+    void Attach(HWND window)
+    {
+        window_ = window;
+        isMarked_ = false;
+    }
+    /// The window is being repainted: what is drawn from now on marks it again.
+    void Painted() { isMarked_ = false; }
     /// A new empty picture of this size, filled with the background colour.
     void Resize(SIZE size);
     /// Copies the picture to `target`, whole.
@@ -47,6 +54,7 @@ private:
     void SelectFont();
 
     HWND window_ = nullptr;
+    bool isMarked_ = false;  // the window waits for a repaint
     SIZE size_{};
     base::MemoryDc dc_;
     base::BitmapHandle picture_;

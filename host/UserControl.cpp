@@ -141,6 +141,7 @@ void UserControl::Paint()
     if (!OwnHandle())
         return;
     const WindowPaint paint(OwnHandle());
+    surface_.Painted();
     if (paint.Dc())
         surface_.CopyTo(paint.Dc());
 }

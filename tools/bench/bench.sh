@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# the toolkit's enumerations beside Windows' own, on 1,000 and 10,000 windows; the button's faces beside the theme's ("faces": only these); "start": the utility beside a bare window
+# the toolkit's enumerations beside Windows' own, on 1,000 and 10,000 windows; the button's faces beside the theme's ("faces": only these); "start": the utility beside a bare window and one with the same windows
 setup_packages
 if [ "${1:-}" = start ]; then
     can_build_windows && wine_available || { echo "Wine or the compiler for Windows is not here" >&2; exit 1; }

@@ -1,8 +1,12 @@
-// The start of two programs, one after the other and again: from CreateProcessW to the window that answers, and to the first rest.
+// The start of some programs, one after the other and again: from CreateProcessW to the window that answers, and to the first rest; and how
+// much memory that took.
 #include <windows.h>
+
+#include <psapi.h>
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -12,7 +16,8 @@ struct Program {
     const char* name;
     const WCHAR* variable;
     const WCHAR* windowClass;
-    std::vector<double> shown{}, idle{};
+    const WCHAR* argument = TEXT("");
+    std::vector<double> shown{}, idle{}, megabytes{};
 };
 
 double Milliseconds()
@@ -30,11 +35,12 @@ bool Run(Program& program)
     std::wstring exe = (path[0] == L'/' ? L"Z:" : L"") + std::wstring(path);
     std::replace(exe.begin(), exe.end(), L'/', L'\\');
     const std::wstring folder = exe.substr(0, exe.rfind(L'\\'));
+    std::wstring commandLine = TEXT('"') + exe + TEXT("\" ") + program.argument;
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process{};
     const double begin = Milliseconds();
-    if (!CreateProcessW(exe.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(), &startup, &process)) {
+    if (!CreateProcessW(exe.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(), &startup, &process)) {
         std::printf("%s does not start: %lu\n", program.name, GetLastError());
         return false;
     }
@@ -50,6 +56,9 @@ bool Run(Program& program)
     program.shown.push_back(Milliseconds() - begin);
     WaitForInputIdle(process.hProcess, 30'000);
     program.idle.push_back(Milliseconds() - begin);
+    PROCESS_MEMORY_COUNTERS memory{};
+    GetProcessMemoryInfo(process.hProcess, &memory, sizeof memory);
+    program.megabytes.push_back(static_cast<double>(memory.PeakWorkingSetSize) / 1'048'576);
     PostMessageW(window, WM_CLOSE, 0, 0);
     WaitForSingleObject(process.hProcess, 30'000);
     CloseHandle(process.hThread);
@@ -68,6 +77,7 @@ double Median(std::vector<double> times)
 int main()
 {
     Program programs[] = {{"bare window", TEXT("VELMORA_BARE"), TEXT("BareWindow")},
+                          {"its windows", TEXT("VELMORA_BARE"), TEXT("BareWindow"), TEXT("windows")},
                           {"utility", TEXT("VELMORA_UTILITY"), TEXT("VelmoraForm")}};
     for (int round = 0; round < 21; ++round)
         for (Program& program : programs)
@@ -77,10 +87,11 @@ int main()
         // The first one warms up the disk.
         program.shown.erase(program.shown.begin());
         program.idle.erase(program.idle.begin());
-        std::printf("%-12s shown %6.0f ms, idle %6.0f ms (median of %zu)\n", program.name, Median(program.shown), Median(program.idle),
-                    program.shown.size());
+        std::printf("%-12s shown %6.0f ms, idle %6.0f ms, at most %.1f MB in memory (median of %zu)\n", program.name, Median(program.shown),
+                    Median(program.idle), Median(program.megabytes), program.shown.size());
     }
-    std::printf("ratio        shown %6.2f,    idle %6.2f\n", Median(programs[1].shown) / Median(programs[0].shown),
-                Median(programs[1].idle) / Median(programs[0].idle));
+    for (int other = 1; other < std::ssize(programs); ++other)
+        std::printf("%-12s shown %6.2f,    idle %6.2f times the bare window\n", programs[other].name,
+                    Median(programs[other].shown) / Median(programs[0].shown), Median(programs[other].idle) / Median(programs[0].idle));
     return 0;
 }
