@@ -34,6 +34,10 @@ LRESULT NonClientPress(Window& window, WPARAM hit)
         case HTCAPTION:
             inner::SetActiveWindow(window.TopLevel().handle);
             break;
+        case HTVSCROLL:
+        case HTHSCROLL:
+            SimPc::Current().Unsupported("a press on a scroll bar");
+            break;
         default:
             break;
     }

@@ -3,22 +3,17 @@
 #include "platform/src/core/Gate.h"
 #include "platform/src/file/FileTree.h"
 #include "platform/src/text/Buffers.h"
+#include "platform/src/user/Sids.h"
 #include "platform/src/user/Token.h"
 
 #include <windows.h>
 
-#include <array>
 #include <cstring>
 #include <vector>
 
 using namespace platform;
 
 namespace {
-
-// S-1-5-32-544 and S-1-5-32-545: the groups of administrators and of users.
-using Sid = std::array<BYTE, 16>;
-constexpr Sid kAdministrators = {1, 2, 0, 0, 0, 0, 0, 5, 32, 0, 0, 0, 0x20, 2, 0, 0};
-constexpr Sid kUsers = {1, 2, 0, 0, 0, 0, 0, 5, 32, 0, 0, 0, 0x21, 2, 0, 0};
 
 constexpr DWORD kAnyGeneric = GENERIC_READ | GENERIC_WRITE | GENERIC_EXECUTE | GENERIC_ALL;
 
@@ -112,35 +107,6 @@ BOOL WINAPI GetFileSecurityW(LPCWSTR name, SECURITY_INFORMATION requested, PSECU
     return TRUE;
 }
 
-BOOL WINAPI CreateWellKnownSid(WELL_KNOWN_SID_TYPE kind, PSID domain, PSID sid, DWORD* size)
-{
-    SIM_CALL(FALSE, ERROR_INVALID_PARAMETER, static_cast<int>(kind));
-    SimPc& pc = SimPc::Current();
-    if (kind != WinBuiltinAdministratorsSid || domain || *size < kAdministrators.size())
-        return pc.Fail(ERROR_INVALID_PARAMETER, FALSE);
-    std::memcpy(sid, kAdministrators.data(), kAdministrators.size());
-    *size = static_cast<DWORD>(kAdministrators.size());
-    return TRUE;
-}
-
-BOOL WINAPI CreateRestrictedToken(HANDLE token, DWORD flags, DWORD disabledCount, PSID_AND_ATTRIBUTES disabled, DWORD deletedCount,
-                                  PLUID_AND_ATTRIBUTES, DWORD restrictedCount, PSID_AND_ATTRIBUTES, PHANDLE made)
-{
-    SIM_CALL(FALSE, ERROR_ACCESS_DENIED, token, flags);
-    SimPc& pc = SimPc::Current();
-    const auto opened = pc.Handles().Find<Token>(token);
-    if (!opened)
-        return pc.Fail(ERROR_INVALID_HANDLE, FALSE);
-    if (!opened->Grants(TOKEN_DUPLICATE))
-        return pc.Fail(ERROR_ACCESS_DENIED, FALSE);
-    // One kind is known here: without the group of the administrators.
-    if (disabledCount != 1 || std::memcmp(disabled->Sid, kAdministrators.data(), kAdministrators.size()) != 0 || deletedCount != 0 ||
-        restrictedCount != 0)
-        return pc.Fail(ERROR_INVALID_PARAMETER, FALSE);
-    *made = AsHandle<HANDLE>(pc.Handles().Open(std::make_shared<Token>(TOKEN_DUPLICATE | TOKEN_QUERY, opened->Impersonation(), true)));
-    return TRUE;
-}
-
 VOID WINAPI MapGenericMask(PDWORD mask, PGENERIC_MAPPING mapping)
 {
     SIM_NOTE(*mask);
@@ -155,11 +121,9 @@ BOOL WINAPI AccessCheck(PSECURITY_DESCRIPTOR descriptor, HANDLE token, DWORD des
 {
     SIM_CALL(FALSE, ERROR_ACCESS_DENIED, token, desired);
     SimPc& pc = SimPc::Current();
-    const auto opened = pc.Handles().Find<Token>(token);
+    const auto opened = FindToken(token, TOKEN_QUERY);
     if (!opened)
-        return pc.Fail(ERROR_INVALID_HANDLE, FALSE);
-    if (!opened->Grants(TOKEN_QUERY))
-        return pc.Fail(ERROR_ACCESS_DENIED, FALSE);
+        return FALSE;
     if (!opened->Impersonation())
         return pc.Fail(ERROR_NO_IMPERSONATION_TOKEN, FALSE);
     if (*opened->Impersonation() < SecurityIdentification)

@@ -1,10 +1,13 @@
-// Opening the tokens of processes and threads. https://learn.microsoft.com/windows/win32/api/processthreadsapi/
+// Opening and copying the tokens of processes and threads. https://learn.microsoft.com/windows/win32/api/processthreadsapi/
 #include "platform/sim/Users.h"
 #include "platform/src/core/Gate.h"
 #include "platform/src/process/ProcessHandle.h"
+#include "platform/src/user/Sids.h"
 #include "platform/src/user/Token.h"
 
 #include <windows.h>
+
+#include <cstring>
 
 using namespace platform;
 
@@ -36,11 +39,9 @@ BOOL WINAPI DuplicateToken(HANDLE token, SECURITY_IMPERSONATION_LEVEL level, PHA
 {
     SIM_CALL(FALSE, ERROR_ACCESS_DENIED, token, static_cast<int>(level));
     SimPc& pc = SimPc::Current();
-    const auto opened = pc.Handles().Find<Token>(token);
+    const auto opened = FindToken(token, TOKEN_DUPLICATE);
     if (!opened)
-        return pc.Fail(ERROR_INVALID_HANDLE, FALSE);
-    if (!opened->Grants(TOKEN_DUPLICATE))
-        return pc.Fail(ERROR_ACCESS_DENIED, FALSE);
+        return FALSE;
     *duplicate = AsHandle<HANDLE>(pc.Handles().Open(std::make_shared<Token>(TOKEN_QUERY, level, opened->Restricted())));
     return TRUE;
 }
@@ -55,5 +56,21 @@ BOOL WINAPI OpenThreadToken(HANDLE thread, DWORD access, BOOL asSelf, PHANDLE to
     if (!impersonation)
         return pc.Fail(ERROR_NO_TOKEN, FALSE);
     *token = AsHandle<HANDLE>(pc.Handles().Open(std::make_shared<Token>(MapGenericToken(access), impersonation)));
+    return TRUE;
+}
+
+BOOL WINAPI CreateRestrictedToken(HANDLE token, DWORD flags, DWORD disabledCount, PSID_AND_ATTRIBUTES disabled, DWORD deletedCount,
+                                  PLUID_AND_ATTRIBUTES, DWORD restrictedCount, PSID_AND_ATTRIBUTES, PHANDLE made)
+{
+    SIM_CALL(FALSE, ERROR_ACCESS_DENIED, token, flags);
+    SimPc& pc = SimPc::Current();
+    const auto opened = FindToken(token, TOKEN_DUPLICATE);
+    if (!opened)
+        return FALSE;
+    // One kind is known here: without the group of the administrators.
+    if (disabledCount != 1 || std::memcmp(disabled->Sid, kAdministrators.data(), kAdministrators.size()) != 0 || deletedCount != 0 ||
+        restrictedCount != 0)
+        return pc.Fail(ERROR_INVALID_PARAMETER, FALSE);
+    *made = AsHandle<HANDLE>(pc.Handles().Open(std::make_shared<Token>(TOKEN_DUPLICATE | TOKEN_QUERY, opened->Impersonation(), true)));
     return TRUE;
 }

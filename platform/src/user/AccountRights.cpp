@@ -2,6 +2,7 @@
 #include "platform/sim/Users.h"
 #include "platform/src/core/Gate.h"
 #include "platform/src/text/Buffers.h"
+#include "platform/src/user/Sids.h"
 
 #include <ntsecapi.h>
 #include <windows.h>
@@ -43,6 +44,17 @@ BOOL WINAPI LookupAccountNameW(LPCWSTR system, LPCWSTR account, PSID sid, LPDWOR
     std::memcpy(sid, &identifier, sizeof identifier);
     CopyCut(found->domain, domain, static_cast<DWORD>(found->domain.size() + 1));
     *use = found->builtIn ? SidTypeWellKnownGroup : SidTypeUser;
+    return TRUE;
+}
+
+BOOL WINAPI CreateWellKnownSid(WELL_KNOWN_SID_TYPE kind, PSID domain, PSID sid, DWORD* size)
+{
+    SIM_CALL(FALSE, ERROR_INVALID_PARAMETER, static_cast<int>(kind));
+    SimPc& pc = SimPc::Current();
+    if (kind != WinBuiltinAdministratorsSid || domain || *size < kAdministrators.size())
+        return pc.Fail(ERROR_INVALID_PARAMETER, FALSE);
+    std::memcpy(sid, kAdministrators.data(), kAdministrators.size());
+    *size = static_cast<DWORD>(kAdministrators.size());
     return TRUE;
 }
 

@@ -8,6 +8,19 @@
 
 #include <cstring>
 
+namespace platform {
+
+std::shared_ptr<Token> FindToken(HANDLE handle, DWORD access)
+{
+    SimPc& pc = SimPc::Current();
+    const auto opened = pc.Handles().Find<Token>(handle);
+    if (!opened || !opened->Grants(access))
+        return pc.Fail(opened ? ERROR_ACCESS_DENIED : ERROR_INVALID_HANDLE, std::shared_ptr<Token>());
+    return opened;
+}
+
+}  // namespace platform
+
 using namespace platform;
 
 namespace {
@@ -62,11 +75,9 @@ BOOL WINAPI AdjustTokenPrivileges(HANDLE token, BOOL disableAll, PTOKEN_PRIVILEG
 {
     SIM_CALL(FALSE, ERROR_ACCESS_DENIED, token, disableAll, size);
     SimPc& pc = SimPc::Current();
-    const auto opened = pc.Handles().Find<Token>(token);
+    const auto opened = FindToken(token, TOKEN_ADJUST_PRIVILEGES | (previous ? TOKEN_QUERY : 0u));
     if (!opened)
-        return pc.Fail(ERROR_INVALID_HANDLE, FALSE);
-    if (!opened->Grants(TOKEN_ADJUST_PRIVILEGES | (previous ? TOKEN_QUERY : 0u)))
-        return pc.Fail(ERROR_ACCESS_DENIED, FALSE);
+        return FALSE;
     if (disableAll || !wanted) {
         pc.Unsupported("AdjustTokenPrivileges for all privileges");
         return FALSE;
@@ -109,11 +120,9 @@ BOOL WINAPI GetTokenInformation(HANDLE token, TOKEN_INFORMATION_CLASS kind, LPVO
 {
     SIM_CALL(FALSE, ERROR_ACCESS_DENIED, token, kind, size);
     SimPc& pc = SimPc::Current();
-    const auto opened = pc.Handles().Find<Token>(token);
+    const auto opened = FindToken(token, TOKEN_QUERY);
     if (!opened)
-        return pc.Fail(ERROR_INVALID_HANDLE, FALSE);
-    if (!opened->Grants(TOKEN_QUERY))
-        return pc.Fail(ERROR_ACCESS_DENIED, FALSE);
+        return FALSE;
     Users& users = pc.Get<Users>();
     if (kind != TokenPrivileges && kind != TokenElevation) {
         pc.Unsupported("GetTokenInformation: class " + std::to_string(kind));

@@ -5,6 +5,7 @@
 
 #include <winnt.h>
 
+#include <memory>
 #include <optional>
 
 namespace platform {
@@ -24,5 +25,8 @@ private:
     std::optional<SECURITY_IMPERSONATION_LEVEL> impersonation_;
     bool restricted_;
 };
+
+/// The token behind a handle that grants all of `access`. Empty with the last error set: 6 no such handle, 5 not granted.
+[[nodiscard]] std::shared_ptr<Token> FindToken(HANDLE handle, DWORD access);
 
 }  // namespace platform
