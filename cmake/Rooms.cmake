@@ -75,8 +75,8 @@ function(velmora_tests name folder)
   # The support comes first: its scenes use the rooms.
   target_link_libraries(${name} PRIVATE test_support ${ARGN})
   velmora_test_settings(${name})
-  # The longest one runs as two halves, and first, so that no core waits for it at the end.
-  if(name STREQUAL "test_faults")
+  # The longest ones run as two halves, and first, so that no core waits for them at the end.
+  if(name STREQUAL "test_faults" OR (WIN32 AND name STREQUAL "test_controls"))
     foreach(half 0 1)
       add_test(NAME ${name}_${half} COMMAND ${name})
       set_tests_properties(${name}_${half} PROPERTIES TIMEOUT 600 COST 100 ENVIRONMENT "GTEST_TOTAL_SHARDS=2;GTEST_SHARD_INDEX=${half}")

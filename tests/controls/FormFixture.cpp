@@ -2,6 +2,7 @@
 
 #include "controls/ThemeState.h"
 #include "host/MessageLoop.h"
+#include "tests/support/UserInput.h"
 
 namespace tests {
 
@@ -35,6 +36,8 @@ void KeyForm::PublishRoutines()
 
 FormFixture::FormFixture()
 {
+    // An earlier test may have left it where the form will be.
+    ParkMouse();
     controls::RegisterControls(factory);
     controls::ThemeState::OfProcess().AskVersionWith([] { return DWORD{6}; });
 }

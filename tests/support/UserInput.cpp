@@ -50,6 +50,13 @@ void MoveMouse(HWND window, int x, int y)
     MoveMouse(point.x, point.y);
 }
 
+void ParkMouse()
+{
+    INPUT input = Mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE);
+    input.mi.dx = input.mi.dy = 65535;
+    EXPECT_EQ(SendInput(1, &input, sizeof input), 1u);
+}
+
 void MouseButton(DWORD flag)
 {
     Send(Mouse(flag));

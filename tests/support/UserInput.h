@@ -9,6 +9,8 @@ namespace tests {
 void MoveMouse(int x, int y);
 /// Moves it to a point of a window's client area.
 void MoveMouse(HWND window, int x, int y);
+/// Puts it into the last corner of the screen, where no window is, without waiting for what follows.
+void ParkMouse();
 /// MOUSEEVENTF_LEFTDOWN and so on, where the cursor is.
 void MouseButton(DWORD flag);
 void ClickMouse();
