@@ -3,6 +3,7 @@
 
 #include "base/Handles.h"
 #include "host/AccessibleFacts.h"
+#include "host/AccessKey.h"
 
 #include <algorithm>
 
@@ -44,11 +45,7 @@ void Label::Caption(base::StringView caption)
 
 base::String Label::AccessKey() const
 {
-    for (std::size_t at = caption_.find(TEXT('&')); at != base::String::npos && at + 1 < caption_.size();
-         at = caption_.find(TEXT('&'), at + 2))
-        if (caption_[at + 1] != TEXT('&'))
-            return caption_.substr(at + 1, 1);
-    return {};
+    return AccessKeyOf(caption_);
 }
 
 AccessibleFacts Label::Accessibility()

@@ -1,11 +1,11 @@
-// OleColor: the one resolution of stored colours that the host itself needs.
+// OleColor: the resolution of stored colours that cannot fail.
 #include "host/OleColor.h"
 
 namespace host {
 
 COLORREF ToRgb(OleColor color)
 {
-    return (color & 0x80000000U) != 0 ? GetSysColor(static_cast<int>(color & 0xFF)) : color & 0x00FFFFFFU;
+    return (color & 0x80000000U) != 0 ? GetSysColor(static_cast<int>(color & 0x00FFFFFFU)) : color;
 }
 
 }  // namespace host

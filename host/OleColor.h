@@ -15,7 +15,8 @@ using OleColor = std::uint32_t;
     return 0x80000000U + static_cast<OleColor>(index);
 }
 
-/// The RGB value that is drawn.
+/// The colour that is drawn: a system colour as Windows has it now (black for a number that is none), any other value as it is. Where a
+/// colour may be refused, OLE is asked instead: see TranslateOleColor.
 [[nodiscard]] COLORREF ToRgb(OleColor color);
 
 }  // namespace host

@@ -1,7 +1,7 @@
 // CommandButtonProperties: what a button stores, and what setting its properties does.
-#include "controls/AccessKey.h"
 #include "controls/CommandButton/CommandButton.h"
 #include "controls/PropertyTable.h"
+#include "host/AccessKey.h"
 
 #include <algorithm>
 
@@ -127,7 +127,7 @@ void CommandButton::UserControl_ReadProperties(const PropertyBag& bag)
     state_ = StateNormal;
     KeepTrueType();
     baseFontSize_ = Font()->Size();
-    Input().AccessKey(AccessKeyOf(caption_));
+    Input().AccessKey(host::AccessKeyOf(caption_));
     if (Ambient().UserMode())
         subclassControl_.TryEnable(hWnd());
     Relayout();
@@ -162,7 +162,7 @@ void CommandButton::Caption(const String& caption)
     if (captionHide_) {
         SendWindowText(caption_);
     } else {
-        Input().AccessKey(AccessKeyOf(caption_));
+        Input().AccessKey(host::AccessKeyOf(caption_));
         FitFont();
     }
     PropertyChanged(TEXT("Caption"));

@@ -1,7 +1,7 @@
 // FrameLayout: the caption stands 9 pixels from the left, its background from (7, 0) to (9 + its width, its height), both included.
 #include "controls/Frame/FrameLayout.h"
 
-#include "controls/AccessKey.h"
+#include "host/AccessKey.h"
 
 namespace controls {
 
@@ -11,7 +11,7 @@ using base::StringView;
 FrameCaption AnalyseFrameCaption(StringView caption)
 {
     FrameCaption result;
-    result.accessKey = AccessKeyOf(caption);
+    result.accessKey = host::AccessKeyOf(caption);
     for (std::size_t place = 0; place < caption.size(); ++place) {
         if (caption[place] != TEXT('&')) {
             result.measured += caption[place];

@@ -1,5 +1,4 @@
 // The services that all controls share: what they compute and what they ask of the system.
-#include "controls/AccessKey.h"
 #include "controls/ColorArithmetic.h"
 #include "controls/FontRule.h"
 #include "controls/GoldenSection.h"
@@ -21,15 +20,6 @@ TEST(GoldenSection, Segments_StandInTheGoldenRatio)
     EXPECT_NEAR(controls::GetGoldenSection(100, false), 61.803, 0.001);
     EXPECT_EQ(controls::GetGoldenSection(0, true), 0);
     EXPECT_EQ(controls::GetGoldenSection(-5, false), 0);
-}
-
-TEST(AccessKey, OfCaptions)
-{
-    const std::pair<const WCHAR*, const WCHAR*> cases[] = {
-        {TEXT("Save && E&xit"), TEXT("x")}, {TEXT("A&"), TEXT("")}, {TEXT("&OK"), TEXT("O")}, {TEXT("&&&&"), TEXT("")},
-        {TEXT("&&&a"), TEXT("a")},          {TEXT(""), TEXT("")},   {TEXT("&"), TEXT("")}};
-    for (const auto& [caption, key] : cases)
-        EXPECT_EQ(controls::AccessKeyOf(caption), key);
 }
 
 TEST(ColorArithmetic, Channels_StayWithinTheirRange)

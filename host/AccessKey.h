@@ -3,9 +3,9 @@
 
 #include "base/String.h"
 
-namespace controls {
+namespace host {
 
 /// The character behind the first single "&", as a text of one character; empty when there is none. "&&" stands for a literal "&".
 [[nodiscard]] base::String AccessKeyOf(base::StringView caption);
 
-}  // namespace controls
+}  // namespace host

@@ -1,7 +1,7 @@
 // AccessKey: scanning captions.
-#include "controls/AccessKey.h"
+#include "host/AccessKey.h"
 
-namespace controls {
+namespace host {
 
 base::String AccessKeyOf(base::StringView caption)
 {
@@ -14,4 +14,4 @@ base::String AccessKeyOf(base::StringView caption)
     return {};
 }
 
-}  // namespace controls
+}  // namespace host
