@@ -1,4 +1,3 @@
-// Balloon: a tracked tip, its time and its click.
 #include "controls/Balloon.h"
 
 #include "host/Units.h"

@@ -1,4 +1,3 @@
-// DSubclass: routing, pausing and releasing.
 #include "controls/DSubclass.h"
 
 #include "controls/OutOfMemory.h"

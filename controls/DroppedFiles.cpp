@@ -1,4 +1,3 @@
-// DroppedFiles: asking the shell.
 #include "controls/DroppedFiles.h"
 
 namespace controls {

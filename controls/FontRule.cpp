@@ -1,4 +1,3 @@
-// FontRule: enumeration of the system's fonts.
 #include "controls/FontRule.h"
 
 #include "base/Handles.h"

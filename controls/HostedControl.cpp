@@ -1,4 +1,3 @@
-// HostedControl: properties, life and messages that both have.
 #include "controls/HostedControl.h"
 
 #include "host/Form.h"

@@ -1,4 +1,3 @@
-// LibraryControl: what a setter does, the font and the golden section.
 #include "controls/LibraryControl.h"
 
 #include "controls/GoldenSection.h"

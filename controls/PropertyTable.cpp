@@ -1,4 +1,3 @@
-// PropertyTable: the order of writing.
 #include "controls/PropertyTable.h"
 
 #include <algorithm>

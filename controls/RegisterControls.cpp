@@ -1,4 +1,3 @@
-// RegisterControls: the four kinds.
 #include "controls/RegisterControls.h"
 
 #include "controls/CheckBox/CheckBox.h"

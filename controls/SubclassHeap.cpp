@@ -1,4 +1,3 @@
-// SubclassHeap: making, publishing, finding and destroying the heap of a window.
 #include "controls/SubclassHeap.h"
 
 #include "base/Handle.h"

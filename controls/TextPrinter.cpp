@@ -1,4 +1,3 @@
-// TextPrinter: the default printer, breaking the text into lines, and the pages.
 #include "controls/TextPrinter.h"
 
 #include "base/Handles.h"

@@ -1,4 +1,3 @@
-// ThemeState: the questions to the theme service and to the common controls.
 #include "controls/ThemeState.h"
 
 #include <shlwapi.h>

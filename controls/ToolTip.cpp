@@ -1,4 +1,3 @@
-// ToolTip: building and dropping the tip window.
 #include "controls/ToolTip.h"
 
 #include "host/Form.h"

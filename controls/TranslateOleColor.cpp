@@ -1,4 +1,3 @@
-// TranslateOleColor: the call to OLE.
 #include "controls/TranslateOleColor.h"
 
 #include <olectl.h>

@@ -1,4 +1,3 @@
-// AccessKey: scanning captions.
 #include "host/AccessKey.h"
 
 namespace host {

@@ -1,4 +1,3 @@
-// Accessible: from what a control says of itself to what readers ask.
 #include "host/Accessible.h"
 
 #include "base/SystemExport.h"

@@ -1,4 +1,3 @@
-// AccessibleWindows: handing an accessible object to whoever asks for it.
 #include "host/AccessibleWindows.h"
 
 #include "base/SystemExport.h"

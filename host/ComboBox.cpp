@@ -1,4 +1,3 @@
-// ComboBox: the list, the selection and the events.
 #include "host/ComboBox.h"
 
 #include "host/AccessibleFacts.h"

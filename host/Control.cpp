@@ -1,4 +1,3 @@
-// Control: where its class lives; everything else is virtual.
 #include "host/Control.h"
 
 #include "host/AccessibleFacts.h"

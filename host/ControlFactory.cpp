@@ -1,4 +1,3 @@
-// ControlFactory: the register of kinds.
 #include "host/ControlFactory.h"
 
 #include "host/ComboBox.h"

@@ -1,4 +1,3 @@
-// DataObject: what is offered, and asking for what others offer.
 #include "host/DataObject.h"
 
 #include <algorithm>

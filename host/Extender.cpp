@@ -1,4 +1,3 @@
-// Extender: the container's side of a control.
 #include "host/Extender.h"
 
 #include "host/Form.h"

@@ -1,4 +1,3 @@
-// Font: setters and the GDI font.
 #include "host/Font.h"
 
 #include "host/Units.h"

@@ -1,4 +1,3 @@
-// Label: its caption.
 #include "host/Label.h"
 
 #include "base/Handles.h"

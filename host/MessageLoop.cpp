@@ -1,4 +1,3 @@
-// MessageLoop: getting and giving out messages.
 #include "host/MessageLoop.h"
 
 #include "host/KeyRouting.h"

@@ -1,4 +1,3 @@
-// OleColor: the resolution of stored colours that cannot fail.
 #include "host/OleColor.h"
 
 namespace host {

@@ -1,4 +1,3 @@
-// OleDrag: registering the window, and a drag from its start to its end.
 #include "host/OleDrag.h"
 
 #include "host/OleDragSource.h"

@@ -1,4 +1,3 @@
-// OleDragFormats: packing and unpacking.
 #include "host/OleDragFormats.h"
 
 #include "base/Handles.h"

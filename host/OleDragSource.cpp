@@ -1,4 +1,3 @@
-// OleDragSource: a drag's course and its data.
 #include "host/OleDragSource.h"
 
 #include "host/Wall.h"

@@ -1,4 +1,3 @@
-// OleDragTarget: turning OLE's calls into the control's events.
 #include "host/OleDragTarget.h"
 
 #include "host/Wall.h"

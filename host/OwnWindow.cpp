@@ -1,4 +1,3 @@
-// OwnWindow: the two window classes and their one window procedure.
 #include "host/OwnWindow.h"
 
 #include "host/Wall.h"

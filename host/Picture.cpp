@@ -1,4 +1,3 @@
-// Picture: taking over a handle and asking for its size.
 #include "host/Picture.h"
 
 #include "host/PictureFile.h"

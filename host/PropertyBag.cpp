@@ -1,4 +1,3 @@
-// PropertyBag: finding a key, and values in and out of the types that controls keep.
 #include "host/PropertyBag.h"
 
 #include <limits>

@@ -1,4 +1,3 @@
-// StockControl: the system window of a stock control.
 #include "host/StockControl.h"
 
 #include "host/Form.h"

@@ -1,4 +1,3 @@
-// Surface: the picture in memory and its DC.
 #include "host/Surface.h"
 
 namespace host {

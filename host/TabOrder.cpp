@@ -1,4 +1,3 @@
-// TabOrder: who can take the focus and who is next.
 #include "host/TabOrder.h"
 
 #include "host/Form.h"

@@ -1,4 +1,3 @@
-// Timer: a timer of the form's window.
 #include "host/Timer.h"
 
 #include "host/Form.h"

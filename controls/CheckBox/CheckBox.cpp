@@ -1,4 +1,3 @@
-// CheckBox: the system's button and what is behind it.
 #include "controls/CheckBox/CheckBox.h"
 
 #include "host/AccessibleFacts.h"

@@ -1,4 +1,3 @@
-// CommandButtonCaption: colours, effects and the engraving.
 #include "controls/CommandButton/CommandButtonCaption.h"
 
 #include "controls/ColorArithmetic.h"

@@ -1,4 +1,3 @@
-// CommandButtonLayout: the five places of a caption.
 #include "controls/CommandButton/CommandButtonLayout.h"
 
 #include "controls/CommandButton/CommandButtonValues.h"

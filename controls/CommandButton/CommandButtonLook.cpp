@@ -1,4 +1,3 @@
-// CommandButtonLook: from stored colours to those that are drawn.
 #include "controls/CommandButton/CommandButtonLook.h"
 
 #include "controls/ColorArithmetic.h"

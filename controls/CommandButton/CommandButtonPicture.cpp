@@ -1,4 +1,3 @@
-// CommandButtonPicture: which picture, with which effect, where.
 #include "controls/CommandButton/CommandButtonPicture.h"
 
 #include "controls/CommandButton/CommandButtonLayout.h"

@@ -1,4 +1,3 @@
-// CommandButtonShape: insets a row, and regions made of them.
 #include "controls/CommandButton/CommandButtonShape.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// CommandButtonStyles: the table.
 #include "controls/CommandButton/CommandButtonStyles.h"
 
 #include "controls/CommandButton/styles/ButtonPainters.h"

@@ -1,4 +1,3 @@
-// FramePainter: the themed path and the classic path.
 #include "controls/Frame/FramePainter.h"
 
 #include "controls/Canvas.h"

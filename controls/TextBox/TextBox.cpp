@@ -1,4 +1,3 @@
-// TextBox: the system's edit.
 #include "controls/TextBox/TextBox.h"
 
 #include "controls/TextBox/TextBoxEditStyle.h"

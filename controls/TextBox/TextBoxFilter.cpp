@@ -1,4 +1,3 @@
-// TextBoxFilter: editing codes, letters and lists.
 #include "controls/TextBox/TextBoxFilter.h"
 
 namespace controls {

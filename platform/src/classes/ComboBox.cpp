@@ -126,7 +126,7 @@ int ComboBox::ItemHeight() const
 
 int ComboBox::FieldHeight() const
 {
-    return TextRuler(font_).LineHeight() + 2;
+    return TextRuler(font_).LineHeight() + 2;  // the frame that a chosen item has around it
 }
 
 void ComboBox::FitHeight() const
@@ -140,6 +140,7 @@ bool ComboBox::HandleKey(WPARAM key, bool alt)
 {
     const int last = static_cast<int>(items_.size()) - 1;
     const int current = dropped_ ? highlighted_ : selected_;
+    // One item of the page before stays in sight.
     const int page = std::max(VisibleItems() - 1, 1);
     if (key == VK_F4 || (alt && (key == VK_UP || key == VK_DOWN))) {
         if (dropped_)
@@ -204,6 +205,7 @@ void ComboBox::ChooseByKey(int item)
         Highlight(item);
     selected_ = highlighted_ = item;
     Repaint();
+    // The open list has its SELENDOK when it is rolled up.
     if (!dropped_)
         Notify(CBN_SELENDOK);
     if (Alive())

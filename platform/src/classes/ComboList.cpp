@@ -58,6 +58,7 @@ private:
     HWND combo_ = nullptr;
 };
 
+// What CB_SETMINVISIBLE begins with under visual styles.
 constexpr int kMostVisibleItems = 30;
 
 }  // namespace

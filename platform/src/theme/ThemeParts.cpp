@@ -1,4 +1,5 @@
-// Parts of visual styles: soft gradients in thin frames with rounded corners, blue under the mouse.
+// Parts of visual styles: soft gradients in thin frames with rounded corners, blue under the mouse. No page says how a part looks, so none
+// is compared with Windows' own: what counts is that the states of a part can be told apart and that a picture stays the same.
 #include "platform/src/theme/ThemeParts.h"
 
 #include <vsstyle.h>
@@ -33,7 +34,7 @@ constexpr Look kBoxes[]{
 constexpr COLORREF kGroupFrames[]{RGB(213, 223, 229), RGB(226, 232, 235)};
 constexpr COLORREF kTickColor = RGB(4, 34, 113);
 constexpr COLORREF kDisabledInk = RGB(131, 131, 131);
-constexpr LONG kBoxSize = 13;
+constexpr LONG kBoxSize = 13;  // as GetThemePartSize has it at 96 dots per inch; a larger place holds it in its middle
 
 COLORREF Between(COLORREF from, COLORREF to, int step, int steps)
 {
