@@ -38,7 +38,6 @@ TEST_F(Endings, InEveryOrder_LeaveNoWindowAndNoHeap)
     for (const std::string kind : {"Frame", "CommandButton", "CheckBox", "TextBox"})
         for (const auto& ending : endings) {
             SCOPED_TRACE(kind + ": first the " + ending.first);
-            form = std::make_unique<KeyForm>();
             Open(kind + R"( C { Width = 1500 Height = 450 TabIndex = 1 ToolTipTextW = "tip" })");
             host::Control& control = Any("C");
             const HWND own = control.OwnHandle(), shown = control.hWnd();
@@ -63,10 +62,10 @@ TEST_F(Endings, InEveryOrder_LeaveNoWindowAndNoHeap)
 TEST_F(Endings, InItsOwnEvents_AreSafe)
 {
     PumpWith(host::MessageLoop::Dispatch);
-    const auto endIn = [this]<class Control, class Event>(const char* kind, const char* name, Event Control::*event) {
-        SCOPED_TRACE(std::string(kind) + " is unloaded in " + name);
-        form = std::make_unique<KeyForm>();
-        Open(std::string(kind) + R"( C { Left = 150 Top = 150 Width = 1500 Height = 450 TabIndex = 1 })");
+    int number = 0;
+    const auto end = [&]<class Control, class Event>(const std::string& kind, Event Control::*event) {
+        SCOPED_TRACE(kind + " is unloaded in event " + std::to_string(++number) + " of its line");
+        Open(kind + R"( C { Left = 150 Top = 150 Width = 1500 Height = 450 TabIndex = 1 })");
         const HWND own = Any("C").OwnHandle();
         bool raised = false;
         (Get<Control>("C").*event).Connect([&](auto&&...) {
@@ -84,36 +83,18 @@ TEST_F(Endings, InItsOwnEvents_AreSafe)
         EXPECT_TRUE(raised);
         EXPECT_FALSE(IsWindow(own));
     };
+    const auto endIn = [&](const char* kind, auto... events) {
+        number = 0;
+        (end(kind, events), ...);
+    };
     using controls::CheckBox, controls::CommandButton, controls::Frame, controls::TextBox;
-    endIn("Frame", "Click", &Frame::Click);
-    endIn("Frame", "DblClick", &Frame::DblClick);
-    endIn("Frame", "ContextMenu", &Frame::ContextMenu);
-    endIn("Frame", "MouseDown", &Frame::MouseDown);
-    endIn("Frame", "MouseMove", &Frame::MouseMove);
-    endIn("Frame", "MouseUp", &Frame::MouseUp);
-    endIn("CommandButton", "Click", &CommandButton::Click);
-    endIn("CommandButton", "MouseEnter", &CommandButton::MouseEnter);
-    endIn("CommandButton", "DblClick", &CommandButton::DblClick);
-    endIn("CommandButton", "ContextMenu", &CommandButton::ContextMenu);
-    endIn("CommandButton", "MouseDown", &CommandButton::MouseDown);
-    endIn("CommandButton", "MouseMove", &CommandButton::MouseMove);
-    endIn("CommandButton", "MouseUp", &CommandButton::MouseUp);
-    endIn("CommandButton", "KeyPress", &CommandButton::KeyPress);
-    endIn("CommandButton", "KeyDown", &CommandButton::KeyDown);
-    endIn("CommandButton", "KeyUp", &CommandButton::KeyUp);
-    endIn("CheckBox", "Click", &CheckBox::Click);
-    endIn("CheckBox", "KeyDown", &CheckBox::KeyDown);
-    endIn("CheckBox", "KeyUp", &CheckBox::KeyUp);
-    endIn("CheckBox", "KeyPress", &CheckBox::KeyPress);
-    endIn("CheckBox", "ContextMenu", &CheckBox::ContextMenu);
-    endIn("TextBox", "Click", &TextBox::Click);
-    endIn("TextBox", "DblClick", &TextBox::DblClick);
-    endIn("TextBox", "Change", &TextBox::Change);
-    endIn("TextBox", "KeyPress", &TextBox::KeyPress);
-    endIn("TextBox", "KeyDown", &TextBox::KeyDown);
-    endIn("TextBox", "KeyUp", &TextBox::KeyUp);
-    endIn("TextBox", "ContextMenu", &TextBox::ContextMenu);
-    endIn("TextBox", "MouseEnter", &TextBox::MouseEnter);
+    endIn("Frame", &Frame::Click, &Frame::DblClick, &Frame::ContextMenu, &Frame::MouseDown, &Frame::MouseMove, &Frame::MouseUp);
+    endIn("CommandButton", &CommandButton::Click, &CommandButton::MouseEnter, &CommandButton::DblClick, &CommandButton::ContextMenu,
+          &CommandButton::MouseDown, &CommandButton::MouseMove, &CommandButton::MouseUp, &CommandButton::KeyPress, &CommandButton::KeyDown,
+          &CommandButton::KeyUp);
+    endIn("CheckBox", &CheckBox::Click, &CheckBox::KeyDown, &CheckBox::KeyUp, &CheckBox::KeyPress, &CheckBox::ContextMenu);
+    endIn("TextBox", &TextBox::Click, &TextBox::DblClick, &TextBox::Change, &TextBox::KeyPress, &TextBox::KeyDown, &TextBox::KeyUp,
+          &TextBox::ContextMenu, &TextBox::MouseEnter);
     PumpWith(nullptr);
 }
 

@@ -51,6 +51,7 @@ FormFixture::~FormFixture()
 
 void FormFixture::Open(std::string_view controls, bool userMode)
 {
+    form = std::make_unique<KeyForm>();
     form->UserMode(userMode);
     const std::string text = "Form F {\nClientWidth = 9000\nClientHeight = 6000\n" + std::string(controls) + "\n}";
     ASSERT_TRUE(form->Load(text, factory)) << form->LoadError();

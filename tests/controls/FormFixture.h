@@ -35,7 +35,7 @@ protected:
     FormFixture();
     ~FormFixture() override;
 
-    /// Loads a form with this text between its braces, 600 by 400 pixels, and shows it in the foreground.
+    /// Loads a new form with this text between its braces, 600 by 400 pixels, and shows it in the foreground, in place of the one before.
     void Open(std::string_view controls, bool userMode = true);
     /// A control by its name.
     template <class T>
@@ -55,7 +55,7 @@ protected:
 
     Lines log;
     host::ControlFactory factory;
-    std::unique_ptr<KeyForm> form = std::make_unique<KeyForm>();
+    std::unique_ptr<KeyForm> form;
 };
 
 }  // namespace tests

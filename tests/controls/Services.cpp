@@ -6,7 +6,7 @@
 #include "controls/PropertyTable.h"
 #include "controls/ThemeState.h"
 
-#include "tests/controls/CommandButton/ButtonPaper.h"
+#include "tests/conformance/Paper.h"
 
 #include <gtest/gtest.h>
 
@@ -57,12 +57,13 @@ TEST(Gradient, Directions_LayTheRampOut)
                                           {0, diagonal},
                                           {8, Rows(3, std::vector(5, 60))}};
     for (const auto& [direction, rows] : cases) {
-        const ButtonPaper paper(7, 5);
+        const Paper paper(7, 5);
         controls::DrawGradient(paper.Dc(), 1, 1, 5, 3, direction == 8 ? RGB(60, 0, 0) : 0, RGB(60, 0, 0), direction);
         for (int y = 0; y < 5; ++y)
             for (int x = 0; x < 7; ++x) {
                 const bool isInside = x >= 1 && x <= 5 && y >= 1 && y <= 3;
-                EXPECT_EQ(GetRValue(paper.At(x, y)), isInside ? rows[static_cast<std::size_t>(y - 1)][static_cast<std::size_t>(x - 1)] : 0)
+                EXPECT_EQ(GetRValue(paper.At(x, y)),
+                          isInside ? rows[static_cast<std::size_t>(y - 1)][static_cast<std::size_t>(x - 1)] : 0xFF)
                     << direction << " at " << x << ", " << y;
             }
     }

@@ -75,11 +75,16 @@ TEST_F(SharedServices, DroppedFiles_AreNamedInOneEvent)
     Get<controls::Frame>("Box").DragDropFile.Connect(note);
     Get<controls::TextBox>("Text").DragDropFile.Connect(note);
     auto& shell = platform::SimPc::Current().Get<platform::Shell>();
-    for (const char* const name : {"Box", "Text"})
+    const auto accepts = [&](const char* name) { return (GetWindowLongW(Any(name).hWnd(), GWL_EXSTYLE) & WS_EX_ACCEPTFILES) != 0; };
+    for (const char* const name : {"Box", "Text"}) {
+        EXPECT_TRUE(accepts(name)) << name;
         SendMessageW(Any(name).hWnd(), WM_DROPFILES, reinterpret_cast<WPARAM>(shell.MakeDrop({u"C:\\a.txt", u" C:\\b ", u"C:\\c"})), 0);
+    }
     const std::string expected = "3 [C:\\a.txt] [C:\\b] [C:\\c]";
     EXPECT_EQ(Take(), (Lines{expected, expected}));
+    Get<controls::Frame>("Box").DragDropEnabled(false);
     Get<controls::TextBox>("Text").DragDropEnabled(false);
+    EXPECT_FALSE(accepts("Box") || accepts("Text"));
     const HDROP unwanted = shell.MakeDrop({u"C:\\a.txt"});
     SendMessageW(Any("Text").hWnd(), WM_DROPFILES, reinterpret_cast<WPARAM>(unwanted), 0);
     EXPECT_EQ(Take(), Lines{});

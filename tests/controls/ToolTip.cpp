@@ -124,7 +124,6 @@ TEST_F(ToolTip, TextOfTheContainer_IsTakenOverByWhatIsShownExceptInADesigner)
 {
     for (const char* const kind : {"Frame", "CommandButton", "CheckBox", "TextBox"})
         for (const bool userMode : {true, false}) {
-            form = std::make_unique<KeyForm>();
             Open(std::string(kind) + " C { Width = 1500 Height = 450 ToolTipText = \"plain\" }", userMode);
             const base::StringView own = dynamic_cast<const controls::ToolTip&>(Any("C")).ToolTipTextW();
             EXPECT_EQ(own, userMode ? TEXT("plain") : TEXT("")) << kind;

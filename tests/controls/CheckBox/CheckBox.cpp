@@ -129,7 +129,6 @@ TEST_F(CheckBox, Colors_AreGivenToTheButton)
 
 TEST_F(CheckBox, Transparent_ShowsWhatTheContainerPaintsAsItFirstWas)
 {
-    form = std::make_unique<KeyForm>();
     Open(R"(RightToLeft = True
         Frame Box { Left = 1500 Width = 3000 Height = 1500 UseClassicTheme = 1
             CheckBox Inner { Left = 30 Top = 60 Width = 900 Height = 300 Transparent = 1 } }
@@ -178,7 +177,6 @@ TEST_F(CheckBox, KeysAndContextMenu_RaiseEvents)
 TEST_F(CheckBox, InADesigner_HasAWindowThatIsNotWatched)
 {
     for (const bool userMode : {true, false}) {
-        form = std::make_unique<KeyForm>();
         Open("CheckBox Box { Width = 1500 Height = 300 }", userMode);
         Click(Box().hWnd());
         EXPECT_EQ(GetFocus(), Box().hWnd()) << "the button itself has heard of it";

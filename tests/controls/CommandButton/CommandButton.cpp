@@ -3,8 +3,6 @@
 #include "controls/CommandButton/CommandButtonStyles.h"
 #include "tests/controls/FormFixture.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
 
 namespace tests {
@@ -34,40 +32,29 @@ protected:
     void Mouse(UINT message, WPARAM keys = 0) { SendMessageW(Button().hWnd(), message, keys, MAKELPARAM(5, 6)); }
 };
 
-TEST_F(CommandButton, MouseClick_RaisesItsEventsInOrder)
+TEST_F(CommandButton, Mouse_RaisesItsEventsInOrder)
 {
+    const struct {
+        UINT message;
+        WPARAM keys;
+        std::int32_t state;
+        Lines events;
+    } steps[] = {{WM_MOUSEMOVE, 0, controls::StateHot, {"MouseEnter", "MouseMove"}},
+                 {WM_LBUTTONDOWN, MK_LBUTTON, controls::StatePressed, {"MouseDown 1 5,6"}},
+                 {WM_LBUTTONUP, 0, controls::StateHot, {"MouseUp 1", "Click"}},
+                 {WM_LBUTTONDBLCLK, MK_LBUTTON, controls::StatePressed, {"MouseDown 1 1,1", "DblClick"}},
+                 {WM_LBUTTONUP, 0, controls::StateHot, {"MouseUp 1"}},
+                 {WM_RBUTTONDOWN, MK_RBUTTON, controls::StateHot, {"MouseDown 2 5,6"}},
+                 {WM_RBUTTONUP, 0, controls::StateHot, {"MouseUp 2", "ContextMenu"}},
+                 {WM_LBUTTONDOWN, MK_LBUTTON, controls::StatePressed, {"MouseDown 1 5,6"}},
+                 {WM_LBUTTONUP, 0, controls::StateHot, {"MouseUp 1", "Click"}},
+                 {WM_MOUSELEAVE, 0, controls::StateNormal, {"MouseLeave"}}};
     LogEvents();
-    Mouse(WM_MOUSEMOVE);
-    EXPECT_EQ(Button().State(), controls::StateHot);
-    Mouse(WM_LBUTTONDOWN, MK_LBUTTON);
-    EXPECT_EQ(Button().State(), controls::StatePressed);
-    Mouse(WM_LBUTTONUP);
-    EXPECT_EQ(Button().State(), controls::StateHot);
-    Mouse(WM_MOUSELEAVE);
-    EXPECT_EQ(Button().State(), controls::StateNormal);
-    EXPECT_EQ(Take(), (Lines{"MouseEnter", "MouseMove", "MouseDown 1 5,6", "MouseUp 1", "Click", "MouseLeave"}));
-}
-
-TEST_F(CommandButton, RightButton_NeverClicks)
-{
-    LogEvents();
-    Mouse(WM_RBUTTONDOWN, MK_RBUTTON);
-    Mouse(WM_RBUTTONUP);
-    EXPECT_EQ(Take(), (Lines{"MouseDown 2 5,6", "MouseUp 2", "ContextMenu"}));
-    Mouse(WM_LBUTTONDOWN, MK_LBUTTON);
-    Mouse(WM_LBUTTONUP);
-    EXPECT_EQ(Take(), (Lines{"MouseDown 1 5,6", "MouseUp 1", "Click"}));
-}
-
-TEST_F(CommandButton, DoubleClick_PressesAtOneOne)
-{
-    LogEvents();
-    Mouse(WM_LBUTTONDOWN, MK_LBUTTON);
-    Mouse(WM_LBUTTONUP);
-    Mouse(WM_LBUTTONDBLCLK, MK_LBUTTON);
-    EXPECT_EQ(Button().State(), controls::StatePressed);
-    Mouse(WM_LBUTTONUP);
-    EXPECT_EQ(Take(), (Lines{"MouseDown 1 5,6", "MouseUp 1", "Click", "MouseDown 1 1,1", "DblClick", "MouseUp 1"}));
+    for (const auto& [message, keys, state, events] : steps) {
+        Mouse(message, keys);
+        EXPECT_EQ(Take(), events) << "of message " << message;
+        EXPECT_EQ(Button().State(), state) << "after message " << message;
+    }
 }
 
 TEST_F(CommandButton, SpaceAndEnter_ClickOnRelease)
@@ -104,7 +91,6 @@ TEST_F(CommandButton, ToggleButton_FlipsWithEachClick)
     EXPECT_EQ(Button().Value(), 0);
     Button().Default(1);
     EXPECT_EQ(Button().Value(), 1);
-    form = std::make_unique<KeyForm>();
     Open("CommandButton B { Width = 1500 Height = 450 ButtonType = 1 Value = 5 }");
     EXPECT_EQ(Button().Value(), 5);
     Click(Button().hWnd());
@@ -208,10 +194,8 @@ TEST_F(CommandButton, ReleaseOutside_ClicksOnlyWhenTheMouseComesBack)
 
 TEST_F(CommandButton, FocusLostWhileSpaceIsHeld_LetsTheButtonGo)
 {
-    form = std::make_unique<KeyForm>();
-    Open(
-        "CommandButton B { Width = 1500 Height = 450 TabIndex = 1 } CommandButton C { Left = 3000 Width = 1500 Height = 450 TabIndex = 2 "
-        "}");
+    Open(R"(CommandButton B { Width = 1500 Height = 450 TabIndex = 1 }
+        CommandButton C { Left = 3000 Width = 1500 Height = 450 TabIndex = 2 })");
     LogEvents();
     Get<controls::CommandButton>("C").Click.Connect([&] { Note("the other's Click"); });
     Button().SetFocus();
@@ -225,26 +209,18 @@ TEST_F(CommandButton, FocusLostWhileSpaceIsHeld_LetsTheButtonGo)
 
 TEST_F(CommandButton, SetFocusEx_TellsTheButtonWithoutMovingTheFocus)
 {
-    form = std::make_unique<KeyForm>();
-    Open(
-        "CommandButton B { Width = 1500 Height = 450 TabIndex = 2 Style = 10 ShowFocus = 1 } TextBox T { Left = 3000 Width = 1500 Height = "
-        "450 TabIndex = 1 }");
+    Open(R"(CommandButton B { Width = 1500 Height = 450 TabIndex = 2 ShowFocus = 1 Style = 0 }
+        TextBox T { Left = 3000 Width = 1500 Height = 450 TabIndex = 1 })");
     Any("T").SetFocus();
-    const auto row = [&] {
-        std::vector<COLORREF> pixels;
-        for (int x = 2; x < 12; ++x)
-            pixels.push_back(GetPixel(Button().GetSurface().Dc(), x, 2));
-        return pixels;
-    };
-    const auto before = row();
+    const auto dots = [&] { return std::pair(GetPixel(Button().GetSurface().Dc(), 4, 4), GetPixel(Button().GetSurface().Dc(), 5, 4)); };
+    const auto before = dots();
     Button().SetFocusEx();
-    EXPECT_NE(row(), before) << "it draws its focus rectangle";
+    EXPECT_NE(dots(), before) << "it draws its focus rectangle";
     EXPECT_EQ(Focused(), "T");
 }
 
 TEST_F(CommandButton, ZedOrder_GoesToTheTopToTheBottomOrBehindAWindow)
 {
-    form = std::make_unique<KeyForm>();
     Open(
         R"(CommandButton B { Width = 1500 Height = 450 TabIndex = 1 } CommandButton C { Left = 1500 Width = 1500 Height = 450 TabIndex = 2 }
         CommandButton D { Left = 3000 Width = 1500 Height = 450 TabIndex = 3 })");
@@ -289,7 +265,6 @@ TEST_F(CommandButton, Refresh_BringsTheWindowToItsPlace)
 TEST_F(CommandButton, DefaultMark_ShowsAtOnceInADesignerAndWithTheNextDrawingElsewhere)
 {
     for (const bool userMode : {true, false}) {
-        form = std::make_unique<KeyForm>();
         Open("CommandButton B { Width = 1500 Height = 450 Style = 0 ContourStyle = 0 }", userMode);
         const COLORREF before = GetPixel(Button().GetSurface().Dc(), 0, 0);
         EXPECT_NE(before, 0U);
@@ -302,7 +277,6 @@ TEST_F(CommandButton, DefaultMark_ShowsAtOnceInADesignerAndWithTheNextDrawingEls
 
 TEST_F(CommandButton, ToggleThatIsOn_HasACheckerboardUnlessDisabled)
 {
-    form = std::make_unique<KeyForm>();
     Open("CommandButton B { Width = 1500 Height = 450 Style = 0 ButtonType = 1 Value = 1 BackColor = 0x00123456 USeCustomColors = 1 }");
     const auto pixel = [&](int x) { return GetPixel(Button().GetSurface().Dc(), x, 10); };
     EXPECT_EQ(pixel(10), GetSysColor(COLOR_BTNFACE));
@@ -313,13 +287,10 @@ TEST_F(CommandButton, ToggleThatIsOn_HasACheckerboardUnlessDisabled)
 
 TEST_F(CommandButton, RoundedValue_TellsBeforeItChanges)
 {
-    form->PropertyChanged.Connect(
-        [this](host::Control&, base::StringView name) { Note(Narrow(name) + " " + std::to_string(Button().RoundedValue())); });
-    Button().RoundedValue(9);
-    Button().RoundedValue(9);
-    Button().RoundedValue(-3);
-    Button().RoundedValue(-4);
-    EXPECT_EQ(Take(), (Lines{"RoundedValue 5", "RoundedValue 9"}));
+    form->PropertyChanged.Connect([this](host::Control&, base::StringView) { Note(std::to_string(Button().RoundedValue())); });
+    for (const int value : {9, 9, -3, -4})
+        Button().RoundedValue(value);
+    EXPECT_EQ(Take(), (Lines{"5", "9"}));
     EXPECT_EQ(Button().RoundedValue(), 0);
 }
 
@@ -328,18 +299,14 @@ TEST_F(CommandButton, NarrowedFont_IsToldStepByStepAndGivenBack)
     const auto size = Button().Font()->Size();
     Button().FontAutoSize(controls::AutoSizeNarrow);
     Button().Caption(TEXT("This caption is wider than a button of a hundred pixels, however narrow its characters are made"));
-    const HWND window = Button().hWnd();
-    static std::vector<LONG> widths;
-    widths.clear();
-    SetWindowSubclass(
-        window,
-        [](HWND which, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) -> LRESULT {
-            LOGFONTW font{};
-            if (message == WM_SETFONT && GetObjectW(reinterpret_cast<HGDIOBJ>(wParam), sizeof font, &font))
-                widths.push_back(font.lfWidth);
-            return DefSubclassProc(which, message, wParam, lParam);
-        },
-        7, 0);
+    std::vector<LONG> widths;
+    controls::DSubclass watch;
+    watch.WndProc.Connect([&](HWND, UINT message, WPARAM wParam, LPARAM, LRESULT&, bool&) {
+        LOGFONTW font{};
+        if (message == WM_SETFONT && GetObjectW(reinterpret_cast<HGDIOBJ>(wParam), sizeof font, &font))
+            widths.push_back(font.lfWidth);
+    });
+    watch.Enable(Button().hWnd());
     Button().Caption(TEXT("Another caption is wider than a button of a hundred pixels, however narrow its characters are made"));
     EXPECT_GE(widths.size(), 3U);
     EXPECT_EQ(widths.back(), 1) << "0 would be the natural width";
@@ -356,7 +323,6 @@ TEST_F(CommandButton, NarrowedFont_IsToldStepByStepAndGivenBack)
 
 TEST_F(CommandButton, InTheDesigner_IsHotButForStyle15)
 {
-    form = std::make_unique<KeyForm>();
     Open(R"(CommandButton B { Width = 1500 Height = 450 Caption = "" USeCustomColors = 1 BackColor = 0x00406080 HighlightColor = 0x0020A0E0
         BackColorDisabled = 0x00808080 })",
          false);

@@ -22,7 +22,6 @@ class Pictures : public FormFixture {
 protected:
     void Show(const std::string& properties)
     {
-        form = std::make_unique<KeyForm>();
         Open(R"(CommandButton B { Width = 1500 Height = 450 Caption = "" Style = 1 PictureAlign = 0 USeCustomColors = 1
             BackColor = 0x00406080 HighlightColor = 0x0020A0E0 MaskColorEnabled = 1 )" +
              properties + " }");

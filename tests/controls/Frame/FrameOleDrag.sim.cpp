@@ -169,7 +169,6 @@ TEST_F(FrameOleDragging, ControlsMayGoInTheMidstOfIt)
             EXPECT_EQ(times, 1) << moment;
             EXPECT_EQ(GetCapture(), nullptr) << moment;
             User().Plan({});
-            form = std::make_unique<KeyForm>();
             SetUp();
         }
     }

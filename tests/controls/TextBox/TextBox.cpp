@@ -177,7 +177,6 @@ TEST_F(TextBox, Rules_ExcludeEachOtherAndFilterOnlyTyping)
     Box().AllowOnlyNumbers(true);
     EXPECT_FALSE(Box().AllowOnlyAlphabetics());
     EXPECT_EQ(Box().AllowOnlyChars(), TEXT(""));
-    form = std::make_unique<KeyForm>();
     Open(R"(TextBox Box { Width = 1500 Height = 300 Text = "" AllowOnlyNumbers = 1 AllowOnlyAlphabetics = 1 AllowOnlyChars = "x" })");
     Type(TEXT("x5"));
     EXPECT_EQ(Box().Text(), TEXT("5")) << "a file that has all three";

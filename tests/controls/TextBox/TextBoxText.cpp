@@ -46,7 +46,6 @@ protected:
     /// A box for some ten letters a line.
     void OpenBox(const std::string& properties)
     {
-        form = std::make_unique<KeyForm>();
         Open("TextBox Box { Width = 1200 Height = 1500 TabIndex = 0 MultiLine = 1 Text = \"\" " + properties + " }");
     }
     controls::TextBox& Box() { return Get<controls::TextBox>("Box"); }
