@@ -4,13 +4,10 @@
 #include "controls/GoldenSection.h"
 #include "controls/Gradient.h"
 #include "controls/PropertyTable.h"
-#include "controls/ThemeState.h"
 
 #include "tests/conformance/Paper.h"
 
 #include <gtest/gtest.h>
-
-#include <uxtheme.h>
 
 namespace tests {
 
@@ -67,26 +64,6 @@ TEST(Gradient, Directions_LayTheRampOut)
                     << direction << " at " << x << ", " << y;
             }
     }
-}
-
-TEST(ThemeState, Version_IsAskedOnceAndKept)
-{
-    controls::ThemeState state;
-    int questions = 0;
-    DWORD version = 6;
-    state.AskVersionWith([&] {
-        ++questions;
-        return version;
-    });
-    EXPECT_TRUE(state.IsThemeAvailable());
-    version = 5;
-    EXPECT_TRUE(state.IsThemeAvailable());
-    EXPECT_EQ(questions, 1);
-
-    state.AskVersionWith([&] { return version; });
-    EXPECT_FALSE(state.IsThemeAvailable());
-    version = 6;
-    EXPECT_FALSE(state.IsThemeAvailable()) << "older than 6 stays so for the life of the process";
 }
 
 TEST(FontRule, Fonts_AreDescribed)

@@ -58,6 +58,10 @@ TEST(ThemeState, StylesComeAndGo_WhileTheVersionStays)
     EXPECT_FALSE(state.IsThemeAvailable());
     theme.AppThemed(true);
     EXPECT_TRUE(state.IsThemeAvailable()) << "asked once and kept";
+    controls::ThemeState older;
+    EXPECT_FALSE(older.IsThemeAvailable());
+    modules.CommonControlsVersion(6, 16);
+    EXPECT_FALSE(older.IsThemeAvailable()) << "older than 6 stays so for the life of the process";
 }
 
 class SharedServices : public FormFixture {};

@@ -6,7 +6,17 @@
 
 namespace tests {
 
-class TabOrder : public FormFixture {};
+class TabOrder : public FormFixture {
+protected:
+    /// Presses the key for each of these, which has the focus then.
+    void Walk(int key, int shift, std::initializer_list<const char*> names)
+    {
+        for (const char* const next : names) {
+            Press(key, shift);
+            EXPECT_EQ(Focused(), next);
+        }
+    }
+};
 
 constexpr const char* threeButtons = R"(
     CommandButton One { Width = 900 Height = 300 TabIndex = 1 }
@@ -21,22 +31,14 @@ TEST_F(TabOrder, Buttons_StayInTheirContainerAndWrap)
 {
     Open(threeButtons);
     EXPECT_EQ(Focused(), "One");
-    for (const char* const next : {"Four", "Seven", "One"}) {
-        Press(VK_TAB);
-        EXPECT_EQ(Focused(), next);
-    }
-    for (const char* const next : {"Seven", "Four"}) {
-        Press(VK_LEFT);
-        EXPECT_EQ(Focused(), next);
-    }
-    Press(VK_TAB, 1);
-    EXPECT_EQ(Focused(), "One");
+    Walk(VK_TAB, 0, {"Four", "Seven", "One"});
+    Walk(VK_LEFT, 0, {"Seven", "Four"});
+    Walk(VK_TAB, 1, {"One"});
+    // A disabled control is passed over; one that is alone keeps the focus.
     Any("Four").Enabled(false);
-    Press(VK_DOWN);
-    EXPECT_EQ(Focused(), "Seven") << "a disabled control is passed over";
+    Walk(VK_DOWN, 0, {"Seven"});
     Any("One").GetExtender().Visible(false);
-    Press(VK_RIGHT);
-    EXPECT_EQ(Focused(), "Seven") << "alone, it keeps the focus";
+    Walk(VK_RIGHT, 0, {"Seven"});
 }
 
 constexpr const char* mixed = R"(
@@ -48,38 +50,25 @@ constexpr const char* mixed = R"(
     }
     CommandButton Last { Top = 3300 Width = 900 Height = 300 TabIndex = 4 })";
 
-TEST_F(TabOrder, Tab_GoesThroughAllKindsInAllContainers)
+TEST_F(TabOrder, Tab_GoesThroughAllKindsInAllContainersUnlessDisabled)
 {
     Open(mixed);
     EXPECT_EQ(Focused(), "Name");
-    for (const char* const next : {"Tick", "List", "Inner", "Last"}) {
-        Press(VK_TAB);
-        EXPECT_EQ(Focused(), next);
-    }
+    Walk(VK_TAB, 0, {"Tick", "List", "Inner", "Last"});
     Any("Inner").SetFocus();
-    for (const char* const next : {"List", "Tick", "Name", "Last"}) {
-        Press(VK_TAB, 1);
-        EXPECT_EQ(Focused(), next);
-    }
+    Walk(VK_TAB, 1, {"List", "Tick", "Name", "Last"});
+    Any("Name").SetFocus();
+    Any("Box").Enabled(false);
+    Walk(VK_TAB, 0, {"Last"});
 }
 
 TEST_F(TabOrder, Arrows_StayInTheContainerOfACheckBox)
 {
     Open(mixed);
-    Any("Tick").SetFocus();
-    Press(VK_UP);
-    EXPECT_EQ(Focused(), "Inner");
-    Any("Tick").SetFocus();
-    Press(VK_RIGHT);
-    EXPECT_EQ(Focused(), "List");
-}
-
-TEST_F(TabOrder, DisabledContainer_IsPassedOver)
-{
-    Open(mixed);
-    Any("Box").Enabled(false);
-    Press(VK_TAB);
-    EXPECT_EQ(Focused(), "Last");
+    for (const auto& [key, next] : {std::pair{VK_UP, "Inner"}, {VK_RIGHT, "List"}}) {
+        Any("Tick").SetFocus();
+        Walk(key, 0, {next});
+    }
 }
 
 }  // namespace tests

@@ -42,17 +42,14 @@ private:
     host::ControlFactory factory_;
 };
 
-class ControlFaults : public FormWithOneControl, public testing::WithParamInterface<Kind> {
-protected:
-    bool Load(host::Form& form) { return FormWithOneControl::Load(form, GetParam().control); }
-};
+class ControlFaults : public FormWithOneControl, public testing::WithParamInterface<Kind> {};
 
 TEST_P(ControlFaults, Creation)
 {
     FaultSweep([this](const auto& arm) {
         host::Form form;
         arm();
-        const bool isLoaded = Load(form);
+        const bool isLoaded = Load(form, GetParam().control);
         EXPECT_EQ(isLoaded, form.LoadError().empty()) << form.LoadError();
         EXPECT_EQ(isLoaded, IsWindow(form.hWnd()) != FALSE);
         form.Show();
@@ -67,7 +64,7 @@ TEST_P(ControlFaults, ReadOut)
 {
     FaultSweep([this](const auto& arm) {
         host::Form form;
-        ASSERT_TRUE(Load(form)) << form.LoadError();
+        ASSERT_TRUE(Load(form, GetParam().control)) << form.LoadError();
         form.Show();
         const HWND window = form.Controls().front()->hWnd();
         const auto ask = [window] { return SendMessageW(window, WM_GETOBJECT, 0, OBJID_CLIENT); };
@@ -200,7 +197,7 @@ TEST_P(ControlFaults, Life)
         auto& pc = platform::SimPc::Current();
         auto& desktop = pc.Get<platform::Desktop>();
         host::Form form;
-        ASSERT_TRUE(Load(form)) << form.LoadError();
+        ASSERT_TRUE(Load(form, GetParam().control)) << form.LoadError();
         form.Show();
         pc.Settle();
         host::Control& control = *form.Controls().front();

@@ -13,93 +13,82 @@ namespace {
 constexpr const char* before = "[Other]\r\nx=1\r\n[Settings]\r\nPwd=AZg==\r\n";
 constexpr const char* after = "[Other]\r\nx=1\r\n[Settings]\r\nPwd=AYWJj\r\n";
 
-/// One call fails, so of two looks at the machine one shows what is there.
-void ExpectTruePanel(UtilityScene& scene)
+/// Sweeps what is done to the utility; its settings are whole at the end of each run.
+void Sweep(const std::function<void(UtilityScene& scene, const std::function<void()>& arm)>& act)
 {
-    const auto isTrue = [&] {
-        const bool isInstalled = scene.The<platform::Services>().Find(u"Velmora") != nullptr;
-        return scene.Button(TEXT("cmdInstall")).Caption() == (isInstalled ? TEXT("Uninstall Service") : TEXT("Install Service")) &&
-               scene.Enabled(TEXT("ComboStartup")) != isInstalled;
-    };
+    FaultSweep([&](const auto& arm) {
+        UtilityScene scene;
+        scene.WriteSettings(before);
+        act(scene, arm);
+        scene.Close();
+        const auto settings = scene.Settings();
+        EXPECT_TRUE(settings == before || settings == after) << settings.value_or("no file");
+    });
+}
+
+/// One call fails, so of two looks at the machine one shows what is there.
+void ExpectSoon(UtilityScene& scene, const std::function<bool()>& isTrue)
+{
     scene.pc.Advance(2000);
     if (!isTrue())
         scene.pc.Advance(2000);
     EXPECT_TRUE(isTrue());
 }
 
-void ExpectWholeSettings(UtilityScene& scene)
+void ExpectTruePanel(UtilityScene& scene)
 {
-    const auto settings = scene.Settings();
-    EXPECT_TRUE(settings == before || settings == after) << settings.value_or("no file");
+    ExpectSoon(scene, [&] {
+        const bool isInstalled = scene.The<platform::Services>().Find(u"Velmora") != nullptr;
+        return scene.Button(TEXT("cmdInstall")).Caption() == (isInstalled ? TEXT("Uninstall Service") : TEXT("Install Service")) &&
+               scene.Enabled(TEXT("ComboStartup")) != isInstalled;
+    });
 }
 
 TEST(Form1Faults, Start)
 {
-    FaultSweep([](const auto& arm) {
-        UtilityScene scene;
-        scene.WriteSettings(before);
+    Sweep([](UtilityScene& scene, const auto& arm) {
         scene.The<platform::Services>().Install(u"Velmora", u"C:\\Tools\\Velmora.exe");
         arm();
         if (scene.Open())
             ExpectTruePanel(scene);
-        scene.Close();
-        ExpectWholeSettings(scene);
     });
 }
 
 TEST(Form1Faults, Ticks)
 {
-    FaultSweep([](const auto& arm) {
-        UtilityScene scene;
-        scene.WriteSettings(before);
+    Sweep([](UtilityScene& scene, const auto& arm) {
         scene.The<platform::Services>().Install(u"Velmora", u"C:\\Tools\\Velmora.exe");
         ASSERT_TRUE(scene.Open());
         arm();
-        scene.pc.Advance(2000);
-        ASSERT_TRUE(scene.IsOpen());
-        const auto isTrue = [&] {
+        ExpectSoon(scene, [&] {
             return scene.Button(TEXT("cmdInstall")).Caption() == TEXT("Uninstall Service") && scene.Enabled(TEXT("cmdInstall")) &&
                    scene.Enabled(TEXT("cmdStart")) && scene.Enabled(TEXT("CommandStartVelmora")) && !scene.Enabled(TEXT("ComboStartup")) &&
                    !scene.Enabled(TEXT("CommandCloseVelmora"));
-        };
-        // One call fails, so of two looks at the machine one shows what is there.
-        if (!isTrue())
-            scene.pc.Advance(2000);
-        EXPECT_TRUE(isTrue());
-        scene.Close();
-        ExpectWholeSettings(scene);
+        });
     });
 }
 
 TEST(Form1Faults, Ok)
 {
-    FaultSweep([](const auto& arm) {
-        UtilityScene scene;
-        scene.WriteSettings(before);
+    Sweep([](UtilityScene& scene, const auto& arm) {
         ASSERT_TRUE(scene.Open());
         scene.Text(TEXT("TextPassword")).Text(TEXT("abc"));
         scene.Check(TEXT("CheckAutoStart")).Value(1);
         arm();
         scene.Button(TEXT("CommandOk")).Click.Raise();
         EXPECT_FALSE(scene.IsOpen());
-        scene.Close();
-        ExpectWholeSettings(scene);
     });
 }
 
 TEST(Form1Faults, InstallStartAndRemove)
 {
-    FaultSweep([](const auto& arm) {
-        UtilityScene scene;
-        scene.WriteSettings(before);
+    Sweep([](UtilityScene& scene, const auto& arm) {
         ASSERT_TRUE(scene.Open());
         arm();
         for (const WCHAR* name : {TEXT("cmdInstall"), TEXT("cmdStart"), TEXT("CommandStartVelmora"), TEXT("CommandCloseVelmora")})
             scene.Button(name).Click.Raise();
         EXPECT_TRUE(scene.IsOpen());
         ExpectTruePanel(scene);
-        scene.Close();
-        ExpectWholeSettings(scene);
     });
 }
 

@@ -161,18 +161,6 @@ TEST_F(CommandButtonCalls, EveryStyle_HasItsMargin)
     }
 }
 
-TEST_F(CommandButtonCalls, ZedOrder_MovesNothingElse)
-{
-    Show("");
-    auto& trace = Pc().Trace();
-    trace.Start();
-    Button().ZedOrder(nullptr);
-    trace.Stop();
-    ASSERT_GE(trace.Count("SetWindowPos"), 1U);
-    const std::string arguments = trace.Of("SetWindowPos").front().arguments;
-    EXPECT_TRUE(arguments.ends_with(", 0, 0, 0, 0, 0x233")) << arguments;
-}
-
 TEST_F(CommandButtonCalls, OpenLink_AsksTheShellAndTellsItsAnswer)
 {
     Show("");
@@ -180,13 +168,10 @@ TEST_F(CommandButtonCalls, OpenLink_AsksTheShellAndTellsItsAnswer)
     shell.Answer(31);
     EXPECT_EQ(Button().OpenLink(TEXT("http://example.com/caf\u00E9")), 31);
     ASSERT_EQ(shell.AllOpened().size(), 1U);
-    const platform::Shell::Opened& opened = shell.AllOpened().front();
-    EXPECT_EQ(opened.window, Button().hWnd());
-    EXPECT_EQ(opened.verb, "open");
-    EXPECT_EQ(opened.file, "http://example.com/caf\xE9");
-    EXPECT_EQ(opened.parameters, "1");
-    EXPECT_EQ(opened.folder, "1");
-    EXPECT_EQ(opened.show, SW_SHOWNORMAL);
+    const auto& [window, verb, file, parameters, folder, show] = shell.AllOpened().front();
+    EXPECT_EQ(window, Button().hWnd());
+    EXPECT_EQ(std::tie(verb, file, parameters, folder), std::tuple("open", "http://example.com/caf\xE9", "1", "1"));
+    EXPECT_EQ(show, SW_SHOWNORMAL);
 }
 
 }  // namespace tests

@@ -38,12 +38,14 @@ protected:
 
 TEST_F(Pictures, FollowTheState)
 {
-    Show(std::string("Picture = ") + two);
-    Expect(dot, back, "normal");
-    EXPECT_EQ(Pixel(50, 15), 0U);
-    EXPECT_EQ(Pixel(51, 14), back);
-    Mouse(WM_MOUSEMOVE);
-    Expect(lightDot, highlight, "hot");
+    for (const auto& [picture, below] : {std::pair{icon, dot}, {two, COLORREF{0}}}) {
+        Show(std::string("Picture = ") + picture);
+        Expect(dot, back, "normal");
+        EXPECT_EQ(Pixel(50, 15), below);
+        EXPECT_EQ(Pixel(51, 14), back);
+        Mouse(WM_MOUSEMOVE);
+        Expect(lightDot, highlight, "hot");
+    }
     Mouse(WM_LBUTTONDOWN);
     EXPECT_EQ(Pixel(50, 15), darkDot) << "pressed, a pixel further";
     EXPECT_EQ(Pixel(49, 14), highlight);
@@ -75,15 +77,6 @@ TEST_F(Pictures, OfTheStates_ComeBeforeTheNormalOne)
     EXPECT_EQ(Pixel(49, 14), highlight);
     Mouse(WM_LBUTTONDOWN);
     EXPECT_EQ(Pixel(50, 15), darkDot);
-}
-
-TEST_F(Pictures, Icons_KeepTheirOpenParts)
-{
-    Show(std::string("Picture = ") + icon);
-    Expect(dot, back, "normal");
-    EXPECT_EQ(Pixel(50, 15), dot);
-    Mouse(WM_MOUSEMOVE);
-    Expect(lightDot, highlight, "hot");
 }
 
 TEST_F(Pictures, OnStyle13_RiseAndLeaveAShadow)
