@@ -138,10 +138,7 @@ TEST_F(Accessible, Place_IsTheWindows)
     GetWindowRect(Any("Push").hWnd(), &place);
     LONG left = 0, top = 0, width = 0, height = 0;
     ASSERT_EQ(reader->accLocation(&left, &top, &width, &height, itself), S_OK);
-    EXPECT_EQ(left, place.left);
-    EXPECT_EQ(top, place.top);
-    EXPECT_EQ(width, 100);
-    EXPECT_EQ(height, 30);
+    EXPECT_EQ(std::tuple(left, top, width, height), std::tuple(place.left, place.top, 100, 30));
     VARIANT hit{};
     ASSERT_EQ(reader->accHitTest(left + 50, top + 15, &hit), S_OK);
     EXPECT_EQ(hit.vt, VT_I4);

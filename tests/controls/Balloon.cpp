@@ -44,15 +44,12 @@ TEST_F(Balloon, Shown_PointsAtTheWindowAndTakesNoFocus)
     SendMessageW(next, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(9, 9));
     EXPECT_FALSE(IsWindow(next));
     EXPECT_EQ(balloon.Window(), nullptr);
-}
 
-TEST_F(Balloon, WindowOfTheForm_TakesItAlong)
-{
-    const HWND window = Show(TEXT("one"));
+    const HWND last = Show(TEXT("three"));
     form->Unload();
-    EXPECT_FALSE(IsWindow(window));
+    EXPECT_FALSE(IsWindow(last)) << "the window of the form takes it along";
     EXPECT_EQ(balloon.Window(), nullptr);
-    EXPECT_EQ(Show(TEXT("two")), nullptr);
+    EXPECT_EQ(Show(TEXT("four")), nullptr);
 }
 
 }  // namespace tests

@@ -2,11 +2,9 @@
 #include "controls/CheckBox/CheckBox.h"
 #include "controls/CommandButton/CommandButton.h"
 #include "controls/Frame/Frame.h"
-#include "controls/SubclassHeap.h"
 #include "controls/TextBox/TextBox.h"
-#include "host/MessageLoop.h"
 #include "tests/controls/FormFixture.h"
-#include "tests/support/MessageLog.h"
+#include "tests/controls/PlainWindow.h"
 #include "tests/support/UserInput.h"
 
 namespace tests {
@@ -30,11 +28,7 @@ TEST_F(Endings, InEveryOrder_LeaveNoWindowAndNoHeap)
              form.PropertyChanged.Connect([&form](host::Control&, base::StringView) { form.Unload(); });
              control.Enabled(false);
          }}};
-    const auto hasHeap = [](HWND window) {
-        WCHAR heap[9] = {};
-        GetEnvironmentVariableW(controls::HeapName(window).c_str(), heap, 9);
-        return base::StringView(heap).find_first_not_of(TEXT('0')) != base::StringView::npos;
-    };
+    const auto hasHeap = [](HWND window) { return Published(window).find_first_not_of(TEXT('0')) != base::String::npos; };
     for (const std::string kind : {"Frame", "CommandButton", "CheckBox", "TextBox"})
         for (const auto& ending : endings) {
             SCOPED_TRACE(kind + ": first the " + ending.first);
@@ -61,7 +55,6 @@ TEST_F(Endings, InEveryOrder_LeaveNoWindowAndNoHeap)
 
 TEST_F(Endings, InItsOwnEvents_AreSafe)
 {
-    PumpWith(host::MessageLoop::Dispatch);
     int number = 0;
     const auto end = [&]<class Control, class Event>(const std::string& kind, Event Control::*event) {
         SCOPED_TRACE(kind + " is unloaded in event " + std::to_string(++number) + " of its line");
@@ -95,7 +88,6 @@ TEST_F(Endings, InItsOwnEvents_AreSafe)
     endIn("CheckBox", &CheckBox::Click, &CheckBox::KeyDown, &CheckBox::KeyUp, &CheckBox::KeyPress, &CheckBox::ContextMenu);
     endIn("TextBox", &TextBox::Click, &TextBox::DblClick, &TextBox::Change, &TextBox::KeyPress, &TextBox::KeyDown, &TextBox::KeyUp,
           &TextBox::ContextMenu, &TextBox::MouseEnter);
-    PumpWith(nullptr);
 }
 
 }  // namespace tests

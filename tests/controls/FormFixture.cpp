@@ -2,6 +2,7 @@
 
 #include "controls/ThemeState.h"
 #include "host/MessageLoop.h"
+#include "tests/support/MessageLog.h"
 #include "tests/support/UserInput.h"
 
 namespace tests {
@@ -38,6 +39,7 @@ FormFixture::FormFixture()
 {
     // An earlier test may have left it where the form will be.
     ParkMouse();
+    PumpWith(host::MessageLoop::Dispatch);
     controls::RegisterControls(factory);
     controls::ThemeState::OfProcess().AskVersionWith([] { return DWORD{6}; });
 }
@@ -47,6 +49,7 @@ FormFixture::~FormFixture()
     form.reset();
     host::MessageLoop::RunPending();
     controls::ThemeState::OfProcess().AskVersionWith({});
+    PumpWith(nullptr);
 }
 
 void FormFixture::Open(std::string_view controls, bool userMode)

@@ -3,9 +3,7 @@
 #include "controls/CommandButton/CommandButton.h"
 #include "controls/Frame/Frame.h"
 #include "controls/TextBox/TextBox.h"
-#include "host/MessageLoop.h"
 #include "tests/controls/FormFixture.h"
-#include "tests/support/MessageLog.h"
 #include "tests/support/UserInput.h"
 
 namespace tests {
@@ -113,7 +111,6 @@ TEST_F(LibraryControl, Font_IsCopiedAndToldAndNeverNone)
 
 TEST_F(LibraryControl, Focus_ComesByCodeMouseAndTabUnlessDisabled)
 {
-    PumpWith(host::MessageLoop::Dispatch);
     const std::pair<const char*, std::function<void(controls::LibraryControl&)>> ways[] = {
         {"code", [](auto& control) { control.SetFocus(); }},
         {"mouse",
@@ -138,7 +135,6 @@ TEST_F(LibraryControl, Focus_ComesByCodeMouseAndTabUnlessDisabled)
             }
     });
     EXPECT_EQ(Get<controls::CheckBox>("CheckBox1").Value(), 1) << "one click";
-    PumpWith(nullptr);
 }
 
 TEST_F(LibraryControl, Container_CanBeChanged)

@@ -39,7 +39,6 @@ struct Face {
 const Face faces[] = {
     // Classic: default border, checkered toggle.
     {0, StateNormal, Own, {{0, 0, back}}, ContourNone},
-    {0, StatePressed, Own, {{middle, 11, highlight}}, ContourNone},
     {0, StateNormal, Own, {{0, 0, shadow}}, ContourFlat},
     {0, StateNormal, Own | Default, {{0, 0, 0x000000}}, ContourNone},
     {0, StatePressed, Own | Default, {{59, 22, light}}, ContourNone},
@@ -82,7 +81,6 @@ const Face faces[] = {
     {11, StateNormal, 0, {{0, 11, 0x000020}}},
     {12, StateNormal, Own, {{middle, 2, 0xF6E4C2}, {middle, 20, 0xF0D29A}, {59, 0, face}}},
     {14, StateHot, 0, {{middle, 1, 0x6FC0FF}, {middle, 10, 0xA9D9FF}, {middle, 11, 0x3FABFF}, {0, 11, 0x1869A8}}},
-    {15, StateNormal, 0, {{0, 11, 0xA28B6A}, {middle, 2, 0xDBE2E3}}},
     {15, StateHot, 0, {{1, 11, 0xF6D4BC}, {58, 11, 0xE4AD89}}},
     {16, StateNormal, 0, {{0, 11, 0x000012}, {middle, 11, 0x2E4E6E}}},
     {17, StateHot, Own, {{middle, 0, System(COLOR_HIGHLIGHT)}}},
@@ -132,10 +130,9 @@ TEST(Faces, FillTheirShapes)
                         lines += !inside && (style == RoundedStyle ? paper.At(x, y) == contour : paper.At(x, y) != back) ? 1 : 0;
                     }
                 }
-                EXPECT_EQ(bare, 0) << "style " << style << " state " << state << ", " << size.cx << " by " << size.cy;
                 // The frame of style 10 is square, and its corners are cut off with the window's.
-                EXPECT_TRUE(lines == 0 || style == SoftRoundStyle)
-                    << "style " << style << " state " << state << ", " << size.cx << " by " << size.cy;
+                EXPECT_TRUE(bare == 0 && (lines == 0 || style == SoftRoundStyle))
+                    << "style " << style << " state " << state << ", " << size.cx << " by " << size.cy << ": " << bare << ", " << lines;
             }
         }
     }

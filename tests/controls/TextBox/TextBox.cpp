@@ -1,8 +1,6 @@
 #include "controls/TextBox/TextBox.h"
 
-#include "host/MessageLoop.h"
 #include "tests/controls/FormFixture.h"
-#include "tests/support/MessageLog.h"
 #include "tests/support/UserInput.h"
 
 #include <algorithm>
@@ -225,7 +223,6 @@ TEST_F(TextBox, Tab_IsNoKeyDown_AndTextIfTextual)
         {"another takes the focus", true, false, [](host::Control& other) { SetFocus(other.OwnHandle()); }, TEXT("fi    t")},
         {"another is given it", false, false, [](host::Control& other) { other.SetFocus(); }, TEXT("fi    t")},
     };
-    PumpWith(host::MessageLoop::Dispatch);
     Box().KeyDown.Connect([&](std::int16_t&, std::int16_t&) { Note("KeyDown"); });
     Box().SetFocus();
     Press(VK_TAB);
@@ -254,7 +251,6 @@ TEST_F(TextBox, Tab_IsNoKeyDown_AndTextIfTextual)
         }
     }
     EXPECT_EQ(std::ranges::count(Take(), "KeyDown"), 0);
-    PumpWith(nullptr);
 }
 
 TEST_F(TextBox, MouseEvents_AreRaised)
