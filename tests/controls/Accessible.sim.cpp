@@ -21,7 +21,7 @@ protected:
             CheckBox Check { Left = 150 Top = 1500 Width = 1500 Height = 450 TabIndex = 3 Caption = "Check" }
             Frame Group { Left = 4500 Top = 150 Width = 3000 Height = 1500 TabIndex = 4 Caption = "Group" })");
     }
-    /// "name" and "state" for each event of the control's client area while `act` runs.
+    /// Each event of the control's client area while `act` runs: 0x800A for its state, 0x800C for its name.
     Lines EventsOf(std::string_view name, const std::function<void()>& act)
     {
         platform::CallTrace& trace = platform::SimPc::Current().Trace();
@@ -35,9 +35,7 @@ protected:
         for (const platform::CallRecord& call : trace.Of("NotifyWinEvent")) {
             EXPECT_NE(call.arguments.find(window), std::string::npos) << call.arguments;
             EXPECT_TRUE(call.arguments.ends_with("FFFFFFFC, 0")) << call.arguments;
-            events.push_back(call.arguments.starts_with("0x800C,")   ? "name"
-                             : call.arguments.starts_with("0x800A,") ? "state"
-                                                                     : call.arguments);
+            events.push_back(call.arguments.substr(0, call.arguments.find(',')));
         }
         return events;
     }
@@ -53,17 +51,17 @@ TEST_F(AccessibleEvents, WhatWindowsCannotSee_IsTold)
         std::function<void()> act;
         Lines events;
     } cases[] = {
-        {"caption", "Push", [&] { push.Caption(TEXT("Other")); }, {"name"}},
-        {"text for readers", "Push", [&] { push.ScreenReaderCaption(TEXT("Other")); }, {"name"}},
-        {"a press", "Push", [&] { SendMessageW(push.hWnd(), WM_KEYDOWN, VK_SPACE, 1); }, {"state"}},
-        {"its end", "Push", [&] { SendMessageW(push.hWnd(), WM_KEYUP, VK_SPACE, 1); }, {"state"}},
-        {"disabled", "Push", [&] { push.Enabled(false); }, {"state"}},
-        {"default", "Push", [&] { push.GetExtender().Default(true); }, {"state"}},
+        {"caption", "Push", [&] { push.Caption(TEXT("Other")); }, {"0x800C"}},
+        {"text for readers", "Push", [&] { push.ScreenReaderCaption(TEXT("Other")); }, {"0x800C"}},
+        {"a press", "Push", [&] { SendMessageW(push.hWnd(), WM_KEYDOWN, VK_SPACE, 1); }, {"0x800A"}},
+        {"its end", "Push", [&] { SendMessageW(push.hWnd(), WM_KEYUP, VK_SPACE, 1); }, {"0x800A"}},
+        {"disabled", "Push", [&] { push.Enabled(false); }, {"0x800A"}},
+        {"default", "Push", [&] { push.GetExtender().Default(true); }, {"0x800A"}},
         {"a redraw", "Push", [&] { push.Refresh(); }, {}},
-        {"on", "Toggle", [&] { toggle.Value(1); }, {"state"}},
-        {"off", "Toggle", [&] { toggle.Value(0); }, {"state"}},
-        {"the frame's caption", "Group", [&] { Get<controls::Frame>("Group").Caption(TEXT("Other")); }, {"name"}},
-        {"the frame disabled", "Group", [&] { Get<controls::Frame>("Group").Enabled(false); }, {"state"}},
+        {"on", "Toggle", [&] { toggle.Value(1); }, {"0x800A"}},
+        {"off", "Toggle", [&] { toggle.Value(0); }, {"0x800A"}},
+        {"the frame's caption", "Group", [&] { Get<controls::Frame>("Group").Caption(TEXT("Other")); }, {"0x800C"}},
+        {"the frame disabled", "Group", [&] { Get<controls::Frame>("Group").Enabled(false); }, {"0x800A"}},
         {"a system window, which Windows sees",
          "Check",
          [&] {

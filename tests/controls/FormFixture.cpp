@@ -65,23 +65,15 @@ void FormFixture::Open(std::string_view controls, bool userMode)
 
 void FormFixture::Press(int key, int shift)
 {
-    const auto send = [](int code, bool up) {
-        INPUT input{};
-        input.type = INPUT_KEYBOARD;
-        input.ki.wVk = static_cast<WORD>(code);
-        input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
-        SendInput(1, &input, sizeof input);
-        host::MessageLoop::RunPending();
+    const auto hold = [shift](DWORD flags) {
+        constexpr WORD held[] = {VK_SHIFT, VK_CONTROL, VK_MENU};
+        for (int bit = 0; bit < 3; ++bit)
+            if ((shift & 1 << bit) != 0)
+                SendKey(held[bit], flags);
     };
-    constexpr int held[] = {VK_SHIFT, VK_CONTROL, VK_MENU};
-    for (int bit = 0; bit < 3; ++bit)
-        if ((shift & 1 << bit) != 0)
-            send(held[bit], false);
-    send(key, false);
-    send(key, true);
-    for (int bit = 0; bit < 3; ++bit)
-        if ((shift & 1 << bit) != 0)
-            send(held[bit], true);
+    hold(0);
+    PressKey(static_cast<WORD>(key));
+    hold(KEYEVENTF_KEYUP);
 }
 
 /// As a click arrives from the queue, hovering included.

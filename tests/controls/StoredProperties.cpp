@@ -19,7 +19,7 @@ namespace {
 struct Key {
     const char* name;
     char type;
-    std::string standard;  // "@n": the RGB value of system colour n; "own font": the form's
+    std::string standard;  // "@n": the RGB value of system colour n
     std::string other;
     void (*set)(host::Control&);  // by code to `other`; null where a test of its own does it
     const char* told = "";        // to the container, each name with a blank behind it; empty: the key
@@ -53,7 +53,7 @@ const std::vector<Key> frame = {
     {"Caption", 'T', "\"C\"", "\"c\"", SET(Frame, Default(TEXT("c")))},
     {"Enabled", 'B', "1", "0", SET(Frame, Enabled(false))},
     {"Appearance", 'B', "1", "2", SET(Frame, Appearance(2))},
-    {"Font", 'F', "own font", "Font(\"Tahoma\", 10)", nullptr},
+    {"Font", 'F', "Font(\"Arial\", 9)", "Font(\"Tahoma\", 10)", nullptr},
 };
 
 // Two by two pixels each.
@@ -99,7 +99,7 @@ const std::vector<Key> button = {
     {"ToolTipWidth", 'I', "0", "70000", SET(CommandButton, ToolTipWidth(70000))},
     {"ToolTipBackColor", 'C', "0x80000018", "0x00000001", SET(CommandButton, TooltipBackColor(1))},
     {"ToolTipForeColor", 'C', "0x80000017", "0x00000001", SET(CommandButton, ToolTipForeColor(1))},
-    {"Font", 'F', "own font", "Font(\"Tahoma\", 10)", nullptr, "", "", true},
+    {"Font", 'F', "Font(\"Arial\", 9)", "Font(\"Tahoma\", 10)", nullptr, "", "", true},
     {"ButtonType", 'I', "0", "1", SET(CommandButton, ButtonType(1))},
     {"Value", 'I', "0", "1", SET(CommandButton, Value(1))},
     {"MaskColor", 'C', "0x00C0C0C0", "0x00000001", SET(CommandButton, MaskColor(1))},
@@ -132,7 +132,7 @@ const std::vector<Key> checkBox = {
     {"Alignment", 'I', "0", "2", SET(CheckBox, Alignment(2)), "TextAlignment "},
     {"Caption", 'T', "\"C\"", "\"c\"", SET(CheckBox, Caption(TEXT("c")))},
     {"Value", 'B', "0", "2", SET(CheckBox, Default(2))},
-    {"Font", 'F', "own font", "Font(\"Tahoma\", 10)", nullptr},
+    {"Font", 'F', "Font(\"Arial\", 9)", "Font(\"Tahoma\", 10)", nullptr},
     {"UseClassicTheme", 'B', "0", "1", SET(CheckBox, UseClassicTheme(true))},
     {"Visible", 'L', "True", "False", nullptr},
     {"Enabled", 'B', "1", "0", SET(CheckBox, Enabled(false))},
@@ -158,7 +158,7 @@ const std::vector<Key> textBox = {
     {"ForeColor", 'C', "0x80000008", "0x00000001", SET(TextBox, ForeColor(1))},
     {"TabKeyTextual", 'B', "0", "1", SET(TextBox, TabKeyTextual(true))},
     {"Text", 'T', "\"C\"", "\"t\"", nullptr},
-    {"Font", 'F', "own font", "Font(\"Tahoma\", 10)", nullptr},
+    {"Font", 'F', "Font(\"Arial\", 9)", "Font(\"Tahoma\", 10)", nullptr},
     {"UseClassicTheme", 'B', "0", "1", SET(TextBox, UseClassicTheme(true))},
     {"AllowOnlyNumbers", 'B', "0", "1", SET(TextBox, AllowOnlyNumbers(true)), "AllowOnlyAlphabetics AllowOnlyChars AllowOnlyNumbers "},
     {"AllowOnlyAlphabetics", 'B', "0", "1", SET(TextBox, AllowOnlyAlphabetics(true))},
@@ -188,8 +188,6 @@ const struct {
 
 std::string Standard(const Key& key)
 {
-    if (key.standard == "own font")
-        return "Font(\"Arial\", 9)";
     if (key.standard[0] != '@')
         return key.standard;
     char text[16];

@@ -95,10 +95,7 @@ TEST_F(ToolTip, RestingMouse_BringsItAndOnlyLeavingTakesIt)
         GetWindowRect(tip, &place);
         heights[entry] = place.bottom - place.top;
         // The mouse goes while its message still waits: the tip's own look at it would hide the tip.
-        INPUT away{};
-        away.type = INPUT_MOUSE;
-        away.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
-        SendInput(1, &away, sizeof away);
+        ParkMouse();
         EXPECT_EQ(SendMessageW(tip, WM_TIMER, 3, 0), 0);
         EXPECT_TRUE(IsWindowVisible(tip));
         for (int tries = 0; IsWindow(tip) && tries < 40; ++tries)
@@ -108,26 +105,22 @@ TEST_F(ToolTip, RestingMouse_BringsItAndOnlyLeavingTakesIt)
     EXPECT_GT(heights[1], heights[0] + 10) << "an icon without a title takes no room, a title does";
 }
 
-TEST_F(ToolTip, TextOfTheContainer_IsTakenOver)
-{
-    EXPECT_EQ(Enter(), nullptr) << "without a text there is no window";
-    Button().GetExtender().ToolTipText(TEXT("plain"));
-    EXPECT_NE(Enter(), nullptr);
-    EXPECT_EQ(Button().ToolTipTextW(), TEXT("plain"));
-    EXPECT_EQ(Button().GetExtender().ToolTipText(), TEXT(""));
-    Button().GetExtender().ToolTipText(TEXT("other"));
-    Button().ToolTipTextW(TEXT("own"));
-    EXPECT_EQ(Button().GetExtender().ToolTipText(), TEXT(""));
-}
-
 TEST_F(ToolTip, TextOfTheContainer_IsTakenOverByWhatIsShownExceptInADesigner)
 {
+    EXPECT_EQ(Enter(), nullptr) << "without a text there is no window";
     for (const char* const kind : {"Frame", "CommandButton", "CheckBox", "TextBox"})
         for (const bool userMode : {true, false}) {
             Open(std::string(kind) + " C { Width = 1500 Height = 450 ToolTipText = \"plain\" }", userMode);
-            const base::StringView own = dynamic_cast<const controls::ToolTip&>(Any("C")).ToolTipTextW();
-            EXPECT_EQ(own, userMode ? TEXT("plain") : TEXT("")) << kind;
-            EXPECT_EQ(Any("C").GetExtender().ToolTipText(), userMode ? TEXT("") : TEXT("plain")) << kind;
+            auto& tip = dynamic_cast<controls::ToolTip&>(Any("C"));
+            host::Extender& extender = Any("C").GetExtender();
+            EXPECT_EQ(tip.ToolTipTextW(), userMode ? TEXT("plain") : TEXT("")) << kind;
+            EXPECT_EQ(extender.ToolTipText(), userMode ? TEXT("") : TEXT("plain")) << kind;
+            extender.ToolTipText(TEXT("other"));
+            SendMessageW(Any("C").hWnd(), WM_MOUSEMOVE, 0, MAKELPARAM(3, 3));
+            EXPECT_EQ(tip.ToolTipTextW(), userMode ? TEXT("other") : TEXT("")) << kind;
+            EXPECT_EQ(extender.ToolTipText(), userMode ? TEXT("") : TEXT("other")) << kind;
+            tip.ToolTipTextW(TEXT("own"));
+            EXPECT_EQ(extender.ToolTipText(), TEXT("")) << kind;
         }
 }
 

@@ -1,6 +1,7 @@
 #include "controls/CheckBox/CheckBox.h"
 
 #include "controls/Frame/Frame.h"
+#include "tests/conformance/Paper.h"
 #include "tests/controls/FormFixture.h"
 
 namespace tests {
@@ -136,42 +137,22 @@ TEST_F(CheckBox, Transparent_ShowsWhatTheContainerPaintsAsItFirstWas)
     form->BackColor(0x4080C0);
     for (const char* const name : {"Inner", "Outer"}) {
         const HWND window = Any(name).hWnd();
-        const base::MemoryDc paper(CreateCompatibleDC(nullptr));
+        const Paper paper(60, 20);
         const auto ask = [&] {
-            return SendMessageW(GetParent(window), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(paper.Get()),
+            return SendMessageW(GetParent(window), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(paper.Dc()),
                                 reinterpret_cast<LPARAM>(window));
         };
         const LRESULT brush = ask();
-        EXPECT_EQ(GetBkMode(paper.Get()), TRANSPARENT);
+        EXPECT_EQ(GetBkMode(paper.Dc()), TRANSPARENT);
         EXPECT_EQ(ask(), brush) << "made once";
         EXPECT_NE(GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_RTLREADING, 0) << "as its form reads";
-        const HDC screen = GetDC(window);
-        const base::BitmapHandle picture(CreateCompatibleBitmap(screen, 60, 20));
-        ReleaseDC(window, screen);
-        const HGDIOBJ former = SelectObject(paper.Get(), picture.Get());
         const RECT all{0, 0, 60, 20};
-        FillRect(paper.Get(), &all, reinterpret_cast<HBRUSH>(brush));
+        FillRect(paper.Dc(), &all, reinterpret_cast<HBRUSH>(brush));
         const HDC behind = name[0] == 'I' ? Get<controls::Frame>("Box").GetSurface().Dc() : nullptr;
         for (int x = 0; x < 60; x += 4)
             for (int y = 0; y < 20; ++y)
-                EXPECT_EQ(GetPixel(paper.Get(), x, y), behind ? GetPixel(behind, x + 2, y + 4) : COLORREF{0x4080C0})
-                    << name << x << " " << y;
-        SelectObject(paper.Get(), former);
+                EXPECT_EQ(paper.At(x, y), behind ? GetPixel(behind, x + 2, y + 4) : COLORREF{0x4080C0}) << name << x << " " << y;
     }
-}
-
-TEST_F(CheckBox, KeysAndContextMenu_RaiseEvents)
-{
-    Box().KeyDown.Connect(
-        [&](std::int16_t& code, std::int16_t& shift) { Note("down " + std::to_string(code) + " " + std::to_string(shift)); });
-    Box().KeyUp.Connect([&](std::int16_t& code, std::int16_t&) { Note("up " + std::to_string(code)); });
-    Box().KeyPress.Connect([&](std::int16_t& code) { Note("press " + std::to_string(code)); });
-    Box().ContextMenu.Connect([&] { Note("menu"); });
-    Box().SetFocus();
-    Press('A');
-    EXPECT_EQ(Take(), (Lines{"down 65 0", "press 97", "up 65"}));
-    SendMessageW(Box().hWnd(), WM_CONTEXTMENU, 0, 0);
-    EXPECT_EQ(Take(), Lines{"menu"});
 }
 
 TEST_F(CheckBox, InADesigner_HasAWindowThatIsNotWatched)

@@ -105,7 +105,6 @@ TEST_F(CommandButtonCalls, Window_IsCutOnlyWhenItsShapeChanges)
     };
     EXPECT_EQ(cuts([&] { Button().DrawControl(); }), 0U);
     EXPECT_EQ(cuts([&] { Button().Style(8); }), 1U);
-    EXPECT_EQ(cuts([&] { Button().Refresh(); }), 0U);
     EXPECT_EQ(cuts([&] { Button().GetExtender().Width(1800); }), 1U);
     EXPECT_EQ(cuts([&] { Button().Style(18); }), 1U);
     // What only redraws changes the shape too.

@@ -79,6 +79,15 @@ TEST_F(FrameOleDragging, OwnDrag_RunsFromStartToComplete)
     const std::vector<std::pair<DWORD, HRESULT>> feedback = {
         {0, S_OK}, {2, DRAGDROP_S_USEDEFAULTCURSORS}, {2, DRAGDROP_S_USEDEFAULTCURSORS}};
     EXPECT_EQ(User().Feedback(), feedback);
+    // A text that is only promised is asked for at the drop.
+    From().OLEGiveFeedback.Connect(nullptr);
+    From().OLEStartDrag.Connect([](DataObject& data, std::int32_t& allowed) {
+        data.SetData({}, CF_TEXT);
+        allowed = DROPEFFECT_COPY | DROPEFFECT_MOVE;
+    });
+    User().Plan({{inTo}, {inTo, 0}});
+    From().OLEDrag();
+    EXPECT_EQ(Take(), (Lines{"OLEDragOver 0 1 50,60", "OLESetData 1", "OLEDragDrop 3 late", "OLECompleteDrag 2"}));
 }
 
 TEST_F(FrameOleDragging, Drag_EndsWithoutADrop)
@@ -107,18 +116,6 @@ TEST_F(FrameOleDragging, Drag_EndsWithoutADrop)
     From().OLEStartDrag.Connect([](DataObject&, std::int32_t&) { throw std::runtime_error("handler"); });
     EXPECT_THROW(From().OLEDrag(), std::runtime_error);
     EXPECT_THROW(From().OLEDrag(), std::runtime_error) << "one that failed does not block the next";
-}
-
-TEST_F(FrameOleDragging, PromisedText_IsAskedForAtTheDrop)
-{
-    From().OLEGiveFeedback.Connect(nullptr);
-    From().OLEStartDrag.Connect([](DataObject& data, std::int32_t& allowed) {
-        data.SetData({}, CF_TEXT);
-        allowed = DROPEFFECT_COPY | DROPEFFECT_MOVE;
-    });
-    User().Plan({{inTo}, {inTo, 0}});
-    From().OLEDrag();
-    EXPECT_EQ(Take(), (Lines{"OLEDragOver 0 1 50,60", "OLESetData 1", "OLEDragDrop 3 late", "OLECompleteDrag 2"}));
 }
 
 TEST_F(FrameOleDragging, AnotherProgramsDrag_IsReadAndAnswered)
