@@ -58,11 +58,7 @@ TEST(DSubclass, DeadOrNoWindow_IsRefusedWithoutAHeap)
 
 TEST(DSubclass, Message_GoesThroughNewestFirstUntilHandled)
 {
-    const struct {
-        char handler;
-        const char* heardBy;
-        LRESULT answer;
-    } cases[] = {{'-', "cba", 11}, {'a', "cba", 99}, {'b', "cb", 99}, {'c', "c", 99}};
+    const std::tuple<char, const char*, LRESULT> cases[] = {{'-', "cba", 11}, {'a', "cba", 99}, {'b', "cb", 99}, {'c', "c", 99}};
     for (const auto& [handler, heardBy, answer] : cases) {
         const PlainWindow window;
         std::string order;
@@ -177,42 +173,39 @@ TEST(DSubclass, EndingAnythingAnywhere_LeavesNothing)
         std::unique_ptr<DSubclass> older = std::make_unique<DSubclass>(), newer = std::make_unique<DSubclass>();
         void Objects() { newer.reset(), older.reset(); }
     };
-    const struct {
-        const char* what;
-        void (*end)(Scene&);
-        bool endsWindow;
-    } endings[] = {{"newer", [](Scene& scene) { scene.newer.reset(); }, false},
-                   {"older", [](Scene& scene) { scene.older.reset(); }, false},
-                   {"older, newer", [](Scene& scene) { scene.older.reset(), scene.newer.reset(); }, false},
-                   {"newer, older", [](Scene& scene) { scene.Objects(); }, false},
-                   {"window", [](Scene& scene) { scene.window.Destroy(); }, true},
-                   {"window, objects", [](Scene& scene) { scene.window.Destroy(), scene.Objects(); }, true},
-                   {"objects, window", [](Scene& scene) { scene.Objects(), scene.window.Destroy(); }, true}};
+    const std::tuple<const char*, void (*)(Scene&), bool> endings[] = {
+        {"newer", [](Scene& scene) { scene.newer.reset(); }, false},
+        {"older", [](Scene& scene) { scene.older.reset(); }, false},
+        {"older, newer", [](Scene& scene) { scene.older.reset(), scene.newer.reset(); }, false},
+        {"newer, older", [](Scene& scene) { scene.Objects(); }, false},
+        {"window", [](Scene& scene) { scene.window.Destroy(); }, true},
+        {"window, objects", [](Scene& scene) { scene.window.Destroy(), scene.Objects(); }, true},
+        {"objects, window", [](Scene& scene) { scene.Objects(), scene.window.Destroy(); }, true}};
     enum Place { Outside, InHandler, InNestedHandler, AtDestroy };
-    for (const auto& ending : endings)
+    for (const auto& [what, end, endsWindow] : endings)
         for (const Place place : {Outside, InHandler, InNestedHandler, AtDestroy}) {
-            if (place == AtDestroy && ending.endsWindow)
+            if (place == AtDestroy && endsWindow)
                 continue;
-            SCOPED_TRACE(std::string(ending.what) + " at place " + std::to_string(place));
+            SCOPED_TRACE(std::string(what) + " at place " + std::to_string(place));
             Scene scene;
             int depth = 0;
             scene.newer->WndProc.Connect([&](HWND target, UINT message, WPARAM, LPARAM, LRESULT& result, bool& handled) {
                 if (message == WM_DESTROY && place == AtDestroy)
-                    ending.end(scene);
+                    end(scene);
                 if (message != probe || place == Outside)
                     return;
                 handled = true;
                 if (++depth == 1 && place == InNestedHandler) {
                     EXPECT_EQ(SendMessageW(target, probe, 0, 0), 42);
                 } else {
-                    ending.end(scene);
+                    end(scene);
                 }
                 result = 40 + depth--;
             });
             scene.older->Enable(scene.window.Get());
             scene.newer->Enable(scene.window.Get());
             if (place == Outside)
-                ending.end(scene);
+                end(scene);
             else if (place == AtDestroy)
                 scene.window.Destroy();
             else

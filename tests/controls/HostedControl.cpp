@@ -120,14 +120,11 @@ TEST_F(HostedControl, ButtonLetGoElsewhere_IsNoClick)
 TEST_F(HostedControl, KeysOfARealKeyboard_AreFilteredAndPastingIsNot)
 {
     auto& box = Get<controls::TextBox>("Second");
-    const struct {
-        const char* rule;
-        std::function<void(bool)> set;
-        const WCHAR* typed;
-    } rules[] = {{"letters", [&](bool on) { box.AllowOnlyAlphabetics(on); }, TEXT("ae ")},
-                 {"some", [&](bool on) { box.AllowOnlyChars(on ? TEXT("A1") : TEXT("")); }, TEXT("a1")},
-                 {"digits", [&](bool on) { box.AllowOnlyNumbers(on); }, TEXT("12")},
-                 {"none", [](bool) {}, TEXT("a1e2 ")}};
+    const std::tuple<const char*, std::function<void(bool)>, const WCHAR*> rules[] = {
+        {"letters", [&](bool on) { box.AllowOnlyAlphabetics(on); }, TEXT("ae ")},
+        {"some", [&](bool on) { box.AllowOnlyChars(on ? TEXT("A1") : TEXT("")); }, TEXT("a1")},
+        {"digits", [&](bool on) { box.AllowOnlyNumbers(on); }, TEXT("12")},
+        {"none", [](bool) {}, TEXT("a1e2 ")}};
     Get<controls::TextBox>("First").Text(TEXT("-x3"));
     Any("First").SetFocus();
     Get<controls::TextBox>("First").SetSel(0, 3);

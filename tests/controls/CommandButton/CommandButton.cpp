@@ -34,21 +34,17 @@ protected:
 
 TEST_F(CommandButton, Mouse_RaisesItsEventsInOrder)
 {
-    const struct {
-        UINT message;
-        WPARAM keys;
-        std::int32_t state;
-        Lines events;
-    } steps[] = {{WM_MOUSEMOVE, 0, controls::StateHot, {"MouseEnter", "MouseMove"}},
-                 {WM_LBUTTONDOWN, MK_LBUTTON, controls::StatePressed, {"MouseDown 1 5,6"}},
-                 {WM_LBUTTONUP, 0, controls::StateHot, {"MouseUp 1", "Click"}},
-                 {WM_LBUTTONDBLCLK, MK_LBUTTON, controls::StatePressed, {"MouseDown 1 1,1", "DblClick"}},
-                 {WM_LBUTTONUP, 0, controls::StateHot, {"MouseUp 1"}},
-                 {WM_RBUTTONDOWN, MK_RBUTTON, controls::StateHot, {"MouseDown 2 5,6"}},
-                 {WM_RBUTTONUP, 0, controls::StateHot, {"MouseUp 2", "ContextMenu"}},
-                 {WM_LBUTTONDOWN, MK_LBUTTON, controls::StatePressed, {"MouseDown 1 5,6"}},
-                 {WM_LBUTTONUP, 0, controls::StateHot, {"MouseUp 1", "Click"}},
-                 {WM_MOUSELEAVE, 0, controls::StateNormal, {"MouseLeave"}}};
+    const std::tuple<UINT, WPARAM, std::int32_t, Lines> steps[] = {
+        {WM_MOUSEMOVE, 0, controls::StateHot, {"MouseEnter", "MouseMove"}},
+        {WM_LBUTTONDOWN, MK_LBUTTON, controls::StatePressed, {"MouseDown 1 5,6"}},
+        {WM_LBUTTONUP, 0, controls::StateHot, {"MouseUp 1", "Click"}},
+        {WM_LBUTTONDBLCLK, MK_LBUTTON, controls::StatePressed, {"MouseDown 1 1,1", "DblClick"}},
+        {WM_LBUTTONUP, 0, controls::StateHot, {"MouseUp 1"}},
+        {WM_RBUTTONDOWN, MK_RBUTTON, controls::StateHot, {"MouseDown 2 5,6"}},
+        {WM_RBUTTONUP, 0, controls::StateHot, {"MouseUp 2", "ContextMenu"}},
+        {WM_LBUTTONDOWN, MK_LBUTTON, controls::StatePressed, {"MouseDown 1 5,6"}},
+        {WM_LBUTTONUP, 0, controls::StateHot, {"MouseUp 1", "Click"}},
+        {WM_MOUSELEAVE, 0, controls::StateNormal, {"MouseLeave"}}};
     LogEvents();
     for (const auto& [message, keys, state, events] : steps) {
         Mouse(message, keys);

@@ -15,9 +15,7 @@ protected:
     }
     controls::CommandButton& Button() { return Get<controls::CommandButton>("B"); }
     COLORREF Pixel(int x, int y) { return GetPixel(Button().GetSurface().Dc(), x, y); }
-    void Mouse(UINT message, WPARAM keys = 0) { SendMessageW(Button().hWnd(), message, keys, MAKELPARAM(5, 6)); }
 
-    static constexpr COLORREF color = 0xC08040, white = 0xFFFFFF;
     static constexpr int width = 100, height = 30;
 };
 
@@ -43,7 +41,7 @@ TEST_F(Rendering, ThemeStyle_FallsBackWithoutThemes)
     controls::ThemeState::OfProcess().AskVersionWith([] { return DWORD{5}; });
     SendMessageW(Button().hWnd(), WM_THEMECHANGED, 0, 0);
     EXPECT_EQ(Pixel(50, 0), frame);
-    Mouse(WM_LBUTTONDOWN, MK_LBUTTON);
+    SendMessageW(Button().hWnd(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 6));
     EXPECT_EQ(Pixel(50, 1), 0xA27A53U) << "pressed";
     for (const std::int32_t unknown : {19, -1, 70000}) {
         Button().NonThemeStyle(unknown);
@@ -92,15 +90,11 @@ TEST(CommandButtonLayout, Caption_StandsWhereItsAlignmentSays)
     using namespace controls;
     // A text block of 40 by 13 pixels in a button of 100 by 30.
     const RECT block{0, 3, 40, 16};
-    const struct {
-        std::int32_t align;
-        RECT place;
-        UINT format;
-    } cases[] = {{AlignCentre, {30, 9, 70, 22}, 0x15},
-                 {AlignLeft, {3, 9, 43, 22}, 0x14},
-                 {AlignRight, {57, 9, 97, 22}, 0x16},
-                 {AlignTop, {30, 3, 70, 16}, 0x11},
-                 {AlignBottom, {30, 14, 70, 27}, 0x19}};
+    const std::tuple<std::int32_t, RECT, UINT> cases[] = {{AlignCentre, {30, 9, 70, 22}, 0x15},
+                                                          {AlignLeft, {3, 9, 43, 22}, 0x14},
+                                                          {AlignRight, {57, 9, 97, 22}, 0x16},
+                                                          {AlignTop, {30, 3, 70, 16}, 0x11},
+                                                          {AlignBottom, {30, 14, 70, 27}, 0x19}};
     for (const auto& [align, place, format] : cases) {
         const CaptionPlace result = PlaceCaption(100, 30, block, align, 3, false);
         EXPECT_TRUE(EqualRect(&result.rectangle, &place)) << align << ": " << result.rectangle.left << "," << result.rectangle.top << ","

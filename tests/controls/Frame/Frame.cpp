@@ -135,39 +135,37 @@ TEST_F(FrameBorder, ClassicForms_StandInWithoutThemes)
 {
     const Rows etched{"DDDDDDDDDDDDDL", "DLLLLLLLLLLLDL", "DL..........DL", "DL..........DL", "DL..........DL",
                       "DL..........DL", "DDDDDDDDDDDDDL", "LLLLLLLLLLLLLL", ".............."};
-    const struct {
-        std::uint8_t appearance;
-        int round;
-        Rows picture;
-    } forms[] = {{0,
-                  0,
-                  {"DDDDDDDDDDDDDD", "D............D", "D............D", "D............D", "D............D", "D............D",
-                   "D............D", "DDDDDDDDDDDDDD", ".............."}},
-                 {1, 0, etched},
-                 {2, 0, etched},
-                 {0,
-                  6,
-                  {"..DDDDDDDDD...", ".D.........D..", "D...........D.", "D...........D.", "D...........D.", ".D.........D..",
-                   "..DDDDDDDDD...", "..............", ".............."}},
-                 {1,
-                  6,
-                  {"..DDDDDDDDD...", ".D.LLLLLLLLD..", "D.L.........D.", "DL..........DL", "DL..........DL", ".D.........D.L",
-                   "..DDDDDDDDD.L.", "...LLLLLLLLL..", ".............."}},
-                 {2,
-                  6,
-                  {"..LLLLLLLLL...", ".L.DDDDDDDDL..", "L.D.........L.", "LD..........LD", "LD..........LD", ".L.........L.D",
-                   "..LLLLLLLLL.D.", "...DDDDDDDDD..", ".............."}}};
-    for (const auto& form : forms) {
-        Box().Appearance(form.appearance);
-        Box().BorderRound(form.round);
-        EXPECT_EQ(Picture(), form.picture) << int{form.appearance} << ", round " << form.round;
+    const std::tuple<std::uint8_t, int, Rows> forms[] = {
+        {0,
+         0,
+         {"DDDDDDDDDDDDDD", "D............D", "D............D", "D............D", "D............D", "D............D", "D............D",
+          "DDDDDDDDDDDDDD", ".............."}},
+        {1, 0, etched},
+        {2, 0, etched},
+        {0,
+         6,
+         {"..DDDDDDDDD...", ".D.........D..", "D...........D.", "D...........D.", "D...........D.", ".D.........D..", "..DDDDDDDDD...",
+          "..............", ".............."}},
+        {1,
+         6,
+         {"..DDDDDDDDD...", ".D.LLLLLLLLD..", "D.L.........D.", "DL..........DL", "DL..........DL", ".D.........D.L", "..DDDDDDDDD.L.",
+          "...LLLLLLLLL..", ".............."}},
+        {2,
+         6,
+         {"..LLLLLLLLL...", ".L.DDDDDDDDL..", "L.D.........L.", "LD..........LD", "LD..........LD", ".L.........L.D", "..LLLLLLLLL.D.",
+          "...DDDDDDDDD..", ".............."}}};
+    for (const auto& [appearance, round, picture] : forms) {
+        Box().Appearance(appearance);
+        Box().BorderRound(round);
+        EXPECT_EQ(Picture(), picture) << int{appearance} << ", round " << round;
     }
+    const Rows last = Picture();
     Box().UseClassicTheme(false);
-    EXPECT_NE(Picture(), forms[5].picture) << "the theme's own border";
+    EXPECT_NE(Picture(), last) << "the theme's own border";
     // Common controls that are too old.
     controls::ThemeState::OfProcess().AskVersionWith([] { return DWORD{5}; });
     SendMessageW(Box().hWnd(), WM_THEMECHANGED, 0, 0);
-    EXPECT_EQ(Picture(), forms[5].picture);
+    EXPECT_EQ(Picture(), last);
 }
 
 TEST_F(Frame, TopRow_IsPaintedOverOnceMoreAfterAPaint)

@@ -94,13 +94,10 @@ TEST_F(FrameOleDragging, Drag_EndsWithoutADrop)
 {
     Dragging::Step escape{inTo};
     escape.escape = true;
-    const struct {
-        const char* how;
-        Dragging::Steps steps;
-        Lines target;
-    } cases[] = {{"Esc", {{inTo}, escape}, {"OLEDragOver 0 1 50,60", "OLEDragOver 1 1 50,60"}},
-                 {"let go outside", {{inTo}, {outside}, {outside, 0}}, {"OLEDragOver 0 1 50,60", "OLEDragOver 1 1 50,60"}},
-                 {"a click", {{inFrom, 0}}, {}}};
+    const std::tuple<const char*, Dragging::Steps, Lines> cases[] = {
+        {"Esc", {{inTo}, escape}, {"OLEDragOver 0 1 50,60", "OLEDragOver 1 1 50,60"}},
+        {"let go outside", {{inTo}, {outside}, {outside, 0}}, {"OLEDragOver 0 1 50,60", "OLEDragOver 1 1 50,60"}},
+        {"a click", {{inFrom, 0}}, {}}};
     From().OLEGiveFeedback.Connect(nullptr);
     for (const auto& [how, steps, target] : cases) {
         User().Plan(steps);
@@ -121,10 +118,8 @@ TEST_F(FrameOleDragging, Drag_EndsWithoutADrop)
 TEST_F(FrameOleDragging, AnotherProgramsDrag_IsReadAndAnswered)
 {
     const Dragging::Steps drop = {{inTo}, {inTo, 0}};
-    const struct {
-        Dragging::Foreign data;
-        const char* read;
-    } cases[] = {{{u"wide", "narrow", {}}, "wide"}, {{u"", "narrow", {}}, "narrow"}, {{u"", "", {u"C:\\a", u"C:\\b c"}}, "C:\\a C:\\b c"}};
+    const std::pair<Dragging::Foreign, const char*> cases[] = {
+        {{u"wide", "narrow", {}}, "wide"}, {{u"", "narrow", {}}, "narrow"}, {{u"", "", {u"C:\\a", u"C:\\b c"}}, "C:\\a C:\\b c"}};
     for (const auto& [data, read] : cases) {
         EXPECT_EQ(User().DragIn(data, DROPEFFECT_COPY | DROPEFFECT_MOVE, drop), DROPEFFECT_MOVE);
         EXPECT_EQ(Take().back(), std::string("OLEDragDrop 3 ") + read);
