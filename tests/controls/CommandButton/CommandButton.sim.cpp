@@ -160,6 +160,18 @@ TEST_F(CommandButtonCalls, EveryStyle_HasItsMargin)
     }
 }
 
+TEST_F(CommandButtonCalls, ZedOrder_MovesNothingElse)
+{
+    Show("");
+    auto& trace = Pc().Trace();
+    trace.Start();
+    Button().ZedOrder(nullptr);
+    trace.Stop();
+    ASSERT_GE(trace.Count("SetWindowPos"), 1U);
+    const std::string arguments = trace.Of("SetWindowPos").front().arguments;
+    EXPECT_TRUE(arguments.ends_with(", 0, 0, 0, 0, 0x233")) << arguments;
+}
+
 TEST_F(CommandButtonCalls, OpenLink_AsksTheShellAndTellsItsAnswer)
 {
     Show("");
