@@ -1,4 +1,4 @@
-// Facts about the classes of the system that the program hosts: the colours they ask for, clicks, and what typing leaves.
+// Facts about the classes of the system that the program hosts: the colours they ask for, and what typing leaves.
 #include "tests/support/SentMessages.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,6 @@
 namespace {
 
 using Messages = std::set<UINT>;
-using Codes = std::vector<int>;
 
 class SystemControls : public testing::Test {
 protected:
@@ -27,21 +26,16 @@ protected:
         RedrawWindow(child, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
         return asked_;
     }
-    /// Codes of the WM_COMMAND messages since the last call.
-    static Codes Told() { return std::exchange(codes_, {}); }
 
 private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     {
         if (message >= WM_CTLCOLOREDIT && message <= WM_CTLCOLORSTATIC)
             asked_.insert(message);
-        if (message == WM_COMMAND)
-            codes_.push_back(HIWORD(wParam));
         return DefWindowProcW(window, message, wParam, lParam);
     }
 
     static inline Messages asked_;
-    static inline Codes codes_;
     const HWND parent_ =
         CreateWindowExW(0, TEXT("Static"), TEXT(""), WS_POPUP | WS_VISIBLE, 60, 80, 600, 400, nullptr, nullptr, nullptr, nullptr);
 };
@@ -56,28 +50,6 @@ TEST_F(SystemControls, ColorsAreAskedAsEdit_WhileOneCanTypeIntoIt)
     for (const HWND window : {edit, disabled, label, Add(TEXT("Button"), BS_3STATE)})
         EXPECT_EQ(ColorsAskedBy(window), Messages{WM_CTLCOLORSTATIC});
     EXPECT_EQ(SendMessageW(label, WM_NCHITTEST, 0, MAKELPARAM(70, 90)), HTTRANSPARENT) << "a label lets the mouse through";
-}
-
-TEST_F(SystemControls, PressedButton_TakesFocusAndMouseClicksWhenLetGoAndLeavesTheCheck)
-{
-    const HWND button = Add(TEXT("Button"), BS_3STATE);
-    const auto state = [&] { return SendMessageW(button, BM_GETSTATE, 0, 0) & (BST_FOCUS | BST_PUSHED | BST_CHECKED); };
-    Told();
-    SendMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-    EXPECT_EQ(GetFocus(), button);
-    EXPECT_EQ(GetCapture(), button);
-    EXPECT_EQ(state(), BST_PUSHED | BST_FOCUS);
-    EXPECT_EQ(Told(), Codes());
-    SendMessageW(button, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
-    EXPECT_EQ(GetCapture(), nullptr);
-    EXPECT_EQ(state(), BST_FOCUS);
-    EXPECT_EQ(Told(), Codes{BN_CLICKED});
-    SendMessageW(button, WM_KEYDOWN, VK_SPACE, 1);
-    EXPECT_EQ(Told(), Codes());
-    SendMessageW(button, WM_KEYUP, VK_SPACE, 1);
-    EXPECT_EQ(Told(), Codes{BN_CLICKED});
-    SendMessageW(button, BM_SETCHECK, 7, 0);
-    EXPECT_EQ(SendMessageW(button, BM_GETCHECK, 0, 0), BST_INDETERMINATE) << "held to the states that there are";
 }
 
 TEST_F(SystemControls, StylesOfAnEdit_DecideWhatTypingLeaves)

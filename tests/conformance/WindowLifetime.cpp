@@ -1,4 +1,4 @@
-// Windows come, are shown and go: which messages they get, in which order.
+// Windows go: which messages they get, in which order.
 #include "tests/support/MessageLog.h"
 
 namespace {
@@ -23,19 +23,6 @@ TEST(WindowLifetime, Destroying_GoesDownAndComesBackUp)
     EXPECT_FALSE(IsWindow(owned));
     EXPECT_FALSE(IsWindow(child));
     EXPECT_FALSE(DestroyWindow(top));
-}
-
-TEST(WindowLifetime, DestroyedChild_HidesFirstAndHandsTheFocusToItsParent)
-{
-    MessageLog log;
-    const HWND top = log.Create("top", topStyle | WS_VISIBLE);
-    const HWND child = log.Create("child", childStyle | WS_VISIBLE, top, {5, 6, 55, 36});
-    SetFocus(child);
-    log.Clear();
-    DestroyWindow(child);
-    EXPECT_TRUE(log.Is({"top WM_PARENTNOTIFY destroy", "child WM_SHOWWINDOW 0", "child WM_WINDOWPOSCHANGING", "child WM_WINDOWPOSCHANGED",
-                        "child WM_KILLFOCUS", "top WM_SETFOCUS", "child WM_DESTROY", "child WM_NCDESTROY"}));
-    EXPECT_EQ(GetFocus(), top);
 }
 
 }  // namespace
