@@ -33,8 +33,8 @@ TEST_F(Extender, Twips_MoveTheWindowAtOnce)
     extender.Height(450);
     EXPECT_EQ(log.Take(), (Lines{"P.Resize 100x20", "P.Resize 100x30"}));
     EXPECT_TRUE(isAt({10, 5, 110, 35}));
-    extender.Move(30, 30, 300, 150);
-    EXPECT_TRUE(isAt({2, 2, 22, 12}));
+    extender.Move(37, 38, 293, 157);
+    EXPECT_TRUE(isAt({2, 3, 22, 13})) << "to the nearest pixel";
     EXPECT_EQ(log.Take(), Lines{"P.Resize 20x10"});
 }
 

@@ -1,6 +1,5 @@
-// What is left when Windows refuses, and the same form on another screen.
+// What is left when Windows refuses.
 #include "host/MessageLoop.h"
-#include "platform/sim/Desktop.h"
 #include "platform/sim/SimPc.h"
 #include "tests/host/Probe.h"
 #include "tests/support/SentMessages.h"
@@ -73,23 +72,6 @@ TEST_F(Failures, AnySingleFailingCall_LeavesNothingBehind)
             break;
     }
     EXPECT_GT(call, 50U);
-}
-
-TEST_F(Failures, At144DotsPerInch_ATwipIsATenthOfAPixel)
-{
-    platform::SimPc::Current().Get<platform::Desktop>().Dpi(144);
-    Open(text);
-    RECT client{}, window{};
-    GetClientRect(form->hWnd(), &client);
-    EXPECT_EQ(client.right, 450);
-    GetWindowRect(WindowOf(TEXT("A")), &window);
-    MapWindowPoints(nullptr, form->hWnd(), reinterpret_cast<POINT*>(&window), 2);
-    EXPECT_EQ(window.left, 15);
-    EXPECT_EQ(window.right, 105);
-    ExtenderOf(TEXT("A")).Move(20, 30, 95, 44);
-    GetClientRect(WindowOf(TEXT("A")), &client);
-    EXPECT_EQ(client.right, 10);
-    EXPECT_EQ(client.bottom, 4);
 }
 
 }  // namespace tests

@@ -94,25 +94,6 @@ TEST_F(KeyRouting, AltAndALetter_GoToTheControlWithThatKey)
     EXPECT_EQ(afterAlt('P'), "Plain");
 }
 
-TEST_F(KeyRouting, Tab_LeavesStockControlsAndIsAKeyForOthers)
-{
-    Open(keyboard);
-    form->KeyPreview(false);
-    form->Find(TEXT("Combo"))->SetFocus();
-    Press(VK_TAB);
-    EXPECT_EQ(ActiveName(), "Ok");
-    form->Find(TEXT("Combo"))->SetFocus();
-    Press(VK_TAB, 1);
-    EXPECT_EQ(ActiveName(), "Press");
-    log.Take();
-    Press(VK_TAB);
-    EXPECT_EQ(log.Take(), (Lines{"Press.KeyDown 9", "Press.KeyPress 9", "Press.KeyUp 9"}));
-    EXPECT_EQ(ActiveName(), "Press");
-    form->Find(TEXT("Combo"))->SetFocus();
-    Press(VK_DOWN);
-    EXPECT_EQ(form->Find<host::ComboBox>(TEXT("Combo"))->ListIndex(), 0);
-}
-
 TEST_F(KeyRouting, F6_GoesRoundTheContainers)
 {
     Open(R"(Form F {

@@ -1,4 +1,3 @@
-#include "base/Handles.h"
 #include "host/ComboBox.h"
 #include "host/Label.h"
 #include "host/MessageLoop.h"
@@ -69,17 +68,12 @@ TEST_F(StockControls, Label_ShowsWholeLinesOnly)
     extender.Width(600);
     const auto picture = [&](base::StringView caption) {
         label.Caption(caption);
-        const base::MemoryDc dc(CreateCompatibleDC(nullptr));
-        BITMAPINFO info{};
-        info.bmiHeader = {sizeof info.bmiHeader, 40, -17, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        void* bits = nullptr;
-        const base::BitmapHandle bitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-        const HGDIOBJ former = SelectObject(dc.Get(), bitmap.Get());
-        SendMessageW(label.hWnd(), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.Get()), 0);
+        ProbeNamed(TEXT("Group")).GetSurface().Clear();
+        const HDC paper = ProbeNamed(TEXT("Group")).GetSurface().Dc();
+        SendMessageW(label.hWnd(), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(paper), 0);
         std::vector<COLORREF> pixels;
         for (int place = 0; place < 40 * 17; ++place)
-            pixels.push_back(GetPixel(dc.Get(), place % 40, place / 40));
-        SelectObject(dc.Get(), former);
+            pixels.push_back(GetPixel(paper, place % 40, place / 40));
         return pixels;
     };
     EXPECT_EQ(picture(TEXT("Two lines")), picture(TEXT("Two")));
