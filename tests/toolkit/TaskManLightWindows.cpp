@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <iterator>
 
 using base::String;
 using tests::HelperProcess;
@@ -27,22 +28,17 @@ Windows Descendants(HWND window)
     return found;
 }
 
-/// The top-level windows of a process for which `wanted` says so, as Windows enumerates them.
-Windows TopLevel(DWORD process, bool (*wanted)(HWND))
+/// The top-level windows of a process, as Windows enumerates them.
+Windows TopLevel(DWORD process)
 {
     Windows found;
     EnumWindows(Take, reinterpret_cast<LPARAM>(&found));
     std::erase_if(found, [&](HWND window) {
         DWORD owner = 0;
         GetWindowThreadProcessId(window, &owner);
-        return owner != process || !wanted(window);
+        return owner != process;
     });
     return found;
-}
-
-bool Any(HWND)
-{
-    return true;
 }
 
 bool IsUnowned(HWND window)
@@ -67,8 +63,8 @@ TEST_F(TaskManLightWindows, Lists_AreThoseThatWindowsEnumerates)
     for (const std::string script :
          {"top: top:Main owned:Dialog child:Inner inner:Innermost inner: child: top:Second child:Last", "top: child:Titled", ""}) {
         const HelperProcess helper(script);
-        const Windows top = TopLevel(helper.Id(), Any);
-        Windows all;
+        const Windows top = TopLevel(helper.Id());
+        Windows all, unowned;
         for (const HWND window : top) {
             all.push_back(window);
             const Windows below = Descendants(window);
@@ -84,11 +80,11 @@ TEST_F(TaskManLightWindows, Lists_AreThoseThatWindowsEnumerates)
         EXPECT_GT(tools.GetAllHWnd(read), std::ssize(all) - 1);
         for (const HWND window : all)
             EXPECT_EQ(std::count(read.begin(), read.end(), window), 1);
-        const Windows unowned = TopLevel(helper.Id(), IsUnowned);
+        std::ranges::copy_if(top, std::back_inserter(unowned), IsUnowned);
         EXPECT_EQ(tools.GetMainWindowsHWndFromPID(helper.Id(), read), std::ssize(unowned));
         EXPECT_EQ(read, unowned) << script;
-        const Windows titled = TopLevel(helper.Id(), IsUnownedWithTitle);
-        EXPECT_EQ(tools.GetMainWindowFromPID(helper.Id()), titled.empty() ? nullptr : titled.front()) << script;
+        const auto main = std::ranges::find_if(top, IsUnownedWithTitle);
+        EXPECT_EQ(tools.GetMainWindowFromPID(helper.Id()), main == top.end() ? nullptr : *main) << script;
         for (const HWND window : all)
             EXPECT_EQ(tools.IsMainWindow(window), IsUnownedWithTitle(window));
     }
@@ -130,9 +126,7 @@ TEST_F(TaskManLightWindows, Texts_AreReadInFull)
     const HWND edit = CreateWindowExW(0, TEXT("Edit"), TEXT(""), WS_CHILD, 0, 0, 10, 10, window, nullptr, nullptr, nullptr);
     EXPECT_EQ(tools.GetClassNameFromHWnd(edit, true), TEXT("Edit"));
     const HelperProcess helper("top:Elsewhere");
-    const HWND another = FindWindowW(nullptr, TEXT("Elsewhere"));
-    EXPECT_EQ(tools.GetTextByHWnd(another), TEXT("Elsewhere")) << "asked across processes";
-    EXPECT_EQ(tools.GetWindowTitle(another), TEXT("Elsewhere"));
+    EXPECT_EQ(tools.GetTextByHWnd(FindWindowW(nullptr, TEXT("Elsewhere"))), TEXT("Elsewhere")) << "asked across processes";
     DestroyWindow(edit);
     EXPECT_FALSE(tools.ExistsWindow(edit));
     EXPECT_EQ(tools.GetWindowTitle(edit), TEXT(""));
