@@ -1,6 +1,6 @@
-// Facts about text: what DrawTextW measures, whatever the font.
-#include "base/Handles.h"
+// Facts about text: what DrawTextW measures and where it draws, whatever the font.
 #include "base/String.h"
+#include "tests/conformance/Paper.h"
 
 #include <gtest/gtest.h>
 
@@ -32,6 +32,23 @@ TEST(Texts, Measuring_TakesMarksOutBreaksLinesAndNeverSplitsAWord)
         EXPECT_EQ(box.right - box.left, Extent(dc.Get(), widest).cx) << "format " << format;
         EXPECT_EQ(box.bottom - box.top, lines * Extent(dc.Get(), widest).cy) << "format " << format;
     }
+}
+
+TEST(Texts, Alignment_PutsTheInkWhereItSays)
+{
+    const auto inkStart = [](UINT format) {
+        const tests::Paper paper(120, 20);
+        RECT box{0, 0, 120, 20};
+        DrawTextW(paper.Dc(), TEXT("H"), -1, &box, format | DT_WORDBREAK);
+        for (int x = 0; x < 120; ++x)
+            for (int y = 0; y < 20; ++y)
+                if (paper.At(x, y) == 0)
+                    return x;
+        return 999;
+    };
+    const int spare = 120 - Extent(base::MemoryDc(CreateCompatibleDC(nullptr)).Get(), TEXT("H")).cx;
+    EXPECT_EQ(inkStart(DT_CENTER) - inkStart(0), spare / 2);
+    EXPECT_EQ(inkStart(DT_RIGHT) - inkStart(0), spare);
 }
 
 }  // namespace

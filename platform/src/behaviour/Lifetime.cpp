@@ -200,8 +200,8 @@ HWND CreateWindowEx(DWORD exStyle, LPCWSTR className, LPCWSTR name, DWORD style,
     return WindowOf(handle) ? handle : nullptr;
 }
 
-/// The order is that of the conformance tests WindowLifetime.Destroying_GoesDownAndComesBackUp and
-/// DestroyedChild_HidesFirstAndHandsTheFocusToItsParent.
+/// The order is that of the conformance test WindowLifetime.Destroying_GoesDownAndComesBackUp. A child hides before it goes and hands
+/// the focus to its parent.
 BOOL DestroyWindow(HWND handle)
 {
     SimPc& pc = SimPc::Current();

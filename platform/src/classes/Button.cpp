@@ -156,8 +156,7 @@ void Button::Press()
     SetState(0, BST_PUSHED);
 }
 
-/// A check box of this kind leaves its check to its owner: conformance test
-/// SystemControls.PressedButton_TakesFocusAndMouseClicksWhenLetGoAndLeavesTheCheck.
+/// A check box of this kind leaves its check to its owner, who hears BN_CLICKED.
 void Button::Release(bool click)
 {
     pressing_ = bySpace_ = false;  // Before the capture goes, whose loss would take a press back.
