@@ -48,6 +48,10 @@ protected:
 
 TEST_F(Form1Notices, FailedClick_IsExplainedUntilItComesTrueOrTheUserActs)
 {
+    const auto launch = [&] {
+        The<Processes>().Launch(exe);
+        pc.Advance(700);
+    };
     const struct {
         const char* what;
         const WCHAR* button;
@@ -86,18 +90,20 @@ TEST_F(Form1Notices, FailedClick_IsExplainedUntilItComesTrueOrTheUserActs)
          u"Start Velmora|The system cannot find the file specified.\r\nError 2",
          [&] {
              The<Volumes>().WriteFile(exe, "MZ");
-             The<Processes>().Launch(exe);
-             pc.Advance(700);
+             launch();
          }},
         {"not to be started", TEXT("CommandStartVelmora"), [&] { pc.GetFaults().FailCall("CreateProcessW", ERROR_ACCESS_DENIED); },
-         u"Start Velmora|Access is denied.\r\nError 5",
-         [&] {
-             The<Processes>().Launch(exe);
-             pc.Advance(700);
-         }},
+         u"Start Velmora|Access is denied.\r\nError 5", launch},
     };
+    const std::pair<const char*, std::function<void()>> ends[] = {
+        {"a click", [&] { The<Desktop>().Click(Form().hWnd(), 3, 3); }},
+        {"a key", [&] { The<Desktop>().Press(VK_SHIFT); }},
+        {"a press on the title bar", [&] { PostMessageW(Form().hWnd(), WM_NCLBUTTONDOWN, HTCAPTION, 0); }},
+        {"ten seconds", [&] { pc.Advance(7200); }},
+        {"the window goes", [&] { Form().Unload(); }},
+        {"it comes true", nullptr}};
     for (const auto& [what, button, scene, said, comesTrue] : cases)
-        for (const char* const end : {"it comes true", "a click", "a key", "a press on the title bar", "ten seconds", "the window goes"}) {
+        for (const auto& [end, act] : ends) {
             SCOPED_TRACE(std::string(what) + ", " + end);
             ASSERT_TRUE(Open());
             scene();
@@ -110,17 +116,8 @@ TEST_F(Form1Notices, FailedClick_IsExplainedUntilItComesTrueOrTheUserActs)
             pc.Advance(1900);
             EXPECT_EQ(Balloon(true), nullptr) << "the button's tip lies over it";
             EXPECT_EQ(Said(), said) << "it stays";
-            if (end == std::string_view("it comes true"))
-                comesTrue();
-            else if (end == std::string_view("a click"))
-                The<Desktop>().Click(Form().hWnd(), 3, 3);
-            else if (end == std::string_view("a key"))
-                The<Desktop>().Press(VK_SHIFT);
-            else if (end == std::string_view("a press on the title bar"))
-                PostMessageW(Form().hWnd(), WM_NCLBUTTONDOWN, HTCAPTION, 0);
-            else if (end == std::string_view("the window goes"))
-                Form().Unload();
-            pc.Advance(end == std::string_view("ten seconds") ? 8200 : 1000);
+            (act ? act : comesTrue)();
+            pc.Advance(1000);
             EXPECT_EQ(Balloon(), nullptr);
             Close();
             for (const DWORD agentProcess : The<Processes>().Running(exe))

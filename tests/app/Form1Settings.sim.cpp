@@ -75,16 +75,6 @@ TEST_F(Form1Settings, Ok_SavesThePasswordAndKeepsTheAgentsOwnSettings)
     }
 }
 
-TEST_F(Form1Settings, ProtectedFolder_KeepsTheSettingsWithTheUser)
-{
-    The<Volumes>().MakeReadOnly(u"C:\\Tools");
-    ASSERT_TRUE(Open());
-    Text(TEXT("TextPassword")).Text(TEXT("abc"));
-    Click(TEXT("CommandOk"));
-    EXPECT_EQ(Settings(), std::nullopt);
-    EXPECT_EQ(Settings(u"C:\\Users\\Anna\\AppData\\Roaming\\Velmora Setup Utility\\Velmora.ini"), "[Settings]\r\nPwd=AYWJj\r\n");
-}
-
 TEST_F(Form1Settings, NoUsableFolder_LosesThePasswordSilently)
 {
     The<Volumes>().PersistentAcls(u"C:\\", false);

@@ -54,24 +54,18 @@ TEST(FormFile, Mistake_IsReportedWithItsLine)
     std::string deep = "Form F {\n";
     for (int level = 0; level < 100000; ++level)
         deep += "A B {";
-    const std::pair<std::string, int> cases[] = {{"", 1},
-                                                 {"Form F\n\n[", 3},
-                                                 {"Form F {\n    A = 1\n", 3},
-                                                 {"Form F {\n}\nForm G {\n}\n", 3},
-                                                 {"Form F {\n    A =\n    B = 1\n}\n", 3},
-                                                 {"Form F {\n    A = \"one\n    B = 2\n}\n", 2},
-                                                 {"Form F {\n\n    A = \"\\q\"\n}\n", 3},
-                                                 {"Form F {\n    A = 12x\n}\n", 2},
-                                                 {"Form F {\n    A = 0x123456789\n}\n", 2},
-                                                 {"Form F {\n    A = -0x10\n}\n", 2},
-                                                 {"Form F {\n    A = true\n}\n", 2},
-                                                 {"Form F {\n    A = [\"x\" \"y\"]\n}\n", 2},
-                                                 {"Form F {\n    A = Font(\"x\")\n}\n", 2},
-                                                 {"Form F {\n    A = Font(\"x\", 0)\n}\n", 2},
-                                                 {"Form F {\n    A = Font(\"x\", 8.2.5)\n}\n", 2},
-                                                 {"Form F {\n    A = Font(\"x\", 8, Charset 256)\n}\n", 2},
-                                                 {"Form F {\n    \xFF = 1\n}\n", 1},
-                                                 {deep, 2}};
+    std::vector<std::pair<std::string, int>> cases = {{"", 1},
+                                                      {"Form F\n\n[", 3},
+                                                      {"Form F {\n    A = 1\n", 3},
+                                                      {"Form F {\n}\nForm G {\n}\n", 3},
+                                                      {"Form F {\n    A =\n    B = 1\n}\n", 3},
+                                                      {"Form F {\n    A = \"one\n    B = 2\n}\n", 2},
+                                                      {"Form F {\n\n    A = \"\\q\"\n}\n", 3},
+                                                      {"Form F {\n    \xFF = 1\n}\n", 1},
+                                                      {deep, 2}};
+    for (const std::string value : {"12x", "0x123456789", "-0x10", "true", "[\"x\" \"y\"]", "Font(\"x\")", "Font(\"x\", 0)",
+                                    "Font(\"x\", 8.2.5)", "Font(\"x\", 8, Charset 256)"})
+        cases.emplace_back("Form F {\n    A = " + value + "\n}\n", 2);
     for (const auto& [text, line] : cases) {
         const ParsedForm form = ParseForm(text);
         EXPECT_EQ(form.line, line) << text.substr(0, 80) << "\n" << form.message;

@@ -19,27 +19,22 @@ protected:
     tests::ScratchFolder scratch;
 };
 
-/// The settings file of one value, as single bytes or as UTF-16LE with its mark.
-std::string FileOf(const String& value, bool wide)
+/// A settings file as single bytes or as UTF-16LE with its mark.
+std::string Bytes(const String& text, bool wide)
 {
-    const String text = TEXT("[Other]\r\nPwd=wrong\r\n\r\n[Settings]\r\nSound=1\r\nPwd=") + value + TEXT("\r\nLast=2\r\n");
     return wide ? "\xFF\xFE"s + tests::WideBytes(text) : std::string(text.begin(), text.end());
-}
-
-std::string Case(std::size_t length, bool wide)
-{
-    return std::to_string(length) + (wide ? " wide" : " narrow") + " characters";
 }
 
 TEST_F(Ini, ValuesOfEveryLength_AreReadWhole)
 {
     for (const bool wide : {false, true}) {
         for (const std::size_t length : {1u, 253u, 254u, 255u, 300u, 5000u}) {
-            SCOPED_TRACE(Case(length, wide));
+            SCOPED_TRACE(testing::Message() << length << " characters, wide " << wide);
             String value;
             for (std::size_t i = 0; i < length; ++i)
                 value += static_cast<WCHAR>(TEXT('A') + i % 26);
-            const String file = scratch.Write(TEXT("a.ini"), FileOf(value, wide));
+            const String text = TEXT("[Other]\r\nPwd=wrong\r\n\r\n[Settings]\r\nSound=1\r\nPwd=") + value + TEXT("\r\nLast=2\r\n");
+            const String file = scratch.Write(TEXT("a.ini"), Bytes(text, wide));
             EXPECT_EQ(ReadIniString(file, TEXT("Settings"), TEXT("Pwd"), TEXT("none")), value);
             EXPECT_EQ(ReadIniStringEx(file, TEXT("Settings"), TEXT("Pwd"), TEXT("none")), value);
         }
@@ -81,9 +76,8 @@ TEST_F(Ini, OwnParser_FindsLinesThatEndAtAChunksEnd)
             if (length == 520)
                 length = 1010;
             const String text = TEXT("[A]\r\nx=") + String(length, TEXT('y')) + TEXT("\r\nk=found\r\n");
-            const String file =
-                scratch.Write(TEXT("a.ini"), wide ? "\xFF\xFE"s + tests::WideBytes(text) : std::string(text.begin(), text.end()));
-            ASSERT_EQ(ReadIniStringEx(file, TEXT("A"), TEXT("k"), TEXT("")), TEXT("found")) << Case(length, wide);
+            const String file = scratch.Write(TEXT("a.ini"), Bytes(text, wide));
+            ASSERT_EQ(ReadIniStringEx(file, TEXT("A"), TEXT("k"), TEXT("")), TEXT("found")) << length << ", wide " << wide;
         }
     }
 }
@@ -92,7 +86,7 @@ TEST_F(Ini, WideText_IsNotSplitInsideItsCharacters)
 {
     // Between these two characters stand the bytes 0D 00 0A 00, which would be a line's end one byte further on.
     const String value = {static_cast<WCHAR>(0x0D41), static_cast<WCHAR>(0x0A00), static_cast<WCHAR>(0x4100)};
-    const String file = scratch.Write(TEXT("a.ini"), "\xFF\xFE"s + tests::WideBytes(TEXT("[A]\r\nk=") + value + TEXT("\r\n")));
+    const String file = scratch.Write(TEXT("a.ini"), Bytes(TEXT("[A]\r\nk=") + value + TEXT("\r\n"), true));
     EXPECT_EQ(ReadIniStringEx(file, TEXT("A"), TEXT("k"), TEXT("")), value);
 }
 
