@@ -1,7 +1,7 @@
 // The captions of the window's buttons as ink: whole, on one line and in the middle, whatever the screen's resolution.
 #include "app/Form1.h"
 #include "controls/RegisterControls.h"
-#include "tests/support/Resolution.h"
+#include "tests/support/Environment.h"
 
 #include <gtest/gtest.h>
 

@@ -97,7 +97,6 @@ TEST_F(Form1Settings, AutoStartValues_CheckTheirBoxes)
         {TextValue(u"\"C:\\Tools\\Velmora.exe\" /Hidden"), 1, 1, 0},
         {TextValue(u"\"C:\\Tools\\Velmora.exe\" /soundstart"), 1, 0, 1},
         {TextValue(u"x/HIDDENy/SOUNDSTARTz", REG_EXPAND_SZ), 1, 1, 1},
-        {TextValue(u""), 1, 0, 0},
         {RegistryValue{REG_BINARY, "/\0H\0i\0d\0d\0e\0n\0"}, 1, 0, 0},
         {TextValue(std::u16string(u" /Hidden").append(504, u'x')), 0, 0, 0},  // too long to be read
     };

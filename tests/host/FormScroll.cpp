@@ -58,35 +58,6 @@ protected:
     SIZE room{};
 };
 
-TEST_F(FormScroll, Window_StaysInTheWorkAreaAndHasTheBarsThatItNeeds)
-{
-    constexpr DWORD bars = WS_VSCROLL | WS_HSCROLL;
-    const struct {
-        LONG across, down;  // beyond the room
-        DWORD bars;
-    } cases[] = {{0, 0, 0},
-                 {-100, 1, WS_VSCROLL},
-                 {1, -100, WS_HSCROLL},
-                 {200, 300, bars},
-                 // The one bar takes the room that makes the other one necessary.
-                 {0, 1, bars},
-                 {1, 0, bars}};
-    for (const auto& [across, down, expected] : cases) {
-        SCOPED_TRACE(testing::Message() << across << ", " << down);
-        form = std::make_unique<ProbeForm>(log);
-        OpenBeyond(across, down);
-        RECT window{}, client{};
-        GetWindowRect(form->hWnd(), &window);
-        GetClientRect(form->hWnd(), &client);
-        EXPECT_EQ(static_cast<DWORD>(GetWindowLongW(form->hWnd(), GWL_STYLE)) & bars, expected);
-        EXPECT_TRUE(window.left >= area.left && window.top >= area.top && window.right <= area.right && window.bottom <= area.bottom);
-        // Each bar takes its breadth from what is left of the room beside it.
-        EXPECT_EQ(client.right, std::min(room.cx + across, room.cx - (expected == bars ? GetSystemMetrics(SM_CXVSCROLL) : 0)));
-        EXPECT_EQ(client.bottom, std::min(room.cy + down, room.cy - (expected == bars ? GetSystemMetrics(SM_CYHSCROLL) : 0)));
-        form->Unload();
-    }
-}
-
 TEST_F(FormScroll, BarWheelAndKeys_MoveItToItsEndsAndNoFurther)
 {
     OpenHigh();

@@ -19,7 +19,10 @@ TEST_F(FormScrollScreen, AnotherSize_IsFollowedAlsoByAnIcon)
                  {false, 1280, 800, {487, 165, 793, 594}, 0, 10},
                  {false, 1280, 500, {487, 31, 793, 460}, 0, 10},
                  {false, 800, 440, {477, 0, 800, 400}, WS_VSCROLL, -19},
-                 {false, 250, 440, {0, 0, 250, 400}, WS_VSCROLL | WS_HSCROLL, -36},
+                 {false, 250, 800, {0, 0, 250, 446}, WS_HSCROLL, 10},
+                 // The one bar takes the room that makes the other one necessary.
+                 {false, 306, 440, {0, 0, 306, 400}, WS_VSCROLL | WS_HSCROLL, -36},
+                 {false, 300, 469, {0, 0, 300, 429}, WS_VSCROLL | WS_HSCROLL, -7},
                  {true, 1280, 800, {0, 0, 306, 429}, 0, 10},
                  {true, 1280, 340, {0, 0, 323, 300}, WS_VSCROLL, -119}};
     Open("Form F {\nScaleMode = 3\nClientWidth = 4500\nClientHeight = 6000\nProbe A { Left = 10 Top = 10 Width = 60 Height = 20 }\n}");

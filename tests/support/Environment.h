@@ -5,4 +5,7 @@ namespace tests {
 
 void PrepareEnvironment();
 
+/// Whether the screen has so many dots per inch now; the stand-in PC is given them, Windows has them from its start.
+[[nodiscard]] bool AtDotsPerInch(int dots);
+
 }  // namespace tests

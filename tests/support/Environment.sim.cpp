@@ -1,5 +1,6 @@
 #include "tests/support/Environment.h"
 
+#include "platform/sim/Desktop.h"
 #include "platform/sim/SimPc.h"
 #include "tests/support/AgentProgram.h"
 #include "tests/support/FaultSweep.h"
@@ -63,6 +64,12 @@ Outcome Run(const Scenario& scenario, std::uint64_t n)
 void PrepareEnvironment()
 {
     testing::UnitTest::GetInstance()->listeners().Append(new FreshPc);
+}
+
+bool AtDotsPerInch(int dots)
+{
+    pc->Get<platform::Desktop>().Dpi(dots);
+    return true;
 }
 
 void FaultSweep(const Scenario& scenario)
