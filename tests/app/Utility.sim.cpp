@@ -20,7 +20,9 @@ TEST_F(Utility, WithoutItsAgentOrNt_SaysSoAndEndsWell)
     The<Volumes>().Remove(u"C:\\Tools\\Velmora.exe");
     for (const char16_t* const text :
          {u"\"Velmora.exe\" needs to be on this directory.", u"Velmora can be set as Service only on NT Systems"}) {
+        pc.Clock().Schedule(1000, [] { PostQuitMessage(9); });  // should it open its window after all
         EXPECT_EQ(app::RunUtility(), 0);
+        ASSERT_FALSE(The<MessageBoxes>().All().empty());
         const auto& box = The<MessageBoxes>().Last();
         EXPECT_EQ(box.text, text);
         EXPECT_EQ(box.caption, u"Velmora Setup Utility");
