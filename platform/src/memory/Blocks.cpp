@@ -55,6 +55,8 @@ std::span<std::byte> GlobalBytes(void* block)
 bool FreeGlobal(void* block)
 {
     SimPc& pc = SimPc::Current();
+    if (const auto moveable = pc.Handles().Find<MoveableBlock>(block); moveable && moveable->locks > 0)
+        pc.Unsupported("freeing a block of global memory that is still locked");
     return pc.Handles().Close<MoveableBlock>(block) || pc.Get<Blocks>().Free(block, Blocks::Kind::Global);
 }
 
