@@ -199,6 +199,15 @@ TEST_F(Form1Service, StartAndStop_SaveThePasswordAndShowThePendingState)
     // What the panel shows is looked at anew: somebody else has started it.
     The<Services>().SetState(name, SERVICE_RUNNING);
     press(TEXT("Stop Service"), SERVICE_STOP_PENDING);
+    pc.Advance(2000);
+    std::string changes;
+    Form().PropertyChanged.Connect([&](host::Control& control, base::StringView property) {
+        if (property == TEXT("Enabled"))
+            changes += control.Enabled() ? "on " : "off ";
+    });
+    pc.GetFaults().FailCall("StartServiceW", ERROR_SERVICE_DISABLED);
+    Button(TEXT("cmdStart")).Click.Raise();
+    EXPECT_EQ(changes, "off on ") << "nobody presses it twice while Windows is asked";
 }
 
 /// A reader would say every second what it is told every second.

@@ -23,7 +23,7 @@ protected:
             Label Prompt3 { Left = 150 Top = 1400 Width = 900 Height = 90 Caption = "Beside" TabIndex = 92 }
             CheckBox Check { Left = 150 Top = 1500 Width = 1500 Height = 300 TabIndex = 3 Caption = "Sound && light" Value = 1 }
             CommandButton Push { Left = 150 Top = 2100 Width = 1500 Height = 450 TabIndex = 4 Caption = "Save && E&xit" Default = True }
-            CommandButton Toggle { Left = 150 Top = 2700 Width = 1500 Height = 450 TabIndex = 5 Caption = "Toggle" ButtonType = 1 Value = 1 }
+            CommandButton Toggle { Left = 150 Top = 2700 Width = 1500 Height = 450 TabIndex = 5 Caption = "Toggle&" ButtonType = 1 Value = 1 }
             Frame Group { Left = 4500 Top = 150 Width = 3000 Height = 1500 TabIndex = 6 Caption = "&Options"
                 CommandButton Inner { Left = 150 Top = 300 Width = 1500 Height = 450 TabIndex = 7 Caption = "Inner" Enabled = False } })");
     }

@@ -39,7 +39,12 @@ protected:
     void Renew(host::Control& control, const std::function<void()>& renew)
     {
         const HWND before = control.hWnd();
+        int strayed = 0;
+        controls::DSubclass watch;
+        watch.WndProc.Connect([&](HWND, UINT message, WPARAM, LPARAM, LRESULT&, bool&) { strayed += message == WM_SETFOCUS; });
+        watch.Enable(GetParent(before));
         renew();
+        EXPECT_EQ(strayed, 0) << "Windows would give the container the focus of a window that goes";
         EXPECT_FALSE(IsWindow(before));
         RECT own{}, shown{};
         GetWindowRect(control.OwnHandle(), &own);

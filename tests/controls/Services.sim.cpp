@@ -85,6 +85,7 @@ TEST_F(SharedServices, DroppedFiles_AreNamedInOneEvent)
         SendMessageW(Any(name).hWnd(), WM_DROPFILES, reinterpret_cast<WPARAM>(shell.MakeDrop({u"C:\\a.txt", u" C:\\b ", u"C:\\c"})), 0);
     }
     const std::string expected = "3 [C:\\a.txt] [C:\\b] [C:\\c]";
+    SendMessageW(Any("Box").hWnd(), WM_DROPFILES, reinterpret_cast<WPARAM>(shell.MakeDrop({})), 0);
     EXPECT_EQ(Take(), (Lines{expected, expected}));
     Get<controls::Frame>("Box").DragDropEnabled(false);
     Get<controls::TextBox>("Text").DragDropEnabled(false);

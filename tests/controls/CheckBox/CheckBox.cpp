@@ -1,4 +1,5 @@
 #include "controls/CheckBox/CheckBox.h"
+#include "controls/CheckBox/CheckBoxLayout.h"
 
 #include "controls/Frame/Frame.h"
 #include "tests/conformance/Paper.h"
@@ -83,6 +84,7 @@ TEST_F(CheckBox, AutoSize_FollowsTheCaptionAndExcludesFontAutoSize)
     RECT window{};
     GetWindowRect(Box().hWnd(), &window);
     EXPECT_EQ(window.right - window.left, text.cx + GetSystemMetrics(SM_CXMENUCHECK) + 4 * GetSystemMetrics(SM_CXEDGE));
+    EXPECT_EQ(controls::RoomForCaption(100), 100 - GetSystemMetrics(SM_CXMENUCHECK) - 3 * GetSystemMetrics(SM_CXEDGE));
     EXPECT_EQ(window.bottom - window.top, 20);
     Box().FontAutoSize(true);
     EXPECT_FALSE(Box().AutoSize());

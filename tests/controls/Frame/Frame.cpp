@@ -63,6 +63,10 @@ TEST_F(Frame, Children_ThatWereDisabledBefore_StayDisabled)
     EXPECT_FALSE(Any("Off").Enabled());
     EXPECT_TRUE(Any("Text").Enabled());
     EXPECT_FALSE(Any("Clock").Enabled()) << "timers are none of its business";
+    Box().Enabled(false);
+    Box().EnableDisableChilds(true);
+    Box().Enabled(true);
+    EXPECT_TRUE(Any("Off").Enabled()) << "who asks for it anew begins without a memory";
 
     Box().EnableDisableChilds(false);
     Box().Enabled(false);

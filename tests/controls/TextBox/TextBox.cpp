@@ -141,12 +141,12 @@ TEST_F(TextBox, TrimText_TakesBlanksAndControlsFromBothEnds)
 TEST(TextBoxFilter, TypedCharacters_PassByTheRules)
 {
     using controls::PassesFilter;
-    const controls::TextBoxRules letters{true, TEXT("")}, some{false, TEXT("abc")}, both{true, TEXT("0-9")}, odd{true, TEXT("*-5")};
+    const controls::TextBoxRules letters{true, TEXT("")}, some{false, TEXT("abc")}, both{true, TEXT("0-9_")}, odd{true, TEXT("*-5")};
     const std::tuple<controls::TextBoxRules, const WCHAR*, const WCHAR*> cases[] = {{letters, TEXT("aZ\u00E0 '\x08\r\x01\x03\x16\x18"),
                                                                                      TEXT("\u00C0"
                                                                                           "1\x1A-")},
                                                                                     {some, TEXT("aBc\x08"), TEXT("d1\x1A")},
-                                                                                    {both, TEXT("a05"), TEXT("-*")},
+                                                                                    {both, TEXT("a05_"), TEXT("-*")},
                                                                                     {odd, TEXT("*-5"), TEXT("3+")}};
     for (const auto& [rules, pass, fail] : cases) {
         for (const WCHAR* unit = pass; *unit; ++unit)
