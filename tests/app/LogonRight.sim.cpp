@@ -37,7 +37,7 @@ TEST_F(LogonRight, BuiltInAndUnknownAccounts_GetNone)
     EXPECT_EQ(pc.Trace().Count("LsaOpenPolicy"), 0u);
 }
 
-TEST_F(LogonRight, Refusals_AreAnsweredAndLeaveNothingOpen)
+TEST_F(LogonRight, RefusedCalls_AnswerNoAndLeaveNothingOpen)
 {
     for (const char* function : {"LookupAccountNameW", "LsaOpenPolicy", "LsaAddAccountRights"}) {
         pc.GetFaults().FailAlways(function, ERROR_ACCESS_DENIED);

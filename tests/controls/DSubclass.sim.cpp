@@ -9,7 +9,7 @@
 
 namespace tests {
 
-TEST(DSubclass, WantOfMemory_IsRaisedWithEverythingUndone)
+TEST(DSubclass, OutOfMemory_IsThrownWithEverythingUndone)
 {
     for (const char* const call : {"HeapCreate", "HeapAlloc", "SetEnvironmentVariableW"}) {
         const PlainWindow window;
@@ -22,7 +22,7 @@ TEST(DSubclass, WantOfMemory_IsRaisedWithEverythingUndone)
     }
 }
 
-TEST(DSubclass, WantOfMemoryAnywhere_IsAFailureThatLeavesNothing)
+TEST(DSubclass, OutOfMemoryAnywhere_IsAFailureThatLeavesNothing)
 {
     const PlainWindow window;
     for (std::int64_t n = 1;; ++n) {
@@ -46,7 +46,7 @@ TEST(DSubclass, WantOfMemoryAnywhere_IsAFailureThatLeavesNothing)
     }
 }
 
-TEST(DSubclass, WantOfABlock_LeavesTheOthersHeapAlone)
+TEST(DSubclass, BlockThatIsRefused_LeavesTheOthersHeapAlone)
 {
     const PlainWindow window;
     controls::DSubclass first, second;

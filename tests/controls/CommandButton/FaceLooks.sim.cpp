@@ -10,7 +10,7 @@
 
 namespace tests {
 
-TEST(FaceLooks, AreAsTheyWere)
+TEST(FaceLooks, OfEachStyle_AreLikeItsPicture)
 {
     using namespace controls;
     const char* const states[] = {"normal", "hot", "pressed", "disabled", "defaulted"};

@@ -9,7 +9,7 @@ namespace tests {
 
 class FrameLooks : public FormFixture {};
 
-TEST_F(FrameLooks, AreAsTheyWere)
+TEST_F(FrameLooks, OfEachFrame_AreLikeItsPicture)
 {
     Open("Frame Box { Width = 1800 Height = 600 }");
     form->BackColor(0xE0C0A0);
