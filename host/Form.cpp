@@ -55,6 +55,7 @@ bool Form::MakeWindow()
     shape.style = windowStyle;
     shape.place = scroll_.Fit(content, area, shape.style);
     shape.text = caption_;
+    RegisterClasses();
     if (!Make(shape))
         return false;
     scroll_.Show(hWnd());

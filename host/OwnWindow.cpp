@@ -4,23 +4,28 @@
 
 namespace host {
 
-bool OwnWindow::Make(const WindowShape& shape)
+void OwnWindow::RegisterClasses()
 {
-    const HINSTANCE instance = GetModuleHandleW(nullptr);
-    const WCHAR* const className = (shape.style & WS_CHILD) != 0 ? controlClass : formClass;
     WNDCLASSEXW windowClass{};
     windowClass.cbSize = sizeof windowClass;
     windowClass.style = CS_DBLCLKS;
     windowClass.lpfnWndProc = &OwnWindow::Procedure;
-    windowClass.hInstance = instance;
+    windowClass.hInstance = GetModuleHandleW(nullptr);
     windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    windowClass.lpszClassName = className;
-    // From the second window on the class is known and this fails, which does no harm.
-    RegisterClassExW(&windowClass);
+    for (const WCHAR* const name : {formClass, controlClass}) {
+        windowClass.lpszClassName = name;
+        // A second form finds the classes known and this fails, which does no harm.
+        RegisterClassExW(&windowClass);
+    }
+}
 
+bool OwnWindow::Make(const WindowShape& shape)
+{
+    const WCHAR* const className = (shape.style & WS_CHILD) != 0 ? controlClass : formClass;
     const RECT& place = shape.place;
-    const HWND window = CreateWindowExW(shape.extendedStyle, className, shape.text.c_str(), shape.style, place.left, place.top,
-                                        place.right - place.left, place.bottom - place.top, shape.parent, nullptr, instance, this);
+    const HWND window =
+        CreateWindowExW(shape.extendedStyle, className, shape.text.c_str(), shape.style, place.left, place.top, place.right - place.left,
+                        place.bottom - place.top, shape.parent, nullptr, GetModuleHandleW(nullptr), this);
     if (!window)
         handle_ = nullptr;
     window_.Reset(window);

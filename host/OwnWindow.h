@@ -36,6 +36,8 @@ public:
     OwnWindow& operator=(const OwnWindow&) = delete;
 
 protected:
+    /// Makes both classes known. A form does so before its window; its controls come after it.
+    static void RegisterClasses();
     /// Makes the window; false (and no window) when Windows refuses.
     bool Make(const WindowShape& shape);
     void Destroy()
