@@ -17,7 +17,8 @@ void CheckBox::UserControl_Resize()
 {
     if (autoSize_)
         ResizeToCaption();
-    hosted_.Cover();
+    else
+        hosted_.Cover();
     if (fontAutoSize_)
         FitFont();
 }
