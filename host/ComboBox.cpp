@@ -1,7 +1,6 @@
 #include "host/ComboBox.h"
 
 #include "host/AccessibleFacts.h"
-#include "host/KeyRouting.h"
 
 #include <oleacc.h>
 
@@ -81,18 +80,11 @@ bool ComboBox::WantsKey(std::int16_t keyCode) const
     return keyCode != VK_TAB;
 }
 
-bool ComboBox::Key(UINT message, WPARAM& wParam)
+bool ComboBox::OnKey(KeyEvent event, WPARAM& key)
 {
-    auto code = static_cast<std::int16_t>(wParam);
-    std::int16_t shift = ShiftState();
-    if (message == WM_CHAR)
-        KeyPress.Raise(code);
-    else if (message == WM_KEYDOWN || message == WM_SYSKEYDOWN)
-        KeyDown.Raise(code, shift);
-    else
-        KeyUp.Raise(code, shift);
-    wParam = static_cast<WORD>(code);
-    return code == 0;
+    return HandOver(
+        event, key, [this](auto& code) { KeyPress.Raise(code); }, [this](auto& code, auto& shift) { KeyDown.Raise(code, shift); },
+        [this](auto& code, auto& shift) { KeyUp.Raise(code, shift); });
 }
 
 void ComboBox::ReadProperties(const PropertyBag& bag)

@@ -37,7 +37,7 @@ private:
     [[nodiscard]] RECT WindowRect(RECT place) const override;
     void ReadProperties(const PropertyBag& bag) override;
     void WriteProperties(PropertyBag& bag) override;
-    bool Key(UINT message, WPARAM& wParam) override;
+    [[nodiscard]] bool OnKey(KeyEvent event, WPARAM& key) override;
     void Command(WORD notification) override;
 
     TextList items_;

@@ -120,7 +120,7 @@ public:
     void RestoreFocus();
     void OnPropertyChanged(Control& control, base::StringView name);
     /// Lets the form handle a key as its own. False when the code became 0; else wParam holds the code that goes on.
-    bool HandleKey(KeyEvent event, WPARAM& wParam);
+    bool HandleKey(KeyEvent event, WPARAM& key);
     /// A key has been where it was pressed; in a form that is scrolled it may be one that turns its pages.
     void ScrollByKey(const MSG& key) { scroll_.Key(hWnd(), key.hwnd, key.wParam); }
     /// Enters a control in the list of another container.

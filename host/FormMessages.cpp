@@ -127,18 +127,11 @@ void Form::GiveFocusBack(Control& to)
         MoveFocusTo(&to);
 }
 
-bool Form::HandleKey(KeyEvent event, WPARAM& wParam)
+bool Form::HandleKey(KeyEvent event, WPARAM& key)
 {
-    auto code = static_cast<std::int16_t>(wParam);
-    std::int16_t shift = ShiftState();
-    if (event == KeyEvent::Press)
-        Form_KeyPress(code);
-    else if (event == KeyEvent::Down)
-        Form_KeyDown(code, shift);
-    else
-        Form_KeyUp(code, shift);
-    wParam = static_cast<WORD>(code);
-    return code != 0;
+    return HandOver(
+        event, key, [this](auto& code) { Form_KeyPress(code); }, [this](auto& code, auto& shift) { Form_KeyDown(code, shift); },
+        [this](auto& code, auto& shift) { Form_KeyUp(code, shift); });
 }
 
 UINT_PTR Form::AddTimer(std::function<void()> tick)

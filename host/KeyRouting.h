@@ -26,4 +26,21 @@ enum class KeyEvent { Down, Up, Press };
 /// The Shift argument of key and mouse events: 1 Shift, 2 Ctrl, 4 Alt held as of the present message.
 [[nodiscard]] std::int16_t ShiftState();
 
+/// Hands a key to the handler of its event, `press(code)`, `down(code, shift)` or `up(code, shift)`, which may change the code. False when
+/// the code became 0, which ends the key's way; else `key` is the code that goes on.
+template <class Press, class Down, class Up>
+[[nodiscard]] bool HandOver(KeyEvent event, WPARAM& key, Press press, Down down, Up up)
+{
+    auto code = static_cast<std::int16_t>(key);
+    std::int16_t shift = ShiftState();
+    if (event == KeyEvent::Press)
+        press(code);
+    else if (event == KeyEvent::Down)
+        down(code, shift);
+    else
+        up(code, shift);
+    key = static_cast<WORD>(code);
+    return code != 0;
+}
+
 }  // namespace host

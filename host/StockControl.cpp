@@ -111,14 +111,6 @@ LRESULT CALLBACK StockControl::Procedure(HWND window, UINT message, WPARAM wPara
 LRESULT StockControl::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
-        case WM_KEYDOWN:
-        case WM_SYSKEYDOWN:
-        case WM_KEYUP:
-        case WM_SYSKEYUP:
-        case WM_CHAR:
-            if (Key(message, wParam))
-                return 0;
-            break;
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
             // The window would take the focus by itself, but the control that has it is to be told before.
@@ -138,7 +130,8 @@ LRESULT StockControl::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM
                 ParentForm().GiveFocusBack(*this);
             break;
         default:
-            break;
+            if (const auto event = KeyEventOf(message); event && !OnKey(*event, wParam))
+                return 0;
     }
     return DefSubclassProc(window, message, wParam, lParam);
 }

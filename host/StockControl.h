@@ -3,6 +3,7 @@
 
 #include "host/Control.h"
 #include "host/Event.h"
+#include "host/KeyRouting.h"
 #include "host/OwnWindow.h"
 #include "host/PropertyBag.h"
 
@@ -36,8 +37,8 @@ protected:
     [[nodiscard]] virtual RECT WindowRect(RECT place) const { return place; }
     virtual void ReadProperties(const PropertyBag&) {}
     virtual void WriteProperties(PropertyBag&) {}
-    /// A key message for the window; true when it is done with.
-    virtual bool Key(UINT, WPARAM&) { return false; }
+    /// A key for the window, which may be changed; false when it is done with.
+    [[nodiscard]] virtual bool OnKey(KeyEvent /*event*/, WPARAM& /*key*/) { return true; }
 
 private:
     void LoadNew() final;

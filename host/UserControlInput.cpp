@@ -152,19 +152,12 @@ void UserControl::ButtonUp(std::int16_t button, std::int16_t shift, POINT at, bo
         UserControl_Click();
 }
 
-/// False when the code became 0; else `key` is the code that Windows goes on with.
 bool UserControl::OnKey(KeyEvent event, WPARAM& key)
 {
-    auto code = static_cast<std::int16_t>(key);
-    std::int16_t shift = ShiftState();
-    if (event == KeyEvent::Press)
-        UserControl_KeyPress(code);
-    else if (event == KeyEvent::Down)
-        UserControl_KeyDown(code, shift);
-    else
-        UserControl_KeyUp(code, shift);
-    key = static_cast<WORD>(code);
-    return code != 0;
+    return HandOver(
+        event, key, [this](auto& code) { UserControl_KeyPress(code); },
+        [this](auto& code, auto& shift) { UserControl_KeyDown(code, shift); },
+        [this](auto& code, auto& shift) { UserControl_KeyUp(code, shift); });
 }
 
 bool UserControl::WantsKey(std::int16_t keyCode) const
