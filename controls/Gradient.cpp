@@ -4,6 +4,7 @@
 #include "base/Handles.h"
 #include "controls/ColorArithmetic.h"
 #include "controls/Pixels.h"
+#include "host/DibInfo.h"
 
 #include <algorithm>
 
@@ -23,8 +24,7 @@ void DrawRamp(HDC dc, int left, int top, int width, int height, const std::vecto
         else
             std::copy_n(steps.begin() + (direction == GradientHorizontal ? 0 : row), width, pixels.Row(row));
     }
-    BITMAPINFO info = InfoOf(pixels);
-    info.bmiHeader.biHeight = height;
+    const BITMAPINFO info = host::DibInfo(width, height);
     StretchDIBits(dc, left, top, width, height, 0, 0, width, height, pixels.values.data(), &info, DIB_RGB_COLORS, SRCCOPY);
 }
 

@@ -3,26 +3,15 @@
 
 #include "base/Handles.h"
 #include "controls/Selection.h"
+#include "host/DibInfo.h"
 
 namespace controls {
-
-BITMAPINFO InfoOf(const Pixels& pixels)
-{
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = pixels.width;
-    info.bmiHeader.biHeight = -pixels.height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
-    return info;
-}
 
 void DrawPixels(HDC dc, int left, int top, const Pixels& pixels)
 {
     if (pixels.values.empty())
         return;
-    const BITMAPINFO info = InfoOf(pixels);
+    const BITMAPINFO info = host::DibInfo(pixels.width, -pixels.height);
     const auto width = static_cast<DWORD>(pixels.width);
     const auto height = static_cast<DWORD>(pixels.height);
     SetDIBitsToDevice(dc, left, top, width, height, 0, 0, 0, height, pixels.values.data(), &info, DIB_RGB_COLORS);
@@ -50,7 +39,7 @@ std::optional<Pixels> RenderPixels(HDC dc, SIZE size, const std::function<void(H
 std::optional<Pixels> ReadBitmap(HDC dc, HBITMAP bitmap, SIZE size)
 {
     Pixels pixels(size.cx, size.cy);
-    BITMAPINFO info = InfoOf(pixels);
+    BITMAPINFO info = host::DibInfo(size.cx, -size.cy);
     if (!GetDIBits(dc, bitmap, 0, static_cast<UINT>(size.cy), pixels.values.data(), &info, DIB_RGB_COLORS))
         return std::nullopt;
     return pixels;

@@ -30,9 +30,6 @@ struct Pixels {
     std::vector<std::uint32_t> values;
 };
 
-/// Describes such rows to GDI.
-[[nodiscard]] BITMAPINFO InfoOf(const Pixels& pixels);
-
 /// Puts the pixels onto a device context.
 /// https://learn.microsoft.com/windows/win32/api/wingdi/nf-wingdi-setdibitstodevice
 void DrawPixels(HDC dc, int left, int top, const Pixels& pixels);

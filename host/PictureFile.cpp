@@ -1,6 +1,8 @@
 // PictureFile: headers are copied out of the bytes, where they lie at any address, and believed only as far as the bytes reach.
 #include "host/PictureFile.h"
 
+#include "host/DibInfo.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
@@ -50,11 +52,6 @@ void Append(Bytes& bytes, const Record& record)
 std::size_t RowBytes(LONG width, int bitCount)
 {
     return (static_cast<std::size_t>(width) * static_cast<std::size_t>(bitCount) + 31) / 32 * 4;
-}
-
-BITMAPINFOHEADER HeaderOf(LONG width, LONG height)
-{
-    return {sizeof(BITMAPINFOHEADER), width, height, 1, 32, BI_RGB, static_cast<DWORD>(width * std::abs(height) * 4), 0, 0, 0, 0};
 }
 
 bool IsKnown(const BITMAPINFOHEADER& header)
@@ -107,8 +104,7 @@ bool DrawOn(HBITMAP bitmap, Draw draw)
 Bytes PixelsOf(HBITMAP bitmap, LONG width, LONG height)
 {
     const base::MemoryDc dc(CreateCompatibleDC(nullptr));
-    BITMAPINFO info{};
-    info.bmiHeader = HeaderOf(width, height);
+    BITMAPINFO info = DibInfo(width, height);
     Bytes pixels(info.bmiHeader.biSizeImage);
     if (!dc || !GetDIBits(dc.Get(), bitmap, 0, static_cast<UINT>(height), pixels.data(), &info, DIB_RGB_COLORS))
         return {};
@@ -128,8 +124,7 @@ base::BitmapHandle BitmapFromFile(const Bytes& bytes)
     if (file->bfOffBits > bytes.size() || bytes.size() - file->bfOffBits < size)
         return {};
 
-    BITMAPINFO own{};
-    own.bmiHeader = HeaderOf(width, height);
+    const BITMAPINFO own = DibInfo(width, height);
     void* bits = nullptr;
     base::BitmapHandle bitmap(CreateDIBSection(nullptr, &own, DIB_RGB_COLORS, &bits, nullptr, 0));
     const bool drawn = bitmap && DrawOn(bitmap.Get(), [&](HDC dc) {
@@ -166,7 +161,7 @@ Bytes FileOfBitmap(HBITMAP bitmap, SIZE size)
     constexpr DWORD start = sizeof(BITMAPFILEHEADER) + sizeof(BITMAPINFOHEADER);
     Bytes bytes;
     Append(bytes, BITMAPFILEHEADER{bitmapMark, start + static_cast<DWORD>(pixels.size()), 0, 0, start});
-    Append(bytes, HeaderOf(size.cx, size.cy));
+    Append(bytes, DibInfo(size.cx, size.cy).bmiHeader);
     bytes.insert(bytes.end(), pixels.begin(), pixels.end());
     return bytes;
 }
@@ -201,7 +196,7 @@ Bytes FileOfIcon(HICON icon, SIZE size)
     Append(bytes, IconFileHeader{0, 1, 1});
     Append(bytes, IconFileEntry{side(size.cx), side(size.cy), 0, 0, 1, 32, pictureSize, sizeof(IconFileHeader) + sizeof(IconFileEntry)});
     // The height counts colours and mask.
-    BITMAPINFOHEADER header = HeaderOf(size.cx, 2 * size.cy);
+    BITMAPINFOHEADER header = DibInfo(size.cx, 2 * size.cy).bmiHeader;
     header.biSizeImage = 0;
     Append(bytes, header);
     bytes.insert(bytes.end(), colors.begin(), colors.end());

@@ -1,5 +1,7 @@
 #include "host/Surface.h"
 
+#include "host/DibInfo.h"
+
 namespace host {
 
 HDC Surface::Dc()
@@ -41,13 +43,7 @@ void Surface::Resize(SIZE size)
     if (size.cx <= 0 || size.cy <= 0)
         return;
     base::MemoryDc dc(CreateCompatibleDC(nullptr));
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = size.cx;
-    info.bmiHeader.biHeight = -size.cy;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
+    const BITMAPINFO info = DibInfo(size.cx, -size.cy);
     void* bits = nullptr;
     base::BitmapHandle picture(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
     if (!dc || !picture)

@@ -7,6 +7,7 @@
 #include "controls/CommandButton/ThemeButton.h"
 #include "controls/Pixels.h"
 #include "controls/Selection.h"
+#include "host/DibInfo.h"
 
 #include <algorithm>
 #include <charconv>
@@ -183,7 +184,7 @@ std::optional<platform::Image> DrawFace(const Face& face)
 {
     const int width = face.size.cx, height = face.size.cy;
     controls::Pixels pixels(width, height);
-    const BITMAPINFO info = InfoOf(pixels);
+    const BITMAPINFO info = host::DibInfo(pixels.width, -pixels.height);
     const base::MemoryDc dc(CreateCompatibleDC(nullptr));
     void* bits = nullptr;
     const base::BitmapHandle bitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
