@@ -58,12 +58,6 @@ LRESULT Button::Handle(UINT message, WPARAM wParam, LPARAM lParam)
             Repaint();
             return result;
         }
-        case WM_ERASEBKGND:
-            return 1;
-        case WM_THEMECHANGED:
-        case WM_SYSCOLORCHANGE:
-            Repaint();
-            return 0;
         default:
             return HandleShared(message, wParam, lParam);
     }

@@ -76,12 +76,6 @@ LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam)
         case WM_CHAR:
             TypeCharacter(static_cast<char16_t>(wParam));
             return 0;
-        case WM_ERASEBKGND:
-            return 1;
-        case WM_THEMECHANGED:
-        case WM_SYSCOLORCHANGE:
-            Repaint();
-            return 0;
         default:
             return message >= 0x0140 && message <= 0x0165 ? HandleItemMessage(message, wParam, lParam)
                                                           : HandleShared(message, wParam, lParam);

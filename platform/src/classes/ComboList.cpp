@@ -35,8 +35,6 @@ public:
                 if (Inside(lParam))
                     Box()->Pick(Box()->ItemAt(point.y));
                 return 0;
-            case WM_ERASEBKGND:
-                return 1;
             default:
                 return HandleShared(message, wParam, lParam);
         }

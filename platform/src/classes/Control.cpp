@@ -26,8 +26,12 @@ LRESULT Control::HandleShared(UINT message, WPARAM wParam, LPARAM lParam)
         case WM_GETFONT:
             return reinterpret_cast<LRESULT>(font_);
         case WM_ENABLE:
+        case WM_THEMECHANGED:
+        case WM_SYSCOLORCHANGE:
             Repaint();
             return 0;
+        case WM_ERASEBKGND:
+            return 1;
         case WM_PAINT:
         case WM_PRINTCLIENT:
             // A device context in wParam means: draw there instead of on the window.

@@ -83,12 +83,6 @@ LRESULT Edit::Handle(UINT message, WPARAM wParam, LPARAM lParam)
                 return inner::DefWindowProc(window_, message, wParam, lParam);
             ScrollLines(-3 * GET_WHEEL_DELTA_WPARAM(wParam) / WHEEL_DELTA);
             return 0;
-        case WM_ERASEBKGND:
-            return 1;
-        case WM_THEMECHANGED:
-        case WM_SYSCOLORCHANGE:
-            Repaint();
-            return 0;
         default:
             return message >= EM_GETSEL && message <= EM_CHARFROMPOS ? HandleEditMessage(message, wParam, lParam)
                                                                      : HandleShared(message, wParam, lParam);

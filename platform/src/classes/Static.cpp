@@ -15,17 +15,11 @@ public:
         switch (message) {
             case WM_NCHITTEST:
                 return HTTRANSPARENT;
-            case WM_ERASEBKGND:
-                return 1;
             case WM_SETTEXT: {
                 const LRESULT result = inner::DefWindowProc(window_, message, wParam, lParam);
                 Repaint();
                 return result;
             }
-            case WM_THEMECHANGED:
-            case WM_SYSCOLORCHANGE:
-                Repaint();
-                return 0;
             default:
                 return HandleShared(message, wParam, lParam);
         }

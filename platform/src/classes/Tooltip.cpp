@@ -48,8 +48,6 @@ LRESULT Tooltip::Handle(UINT message, WPARAM wParam, LPARAM lParam)
             return 0;
         case WM_MOUSEACTIVATE:
             return MA_NOACTIVATE;
-        case WM_ERASEBKGND:
-            return 1;
         default:
             return message > WM_USER && message < WM_APP ? HandleTooltipMessage(message, wParam, lParam)
                                                          : HandleShared(message, wParam, lParam);
