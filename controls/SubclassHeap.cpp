@@ -152,7 +152,6 @@ void SubclassBlock::Free() noexcept
         HeapFree(heap_, HEAP_NO_SERIALIZE, memory_);
     }
     memory_ = nullptr;
-    heap_ = nullptr;
 }
 
 }  // namespace controls

@@ -40,7 +40,6 @@ void CheckBox::ReleaseWindow()
     HostedControl::ReleaseWindow();
     transparencyBrush_.Reset();
     fittedFont_.Reset();
-    isNarrowed_ = false;
 }
 
 DWORD CheckBox::AlignmentBits(std::int32_t alignment)

@@ -137,13 +137,15 @@ TEST_F(Form1Notices, FolderOfASystemServiceThatOthersCanChange_IsWarnedOf)
     const struct {
         const char* what;
         FileRights folder, program;
-        bool systemAccount, warns;
+        bool systemAccount, warns, keepsRights = true;
     } cases[] = {{"open folder", {}, {.users = kReadOnlyRights}, true, true},
                  {"open program", {.users = kReadOnlyRights}, {}, true, true},
                  {"both closed", {.users = kReadOnlyRights}, {.users = kReadOnlyRights}, true, false},
+                 {"a disk without rights", {.users = kReadOnlyRights}, {.users = kReadOnlyRights}, true, true, false},
                  {"a user's account", {}, {}, false, false}};
-    for (const auto& [what, folder, program, systemAccount, warns] : cases) {
+    for (const auto& [what, folder, program, systemAccount, warns, keepsRights] : cases) {
         SCOPED_TRACE(what);
+        The<Volumes>().PersistentAcls(u"C:\\", keepsRights);
         The<Volumes>().SetRights(u"C:\\Tools", folder);
         The<Volumes>().SetRights(exe, program);
         ASSERT_TRUE(Open());

@@ -131,7 +131,10 @@ TEST_F(Form1StartUp, Keys_CloseTheWindowOnlyWithTheRightModifiers)
 
 TEST_F(Form1StartUp, Closing_LetsGoOfEverything)
 {
+    pc.Trace().Start();
     ASSERT_TRUE(Open());
+    pc.Trace().Stop();
+    EXPECT_EQ(pc.Trace().Of("InitCommonControlsEx").at(0).arguments, "8, 0xFFFF") << "all classes there are";
     EXPECT_EQ(The<Modules>().LoadsOf(u"shell32.dll"), 8u) << "the program's own and one for each check box and text box";
     Text(TEXT("TextPassword")).Text(TEXT("edited"));
     SetAutoStart(u"kept");

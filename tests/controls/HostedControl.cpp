@@ -64,8 +64,11 @@ protected:
 
 TEST_F(HostedControl, FocusOnTheWindowBehindADisabledOne_GoesOnWithTab)
 {
+    Any("Tick").SetFocus();
     Any("Tick").Enabled(false);
+    EXPECT_TRUE(HasKeys("Second"));
     Any("Second").Enabled(false);
+    EXPECT_EQ(Focused(), "Outside") << "the boxes had it one after the other";
     for (const char* const name : {"Tick", "Second"}) {
         SetFocus(Any(name).OwnHandle());
         PressKey('X');
@@ -182,6 +185,7 @@ TEST_F(HostedControl, BackgroundOfATextBox_DependsOnFocusAndEnabled)
     box.BackColorSelected(2);
     box.BackColorDisabled(3);
     EXPECT_EQ(Background(box), 1U);
+    EXPECT_EQ(box.GetSurface().BackColor(), 1U) << "what stands behind the edit";
     box.SetFocus();
     EXPECT_EQ(Background(box), 2U);
     Any("First").SetFocus();

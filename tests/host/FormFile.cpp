@@ -69,6 +69,7 @@ TEST(FormFile, Mistake_IsReportedWithItsLine)
     for (const auto& [text, line] : cases) {
         const ParsedForm form = ParseForm(text);
         EXPECT_EQ(form.line, line) << text.substr(0, 80) << "\n" << form.message;
+        EXPECT_NE(form.message, "") << text.substr(0, 80);
         EXPECT_EQ(form.root, FormNode{});
     }
 }

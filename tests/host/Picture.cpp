@@ -42,6 +42,8 @@ constexpr const char* bitmaps[] = {"Qk1CAAAAAAAAADYAAAAoAAAAAwAAAAEAAAABABgAAAAA
                                    "AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAEgAAA="};
 constexpr const char* icon =
     "AAABAAEAAgIAAAEAIABAAAAAFgAAACgAAAACAAAABAAAAAEAIAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAHgpkAB4KZAAAAAAAgAAAAEAAAAA=";
+constexpr const char* blackAndWhiteIcon =
+    "AAABAAEAAgICAAEAAQBAAAAAFgAAACgAAAACAAAABAAAAAEAAQAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA////AIAAAABAAAAAQAAAAAAAAAA=";
 
 }  // namespace
 
@@ -76,15 +78,19 @@ TEST(Picture, OfAHandle_BecomesAFileThatShowsTheSame)
     ASSERT_TRUE(copy);
     EXPECT_EQ(FirstRow(copy->Bitmap(), 3), (std::vector<COLORREF>{0x0000FF, 0x00FF00, 0xFF0000}));
 
-    // Colours, then the mask: the top right and the bottom left are open, as in the file that it was made of.
-    const PictureDescription file = Described("Icon(\"" + std::string(icon) + "\")");
-    host::IconHandle made(CreateIconFromResourceEx(const_cast<BYTE*>(file.bytes.data()) + 22, static_cast<DWORD>(file.bytes.size() - 22),
-                                                   TRUE, 0x00030000, 0, 0, LR_DEFAULTCOLOR));
-    const PictureDescription again = Picture(std::move(made)).Description();
-    ASSERT_EQ(again.bytes.size(), 86U);
-    EXPECT_EQ(again.bytes[78] & 0xC0, 0x80);
-    EXPECT_EQ(again.bytes[82] & 0xC0, 0x40);
-    EXPECT_EQ(again.bytes[66], 0x1E) << "blue of the lower right";
+    // The lower row first: blue of both its pixels, and which of them are open; then so of the upper row.
+    const std::pair<const char*, std::array<int, 6>> icons[] = {{icon, {0x00, 0x1E, 0x80, 0x1E, 0x00, 0x40}},
+                                                                {blackAndWhiteIcon, {0xFF, 0x00, 0x40, 0x00, 0xFF, 0x00}}};
+    for (const auto& [bytes, expected] : icons) {
+        PictureDescription file = Described("Icon(\"" + std::string(bytes) + "\")");
+        host::IconHandle made(CreateIconFromResourceEx(file.bytes.data() + 22, static_cast<DWORD>(file.bytes.size() - 22), TRUE, 0x00030000,
+                                                       0, 0, LR_DEFAULTCOLOR));
+        Picture picture(std::move(made));
+        EXPECT_EQ(picture.Size().cy, 2);
+        const std::vector<std::uint8_t> again = picture.Description().bytes;
+        ASSERT_EQ(again.size(), 86U) << bytes;
+        EXPECT_EQ((std::array<int, 6>{again[62], again[66], again[78] & 0xC0, again[70], again[74], again[82] & 0xC0}), expected) << bytes;
+    }
 }
 
 /// Bytes come from a file that anybody may have changed: what they claim is not believed.

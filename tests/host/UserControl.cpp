@@ -37,9 +37,15 @@ TEST_F(UserControl, StoredOnes_LiveThroughTheirCallsInOrder)
     EXPECT_FALSE(host::MessageLoop::RunPending());
 }
 
-TEST_F(UserControl, NewOne_GetsInitPropertiesAndShowsAtOnce)
+TEST_F(UserControl, NewOne_GetsInitPropertiesAndIsShownWithTheForm)
 {
-    Open(nested);
+    ASSERT_TRUE(form->Load(nested, factory));
+    log.Take();
+    ASSERT_NE(form->Add(TEXT("Probe"), TEXT("Early"), 0, 0, 300, 150, factory), nullptr);
+    EXPECT_EQ(log.Take(), (Lines{"Early.Initialize", "Early.InitProperties", "Early.Resize 20x10"}));
+    form->Show();
+    host::MessageLoop::RunPending();
+    EXPECT_EQ(std::ranges::count(log.Take(), "Early.Show"), 1);
     auto& outer = ProbeNamed(TEXT("Outer"));
     ASSERT_NE(form->Add(TEXT("Probe"), TEXT("Late"), 0, 0, 300, 150, factory, &outer), nullptr);
     const Lines made = {"Late.Initialize", "Late.InitProperties", "Late.Resize 20x10", "Late.Show"};
@@ -56,6 +62,9 @@ TEST_F(UserControl, Ambient_AnswersForTheFormAndTheContainer)
     auto& inner = ProbeNamed(TEXT("Inner"));
     form->BackColor(0x112233);
     EXPECT_EQ(log.Take().front(), "Outer.AmbientChanged BackColor");
+    form->ForeColor(0x778899);
+    EXPECT_EQ(log.Take().front(), "Outer.AmbientChanged ForeColor");
+    EXPECT_EQ(outer.Ambient().ForeColor(), 0x778899U);
     outer.GetSurface().ForeColor(0x445566);
     EXPECT_EQ(outer.Ambient().BackColor(), 0x112233U);
     EXPECT_EQ(inner.Ambient().ForeColor(), 0x445566U);

@@ -182,6 +182,6 @@ void Tooltip::Paint(HDC dc)
 
 BOOL WINAPI InitCommonControlsEx(const INITCOMMONCONTROLSEX* controls)
 {
-    SIM_CALL(FALSE, ERROR_NOT_ENOUGH_MEMORY, controls);
+    SIM_CALL(FALSE, ERROR_NOT_ENOUGH_MEMORY, controls ? controls->dwSize : 0, controls ? controls->dwICC : 0);
     return controls && controls->dwSize == sizeof *controls;
 }

@@ -83,6 +83,7 @@ HICON WINAPI CreateIconFromResourceEx(BYTE* bits, DWORD size, BOOL isIcon, DWORD
         return pc.Fail(ERROR_INVALID_PARAMETER, HICON{});
     auto icon = std::make_shared<Icon>();
     icon->color = *color;
+    icon->isBlackAndWhite = header.biBitCount == 1;
     for (int y = 0; y < color->height; ++y) {
         const BYTE* const row = copy.data() + mask + DibRowBytes(color->width, 1) * static_cast<std::size_t>(color->height - 1 - y);
         for (int x = 0; x < color->width; ++x)
@@ -98,17 +99,24 @@ BOOL WINAPI GetIconInfo(HICON icon, ICONINFO* info)
     const auto found = pc.Handles().Find<Icon>(icon);
     if (!found || !info)
         return pc.Fail(ERROR_INVALID_HANDLE, FALSE);
-    auto color = std::make_shared<Bitmap>();
-    color->image = std::make_shared<Image>(found->color);
+    const bool isBlackAndWhite = found->isBlackAndWhite;
     auto mask = std::make_shared<Bitmap>();
-    mask->image = std::make_shared<Image>(found->color.width, found->color.height);
+    mask->image = std::make_shared<Image>(found->color.width, found->color.height * (isBlackAndWhite ? 2 : 1));
     mask->image->bitsPerPixel = 1;
     for (std::size_t index = 0; index < found->opaque.size(); ++index)
         mask->image->pixels[index] = found->opaque[index] ? 0 : 0xFFFFFF;
     info->fIcon = found->isIcon;
     info->xHotspot = static_cast<DWORD>(found->hotSpot.x);
     info->yHotspot = static_cast<DWORD>(found->hotSpot.y);
+    info->hbmColor = nullptr;
+    if (isBlackAndWhite) {
+        // There is no bitmap of colours then: the picture stands in the lower half of the mask.
+        std::ranges::copy(found->color.pixels, mask->image->pixels.begin() + static_cast<std::ptrdiff_t>(found->opaque.size()));
+    } else {
+        auto color = std::make_shared<Bitmap>();
+        color->image = std::make_shared<Image>(found->color);
+        info->hbmColor = OpenObject<HBITMAP>(std::move(color));
+    }
     info->hbmMask = OpenObject<HBITMAP>(std::move(mask));
-    info->hbmColor = OpenObject<HBITMAP>(std::move(color));
     return TRUE;
 }

@@ -11,6 +11,7 @@ struct Icon : Object {
     std::vector<bool> opaque;
     POINT hotSpot{};
     bool isIcon = true;
+    bool isBlackAndWhite = false;
 };
 
 /// Draws an icon into a logical rectangle, stretched to it.

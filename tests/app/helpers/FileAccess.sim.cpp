@@ -31,10 +31,15 @@ TEST_F(FileAccess, Codes_AskForTheirRights)
         int code;
         bool folder;
         int result;
-    } cases[] = {{u"C:\\Tools\\a.txt", ReadAccess, false, 1},   {u"C:\\Tools\\a.txt", WriteAccess, false, 0},
-                 {u"C:\\Tools\\a.txt", FILE_EXECUTE, false, 1}, {u"C:\\Tools\\a.txt", ReadAndWriteAccess, false, 0},
-                 {u"C:\\Tools", ReadAccess, true, 1},           {u"C:\\Tools\\", WriteAccess, true, 1},
-                 {u"C:\\Missing", ReadAccess, true, -2},        {u"Tools", ReadAccess, true, -2}};
+    } cases[] = {{u"C:\\Tools\\a.txt", ReadAccess, false, 1},
+                 {u"C:\\Tools\\a.txt", WriteAccess, false, 0},
+                 {u"C:\\Tools\\a.txt", FILE_EXECUTE, false, 1},
+                 {u"C:\\Tools\\a.txt", ReadAndWriteAccess, false, 0},
+                 {u"C:\\Tools", ReadAccess, true, 1},
+                 {u"C:\\Tools\\", WriteAccess, true, 1},
+                 {u"C:\\Missing", ReadAccess, true, -2},
+                 {u"Tools", ReadAccess, true, -2},
+                 {u"C:", ReadAccess, true, 1}};
     for (const auto& [path, code, folder, result] : cases)
         EXPECT_EQ(static_cast<int>(helpers::CheckPathAccess(path, code, folder)), result)
             << testing::PrintToString(std::u16string(path)) << ", code " << code;

@@ -89,6 +89,9 @@ TEST_F(RunProcess, Pump_LeavesTheQuitMessageToTheProgram)
     EXPECT_TRUE(PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE));
     EXPECT_EQ(message.message, static_cast<UINT>(WM_QUIT));
     EXPECT_EQ(message.wParam, 3u);
+    SetTimer(window, 1, 100, [](HWND owner, UINT, UINT_PTR, DWORD) { SetWindowTextW(owner, TEXT("ticked")); });
+    helpers::PumpMessages(true);
+    EXPECT_EQ(GetWindowTextLengthW(window), 6) << "it waits for a first message";
     DestroyWindow(window);
 }
 

@@ -110,6 +110,9 @@ TEST_F(CommandButtonCalls, Window_IsCutOnlyWhenItsShapeChanges)
     // What only redraws changes the shape too.
     EXPECT_EQ(cuts([&] { Button().Style(4); }), 1U) << "rounded by its contour";
     EXPECT_EQ(cuts([&] { Button().RoundedValue(13); }), 1U);
+    Pc().GetFaults().FailCall("SetWindowRgn", ERROR_INVALID_HANDLE);
+    Button().RoundedValue(9);
+    EXPECT_EQ(cuts([&] { Button().DrawControl(); }), 1U) << "Windows refused the last one";
     EXPECT_EQ(cuts([&] { Button().ContourStyle(controls::ContourNone); }), 1U);
     EXPECT_EQ(cuts([&] { Button().Style(17); }), 1U);
     Button().GetExtender().Visible(false);
