@@ -114,7 +114,7 @@ bool RouteKey(Form& form, MSG& message)
 void LeaveActiveControl(Form& form, HWND clicked)
 {
     const Control* const control = form.ControlOf(clicked);
-    if (control && control != form.ActiveControl() && control->OwnHandle() != clicked && control->CanGetFocus())
+    if (control && control != form.ActiveControl() && control->OwnHandle() != clicked)
         form.Activate(nullptr);
 }
 

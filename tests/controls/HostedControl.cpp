@@ -78,6 +78,14 @@ TEST_F(HostedControl, FocusOnTheWindowBehindADisabledOne_GoesOnWithTab)
     EXPECT_EQ(Get<controls::TextBox>("Second").Text(), TEXT("two"));
 }
 
+TEST_F(HostedControl, BoxThatNobodySees_IsNoStopForTab)
+{
+    ShowWindow(Any("Tick").hWnd(), SW_HIDE);
+    Any("First").SetFocus();
+    PressKey(VK_TAB);
+    EXPECT_TRUE(HasKeys("Second"));
+}
+
 TEST_F(HostedControl, FocusThatWasTakenAway_ComesBackWhole)
 {
     const std::pair<const char*, std::function<void()>> thieves[] = {

@@ -43,6 +43,7 @@ RECT PlaceIn(HWND window, HWND container)
 
 TEST_F(LibraryControl, Members_AreTheContainersProperties)
 {
+    EXPECT_FALSE(form->IsChanged()) << "by what is told while it loads";
     OnEach([&](controls::LibraryControl& control) {
         EXPECT_EQ(control.Name(), base::String(control.Kind()) + TEXT("1"));
         EXPECT_EQ(control.Tag(), TEXT("t"));
@@ -62,10 +63,13 @@ TEST_F(LibraryControl, Members_AreTheContainersProperties)
         control.Visible(false);
         EXPECT_FALSE(IsWindowVisible(control.hWnd()));
         control.Visible(true);
+        const HWND behind = control.OwnHandle() == control.hWnd() ? nullptr : control.OwnHandle();
         control.ZOrder();
         EXPECT_EQ(GetWindow(form->hWnd(), GW_CHILD), control.hWnd());
+        EXPECT_TRUE(!behind || GetWindow(control.hWnd(), GW_HWNDNEXT) == behind);
         control.ZOrder(1);
         EXPECT_EQ(GetWindow(control.OwnHandle(), GW_HWNDNEXT), nullptr);
+        EXPECT_TRUE(!behind || GetWindow(control.hWnd(), GW_HWNDNEXT) == behind);
     });
 }
 
