@@ -30,6 +30,7 @@ LPCWSTR InputOptions::CursorName() const
         case 3:
             return IDC_IBEAM;
         case 5:
+        case 15:
             return IDC_SIZEALL;
         case 6:
             return IDC_SIZENESW;

@@ -72,6 +72,8 @@ TEST_F(Accessible, EachKind_SaysWhatItIs)
     EXPECT_EQ(covered.Name(), "Sound & light");
     EXPECT_EQ(covered.State(), 0x108010) << "hidden by the system's box";
     EXPECT_EQ(SendMessageW(Any("Push").hWnd(), WM_GETOBJECT, 0, 0), 0) << "the window's frame is Windows' own affair";
+    EXPECT_TRUE(Reader::Of(SendMessageW(Any("Push").hWnd(), WM_GETOBJECT, 0, static_cast<LPARAM>(0xFFFFFFFC))))
+        << "the number without its sign";
 }
 
 TEST_F(Accessible, States_FollowTheControl)

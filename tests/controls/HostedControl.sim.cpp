@@ -1,4 +1,4 @@
-// A check box and a text box whose windows Windows refuses, and what they keep meanwhile.
+// A check box and a text box whose windows Windows refuses, or whose program is left for another.
 #include "controls/CheckBox/CheckBox.h"
 #include "controls/TextBox/TextBox.h"
 #include "platform/sim/SimPc.h"
@@ -38,6 +38,20 @@ TEST_F(HostedControlFailures, WithoutAWindow_KeepsWhatItHad)
     EXPECT_EQ(text.Text(), TEXT("xstored"));
     EXPECT_EQ(tick.Value(), 0);
     EXPECT_EQ(SendMessageW(tick.hWnd(), BM_GETCHECK, 0, 0), 0);
+}
+
+TEST_F(HostedControlFailures, AnotherProgramInFront_TakesTheLookOfTheFocusMeanwhile)
+{
+    Open("CheckBox Tick { Width = 900 Height = 300 }");
+    const auto looksFocused = [&] { return (SendMessageW(Any("Tick").hWnd(), BM_GETSTATE, 0, 0) & BST_FOCUS) != 0; };
+    EXPECT_TRUE(looksFocused());
+    platform::SimPc::Current().ActAs({900, 904}, [] {
+        CreateWindowExW(0, TEXT("Button"), TEXT(""), WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+    });
+    EXPECT_FALSE(looksFocused());
+    SetForegroundWindow(form->hWnd());
+    EXPECT_TRUE(looksFocused());
+    EXPECT_EQ(Focused(), "Tick");
 }
 
 }  // namespace tests

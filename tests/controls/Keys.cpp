@@ -48,6 +48,17 @@ TEST_F(Keys, PublishedRoutine_IsCalledOnce)
     EXPECT_EQ(form->keys, (std::vector<std::string>{"down 65 0", "press 97"}));
 }
 
+TEST_F(Keys, RoutinePublishedAfterTheFirstKey_IsNotLookedFor)
+{
+    Any("Text").SetFocus();
+    Press('A');
+    int called = 0;
+    form->Publish(TEXT("Form_KeyDown"), [&](std::int16_t&, std::int16_t&) { ++called; });
+    Press('A');
+    EXPECT_EQ(called, 0) << "what is not there once gets messages for good";
+    EXPECT_EQ(std::ranges::count(form->keys, "down 65 0"), 2);
+}
+
 TEST_F(Keys, EscapeThatUnloadsTheForm_IsSafeFromEverywhere)
 {
     form->unloadsOnEscape = true;

@@ -43,6 +43,13 @@ TEST_F(FormScrollScreen, AnotherSize_IsFollowedAlsoByAnIcon)
         MapWindowPoints(WindowOf(TEXT("A")), form->hWnd(), &corner, 1);
         EXPECT_EQ(corner.y, at);
     }
+    // 27 of its 400 rows are seen: a notch of the wheel goes no further, though three lines would be 48.
+    desktop.Resolution(1280, 96);
+    SendMessageW(form->hWnd(), WM_VSCROLL, SB_TOP, 0);
+    SendMessageW(form->hWnd(), WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-120)), 0);
+    POINT corner{};
+    MapWindowPoints(WindowOf(TEXT("A")), form->hWnd(), &corner, 1);
+    EXPECT_EQ(corner.y, 10 - 27);
 }
 
 }  // namespace tests

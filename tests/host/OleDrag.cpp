@@ -66,6 +66,18 @@ protected:
     std::shared_ptr<host::OleDragLink> link = std::make_shared<host::OleDragLink>(host::OleDragLink{&listener, false});
 };
 
+TEST_F(OleDrag, Source_GoesOnWhileAnyButtonIsHeld)
+{
+    const auto source = host::MakeCom<host::OleDragSource>(link);
+    for (const DWORD button : {MK_LBUTTON, MK_RBUTTON, MK_MBUTTON}) {
+        EXPECT_EQ(source->QueryContinueDrag(FALSE, button), S_OK) << button;
+        EXPECT_EQ(source->QueryContinueDrag(TRUE, button), DRAGDROP_S_CANCEL) << button;
+    }
+    EXPECT_EQ(source->QueryContinueDrag(FALSE, MK_SHIFT), DRAGDROP_S_DROP);
+    link->control = nullptr;
+    EXPECT_EQ(source->QueryContinueDrag(FALSE, MK_LBUTTON), DRAGDROP_S_CANCEL);
+}
+
 TEST_F(OleDrag, Files_ComeOutOfADropRecordOfEitherWidth)
 {
     const Paths paths = {TEXT("C:\\b"), TEXT("\u00E9")};

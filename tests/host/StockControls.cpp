@@ -89,6 +89,8 @@ TEST_F(StockControls, Combo_RaisesClickWhenTheSelectionChanges)
     combo.ListIndex(1);
     EXPECT_EQ(clicks, 1);
     EXPECT_EQ(Ask(TEXT("Combo"), CB_GETCURSEL), 1);
+    SendMessageW(form->hWnd(), WM_COMMAND, MAKEWPARAM(0, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo.hWnd()));
+    EXPECT_EQ(clicks, 1) << "the same one again";
     combo.ListIndex(7);
     EXPECT_EQ(combo.ListIndex(), -1);
     EXPECT_EQ(Ask(TEXT("Combo"), CB_GETCURSEL), CB_ERR);
@@ -138,6 +140,10 @@ TEST_F(StockControls, Timer_TicksOnlyWhileItRuns)
     timer.Enabled(true);
     PumpMessages(100);
     EXPECT_EQ(ticks, 2);
+    form->UserMode(false);
+    timer.Interval(10);
+    PumpMessages(100);
+    EXPECT_EQ(ticks, 2) << "not in a designer";
 }
 
 }  // namespace tests

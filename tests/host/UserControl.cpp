@@ -110,6 +110,32 @@ TEST_F(UserControl, MouseClicks_ComeAsTheirEvents)
                                  "Inner.MouseUp 2 0 1,1"}));
 }
 
+TEST_F(UserControl, ClickThatLosesTheMouse_IsNone)
+{
+    Open(nested);
+    const HWND window = WindowOf(TEXT("Inner"));
+    SendMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 6));
+    SetCapture(WindowOf(TEXT("Outer")));
+    SendMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(5, 6));
+    EXPECT_EQ(log.Take(), (Lines{"Inner.MouseDown 1 0 5,6", "Inner.MouseUp 1 0 5,6"}));
+    EXPECT_EQ(GetCapture(), WindowOf(TEXT("Outer"))) << "which is not the control's to release";
+    ReleaseCapture();
+}
+
+TEST_F(UserControl, MousePointer_IsWhatTheMouseTurnsInto)
+{
+    const LPCWSTR pointers[] = {IDC_ARROW,    IDC_ARROW,  IDC_CROSS,   IDC_IBEAM, IDC_ARROW, IDC_SIZEALL,     IDC_SIZENESW, IDC_SIZENS,
+                                IDC_SIZENWSE, IDC_SIZEWE, IDC_UPARROW, IDC_WAIT,  IDC_NO,    IDC_APPSTARTING, IDC_HELP,     IDC_SIZEALL};
+    Open(nested);
+    auto& inner = ProbeNamed(TEXT("Inner"));
+    const auto window = reinterpret_cast<WPARAM>(inner.OwnHandle());
+    for (std::int16_t number = 0; number < 16; ++number) {
+        inner.Input().MousePointer(number);
+        SendMessageW(inner.OwnHandle(), WM_SETCURSOR, window, MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+        EXPECT_EQ(SetCursor(nullptr), LoadCursorW(nullptr, pointers[number])) << number;
+    }
+}
+
 TEST_F(UserControl, DrawingInAPaint_DoesNotAskForAnother)
 {
     Open(nested);
