@@ -79,6 +79,10 @@ TEST_F(CommandButton, AccessKey_ClicksUnlessDisabled)
 TEST_F(CommandButton, ToggleButton_FlipsWithEachClick)
 {
     Button().ButtonType(controls::ToggleButton);
+    Mouse(WM_LBUTTONDOWN, MK_LBUTTON);
+    SendMessageW(Button().hWnd(), WM_LBUTTONUP, 0, MAKELPARAM(500, 6));
+    EXPECT_EQ(Button().Value(), 0) << "let go elsewhere";
+    EXPECT_EQ(Button().State(), controls::StatePressed);
     Click(Button().hWnd());
     EXPECT_EQ(Button().Value(), 1);
     Click(Button().hWnd());
@@ -168,6 +172,25 @@ TEST_F(CommandButton, ShrinkingFont_StopsWhenTheCaptionFits)
     EXPECT_EQ(size * 2, static_cast<float>(static_cast<int>(size * 2))) << "in halves of a point";
     Button().Caption(TEXT("x"));
     EXPECT_EQ(Button().Font()->Size(), size) << "and never back";
+}
+
+TEST_F(CommandButton, ShrinkingFont_TakesItsSteps)
+{
+    Button().Font()->Name(TEXT("Tahoma"));
+    for (const auto& [from, to] : {std::pair{26.0F, 24.0F}, {22.0F, 20.0F}, {20.0F, 19.0F}, {14.0F, 13.0F}, {12.0F, 11.5F}}) {
+        const base::String caption(40, TEXT('m'));
+        Button().FontAutoSize(controls::AutoSizeOff);
+        Button().Caption(caption);
+        Button().Font()->Size(to);
+        SIZE text{};
+        GetTextExtentPoint32W(Button().GetSurface().Dc(), caption.c_str(), 40, &text);
+        Button().GetExtender().Width(static_cast<float>((text.cx + 3) * 15));
+        Button().GetExtender().Height(1500);
+        Button().Font()->Size(from);
+        Button().FontAutoSize(controls::AutoSizeShrink);
+        Button().Caption(caption);
+        EXPECT_EQ(Button().Font()->Size(), to) << "from " << from;
+    }
 }
 
 TEST_F(CommandButton, ReleaseOutside_ClicksOnlyWhenTheMouseComesBack)

@@ -165,7 +165,7 @@ TEST_F(CommandButtonCalls, EveryStyle_HasItsMargin)
 
 TEST_F(CommandButtonCalls, ZedOrder_MovesNothingElse)
 {
-    Show("");
+    Show("} CheckBox C { Top = 600 Width = 900 Height = 300");
     auto& trace = Pc().Trace();
     trace.Start();
     Button().ZedOrder(nullptr);
@@ -173,6 +173,15 @@ TEST_F(CommandButtonCalls, ZedOrder_MovesNothingElse)
     ASSERT_GE(trace.Count("SetWindowPos"), 1U);
     const std::string arguments = trace.Of("SetWindowPos").front().arguments;
     EXPECT_TRUE(arguments.ends_with(", 0, 0, 0, 0, 0x233")) << arguments;
+    const auto redrawn = [&](HWND insertAfter) {
+        trace.Start();
+        Button().ZedOrder(insertAfter);
+        trace.Stop();
+        return std::ranges::count_if(trace.Of("RedrawWindow"), [](const auto& call) { return call.arguments.ends_with(", 0x185"); });
+    };
+    EXPECT_EQ(redrawn(HWND_BOTTOM), 1) << "the container";
+    EXPECT_EQ(redrawn(Any("C").hWnd()), 2) << "both";
+    EXPECT_EQ(redrawn(HWND_TOP), 0) << "it refreshes itself";
 }
 
 TEST_F(CommandButtonCalls, OpenLink_AsksTheShellAndTellsItsAnswer)
