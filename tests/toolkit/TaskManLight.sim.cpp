@@ -175,7 +175,9 @@ TEST_F(TaskManLight, HungWindow_HasNoText)
     const HelperProcess helper("top:title");
     const HWND window = tools.GetMainWindowFromPID(helper.Id());
     pc.Get<Desktop>().Hang(processes.Find(helper.Id())->MainActor());
+    const std::uint64_t start = pc.Clock().Now();
     EXPECT_EQ(tools.GetTextByHWnd(window), TEXT(""));
+    EXPECT_EQ(pc.Clock().Now() - start, 1000u) << "it is waited for, a second and no longer";
     EXPECT_EQ(tools.GetLenTextByHWnd(window), 0);
     EXPECT_EQ(tools.GetWindowTitle(window), TEXT("title")) << "read without asking the window";
 }
