@@ -1,6 +1,7 @@
 // The window as designed, against its measures. It is loaded in design mode, so that nothing of the machine is asked.
 #include "app/Form1.h"
 #include "controls/RegisterControls.h"
+#include "tests/support/Place.h"
 
 #include <gtest/gtest.h>
 
@@ -24,12 +25,10 @@ std::string Shown(const std::shared_ptr<host::Font>& font)
 /// Left and top in its container, width and height, in pixels. A check box is as wide as its font makes it, a drop-down list as high.
 std::string PlaceOf(const host::Control& control)
 {
-    RECT place{};
-    GetWindowRect(control.OwnHandle(), &place);
-    MapWindowPoints(nullptr, GetParent(control.OwnHandle()), reinterpret_cast<POINT*>(&place), 2);
+    const auto [left, top, right, bottom] = tests::PlaceIn(control.OwnHandle(), GetParent(control.OwnHandle()));
     const auto size = [&](const WCHAR* free, LONG pixels) { return control.Kind() == free ? "?" : std::to_string(pixels); };
-    return std::to_string(place.left) + "," + std::to_string(place.top) + " " + size(TEXT("CheckBox"), place.right - place.left) + "x" +
-           size(TEXT("ComboBox"), place.bottom - place.top);
+    return std::to_string(left) + "," + std::to_string(top) + " " + size(TEXT("CheckBox"), right - left) + "x" +
+           size(TEXT("ComboBox"), bottom - top);
 }
 
 /// What else was chosen when the control was drawn; colours in hexadecimal.

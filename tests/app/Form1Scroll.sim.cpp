@@ -1,6 +1,7 @@
 // The window with 192 dots an inch on a screen that is lower than it.
 #include "platform/sim/Desktop.h"
 #include "tests/app/UtilityScene.h"
+#include "tests/support/Place.h"
 
 #include <gtest/gtest.h>
 
@@ -20,21 +21,19 @@ TEST_F(Form1Scroll, LowScreen_ShowsEveryControlThatTheKeyboardReaches)
     desktop.Resolution(1920, 768);
     ASSERT_TRUE(Open());
     const HWND window = Form().hWnd();
-    RECT place{}, client{};
-    GetWindowRect(window, &place);
+    RECT client{};
     GetClientRect(window, &client);
-    EXPECT_EQ(place.top, 0);
-    EXPECT_EQ(place.bottom, 728);
+    const tests::Place place = tests::PlaceIn(window);
+    EXPECT_EQ(place[1], 0);
+    EXPECT_EQ(place[3], 728);
     EXPECT_EQ(client.bottom, 676);
     EXPECT_EQ(client.right, 644);
     std::set<HWND> reached;
     for (int press = 0; press < 40; ++press) {
         desktop.Press(press % 4 == 3 ? VK_F6 : VK_TAB);
         const HWND focus = GetFocus();
-        RECT seen{};
-        GetWindowRect(focus, &seen);
-        MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&seen), 2);
-        EXPECT_TRUE(seen.top >= 0 && seen.bottom <= 676) << seen.top;
+        const tests::Place seen = tests::PlaceIn(focus, window);
+        EXPECT_TRUE(seen[1] >= 0 && seen[3] <= 676) << seen[1];
         reached.insert(focus);
     }
     for (const WCHAR* const name :

@@ -1,5 +1,6 @@
 // What has to be painted, when it is asked for, and what painting may touch.
 #include "tests/support/MessageLog.h"
+#include "tests/support/Place.h"
 
 namespace {
 
@@ -46,8 +47,7 @@ TEST_F(Painting, Invalid_IsCollectedPaintedOnceAndThenValid)
     InvalidateRect(top_, &outside, FALSE);
     RECT area{};
     GetUpdateRect(top_, &area, FALSE);
-    const RECT both{100, 10, 160, 95};
-    EXPECT_TRUE(EqualRect(&area, &both));
+    EXPECT_EQ(tests::PlaceOf(area), (tests::Place{100, 10, 160, 95}));
     tests::PumpMessages(20);
     EXPECT_TRUE(log_.Is({WM_PAINT, WM_ERASEBKGND}, {"top WM_PAINT"})) << "without the background";
     EXPECT_FALSE(GetUpdateRect(top_, nullptr, FALSE));
@@ -85,16 +85,16 @@ TEST_F(Painting, DeviceContext_IsClippedToWhatCanBeSeen)
 
 TEST_F(Painting, HidingAndMoving_ExposeTheParent)
 {
-    const auto exposed = [&](const RECT& expected) {
+    const auto exposed = [&] {
         RECT area{};
         GetUpdateRect(top_, &area, FALSE);
         ValidateRect(top_, nullptr);
-        return EqualRect(&area, &expected) != FALSE;
+        return tests::PlaceOf(area);
     };
     MoveWindow(child_, 120, 20, 50, 40, TRUE);
-    EXPECT_TRUE(exposed({20, 20, 70, 60}));
+    EXPECT_EQ(exposed(), (tests::Place{20, 20, 70, 60}));
     ShowWindow(child_, SW_HIDE);
-    EXPECT_TRUE(exposed({120, 20, 170, 60}));
+    EXPECT_EQ(exposed(), (tests::Place{120, 20, 170, 60}));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include "controls/RegisterControls.h"
 #include "host/Form.h"
+#include "tests/support/Place.h"
 
 #include <gtest/gtest.h>
 

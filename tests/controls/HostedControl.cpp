@@ -46,10 +46,7 @@ protected:
         renew();
         EXPECT_EQ(strayed, 0) << "Windows would give the container the focus of a window that goes";
         EXPECT_FALSE(IsWindow(before));
-        RECT own{}, shown{};
-        GetWindowRect(control.OwnHandle(), &own);
-        GetWindowRect(control.hWnd(), &shown);
-        EXPECT_TRUE(EqualRect(&own, &shown));
+        EXPECT_EQ(PlaceIn(control.hWnd()), PlaceIn(control.OwnHandle()));
         EXPECT_EQ(GetFocus(), control.hWnd());
         EXPECT_EQ(form->ActiveControl(), &control);
     }

@@ -32,15 +32,6 @@ protected:
     }
 };
 
-/// Of the window that is seen, in the client area of another.
-RECT PlaceIn(HWND window, HWND container)
-{
-    RECT place{};
-    GetWindowRect(window, &place);
-    MapWindowPoints(nullptr, container, reinterpret_cast<POINT*>(&place), 2);
-    return place;
-}
-
 TEST_F(LibraryControl, Members_AreTheContainersProperties)
 {
     EXPECT_FALSE(form->IsChanged()) << "by what is told while it loads";
@@ -57,8 +48,7 @@ TEST_F(LibraryControl, Members_AreTheContainersProperties)
         control.Width(900);
         control.Height(750);
         EXPECT_EQ(std::tuple(control.Top(), control.Width(), control.Height()), std::tuple(600, 900, 750));
-        const RECT place = PlaceIn(control.hWnd(), form->hWnd()), expected{20, 40, 80, 90};
-        EXPECT_TRUE(EqualRect(&place, &expected)) << place.left << " " << place.top << " " << place.right << " " << place.bottom;
+        EXPECT_EQ(PlaceIn(control.hWnd(), form->hWnd()), (Place{20, 40, 80, 90}));
         EXPECT_TRUE(control.Visible());
         control.Visible(false);
         EXPECT_FALSE(IsWindowVisible(control.hWnd()));
@@ -146,7 +136,7 @@ TEST_F(LibraryControl, Container_CanBeChanged)
         EXPECT_EQ(&control.Container(), &box);
         EXPECT_EQ(GetParent(control.hWnd()), box.hWnd());
         EXPECT_EQ(GetParent(control.OwnHandle()), box.hWnd());
-        EXPECT_EQ(PlaceIn(control.hWnd(), box.hWnd()).left, 10);
+        EXPECT_EQ(PlaceIn(control.hWnd(), box.hWnd())[0], 10);
         EXPECT_TRUE(IsWindowVisible(control.hWnd()));
     });
     EXPECT_EQ(box.ContainedControls().size(), 4U);

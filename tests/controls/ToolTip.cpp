@@ -70,7 +70,7 @@ TEST_F(ToolTip, Window_IsMadeAtEachEntryFromThePropertiesOfThatMoment)
         EXPECT_EQ(tool.uFlags, entry.flags);
         RECT client{};
         GetClientRect(Button().hWnd(), &client);
-        EXPECT_TRUE(EqualRect(&tool.rect, &client));
+        EXPECT_EQ(PlaceOf(tool.rect), PlaceOf(client));
     }
     SendMessageW(Button().hWnd(), WM_MOUSELEAVE, 0, 0);
     EXPECT_EQ(Button().ToolTipWindow(), nullptr);

@@ -45,10 +45,9 @@ protected:
         EXPECT_TRUE(GetScrollInfo(form->hWnd(), SB_VERT, &info));
         EXPECT_EQ(static_cast<LONG>(info.nPage), room.cy);
         EXPECT_EQ(info.nMax, room.cy + 399);
-        POINT first{};
-        MapWindowPoints(WindowOf(TEXT("First")), form->hWnd(), &first, 1);
-        EXPECT_EQ(first.y, -info.nPos);
-        EXPECT_EQ(first.x, 0);
+        const Place first = PlaceIn(WindowOf(TEXT("First")), form->hWnd());
+        EXPECT_EQ(first[0], 0);
+        EXPECT_EQ(first[1], -info.nPos);
         return info.nPos;
     }
 
@@ -102,9 +101,7 @@ TEST_F(FormScroll, BarWheelAndKeys_MoveItToItsEndsAndNoFurther)
     EXPECT_FALSE(form->IsChanged());
     EXPECT_EQ(form->Write(), written);
     ExtenderOf(TEXT("Below")).Top(150);
-    POINT below{};
-    MapWindowPoints(WindowOf(TEXT("Below")), form->hWnd(), &below, 1);
-    EXPECT_EQ(below.y, 50);
+    EXPECT_EQ(PlaceIn(WindowOf(TEXT("Below")), form->hWnd())[1], 50);
 }
 
 TEST_F(FormScroll, Focus_IsFollowedUnlessTheMouseBringsIt)
@@ -142,9 +139,7 @@ TEST_F(FormScroll, WideForm_ScrollsSidewaysByTheSameHands)
                                                             {[&] { Send(WM_HSCROLL, SB_TOP); }, 0}};
     for (const auto& [act, expected] : steps) {
         act();
-        POINT corner{};
-        MapWindowPoints(WindowOf(TEXT("A")), form->hWnd(), &corner, 1);
-        EXPECT_EQ(corner.x, 8 - expected);
+        EXPECT_EQ(PlaceIn(WindowOf(TEXT("A")), form->hWnd())[0], 8 - expected);
     }
 }
 

@@ -12,7 +12,7 @@ TEST_F(FormScrollScreen, AnotherSize_IsFollowedAlsoByAnIcon)
     const struct {
         bool isIcon;
         int width, height;
-        RECT window;  // the frame takes 3 pixels a side and 23 for the caption, the task bar 40
+        Place window;  // the frame takes 3 pixels a side and 23 for the caption, the task bar 40
         DWORD bars;
         LONG at;  // of the control, after the form was scrolled down as far as it goes
     } steps[] = { // 306 by 429: in the middle of 1280 by 760.
@@ -33,23 +33,17 @@ TEST_F(FormScrollScreen, AnotherSize_IsFollowedAlsoByAnIcon)
         desktop.Resolution(width, height);
         if (isIcon)
             ShowWindow(form->hWnd(), SW_RESTORE);
-        RECT place{};
-        GetWindowRect(form->hWnd(), &place);
-        EXPECT_TRUE(EqualRect(&place, &window)) << place.left << "," << place.top << "," << place.right << "," << place.bottom;
+        EXPECT_EQ(PlaceIn(form->hWnd()), window);
         EXPECT_EQ(static_cast<DWORD>(GetWindowLongW(form->hWnd(), GWL_STYLE)) & (WS_VSCROLL | WS_HSCROLL), bars);
         if (bars != 0)
             SendMessageW(form->hWnd(), WM_VSCROLL, SB_BOTTOM, 0);
-        POINT corner{};
-        MapWindowPoints(WindowOf(TEXT("A")), form->hWnd(), &corner, 1);
-        EXPECT_EQ(corner.y, at);
+        EXPECT_EQ(PlaceIn(WindowOf(TEXT("A")), form->hWnd())[1], at);
     }
     // 27 of its 400 rows are seen: a notch of the wheel goes no further, though three lines would be 48.
     desktop.Resolution(1280, 96);
     SendMessageW(form->hWnd(), WM_VSCROLL, SB_TOP, 0);
     SendMessageW(form->hWnd(), WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-120)), 0);
-    POINT corner{};
-    MapWindowPoints(WindowOf(TEXT("A")), form->hWnd(), &corner, 1);
-    EXPECT_EQ(corner.y, 10 - 27);
+    EXPECT_EQ(PlaceIn(WindowOf(TEXT("A")), form->hWnd())[1], 10 - 27);
 }
 
 }  // namespace tests

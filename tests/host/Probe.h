@@ -3,6 +3,7 @@
 
 #include "host/Form.h"
 #include "host/UserControl.h"
+#include "tests/support/Place.h"
 
 #include <gtest/gtest.h>
 

@@ -264,7 +264,7 @@ TEST_F(CommandButton, Refresh_BringsTheWindowToItsPlace)
 {
     host::Extender& extender = Button().GetExtender();
     extender.Width(900);
-    const std::tuple<std::function<void()>, RECT, const char*> cases[] = {
+    const std::tuple<std::function<void()>, Place, const char*> cases[] = {
         {[&] { extender.Left(300); }, {20, 0, 80, 30}, "only the left edge has changed"},
         {[&] { extender.Top(150); }, {20, 10, 80, 40}, "only the top edge has changed"},
         {[&] { extender.Height(300); }, {77, 55, 117, 75}, "neither has"}};
@@ -273,11 +273,8 @@ TEST_F(CommandButton, Refresh_BringsTheWindowToItsPlace)
         // Somebody moves the window behind the container's back.
         SetWindowPos(Button().hWnd(), nullptr, 77, 55, 40, 20, SWP_NOZORDER | SWP_NOACTIVATE);
         Button().Refresh();
-        RECT place{};
-        GetWindowRect(Button().hWnd(), &place);
-        MapWindowPoints(nullptr, form->hWnd(), reinterpret_cast<POINT*>(&place), 2);
-        EXPECT_TRUE(EqualRect(&place, &expected)) << what << ": " << place.left << " " << place.top << " " << place.right;
-        EXPECT_EQ(Button().GetSurface().ScaleWidth(), place.right - place.left);
+        EXPECT_EQ(PlaceIn(Button().hWnd(), form->hWnd()), expected) << what;
+        EXPECT_EQ(Button().GetSurface().ScaleWidth(), expected[2] - expected[0]);
     }
 }
 

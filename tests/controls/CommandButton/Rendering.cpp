@@ -78,10 +78,9 @@ TEST_F(Rendering, FocusRectangle_ComesWithFocusAndShowFocusAtTheStylesInset)
                                std::max(changed.bottom, y)};
             }
             const int inset = insets[style], last = on == 1 ? 1 : 2;
-            const RECT expected =
-                inset == none ? RECT{width, height, 0, 0} : RECT{inset, inset, width - last - inset, height - last - inset};
-            EXPECT_TRUE(EqualRect(&changed, &expected)) << style << (on == 1 ? " on" : " off") << ": " << changed.left << " " << changed.top
-                                                        << " to " << changed.right << " " << changed.bottom;
+            const Place expected =
+                inset == none ? Place{width, height, 0, 0} : Place{inset, inset, width - last - inset, height - last - inset};
+            EXPECT_EQ(PlaceOf(changed), expected) << style << (on == 1 ? " on" : " off");
         }
 }
 
@@ -90,15 +89,14 @@ TEST(CommandButtonLayout, Caption_StandsWhereItsAlignmentSays)
     using namespace controls;
     // A text block of 40 by 13 pixels in a button of 100 by 30.
     const RECT block{0, 3, 40, 16};
-    const std::tuple<std::int32_t, RECT, UINT> cases[] = {{AlignCentre, {30, 9, 70, 22}, 0x15},
-                                                          {AlignLeft, {3, 9, 43, 22}, 0x14},
-                                                          {AlignRight, {57, 9, 97, 22}, 0x16},
-                                                          {AlignTop, {30, 3, 70, 16}, 0x11},
-                                                          {AlignBottom, {30, 14, 70, 27}, 0x19}};
+    const std::tuple<std::int32_t, Place, UINT> cases[] = {{AlignCentre, {30, 9, 70, 22}, 0x15},
+                                                           {AlignLeft, {3, 9, 43, 22}, 0x14},
+                                                           {AlignRight, {57, 9, 97, 22}, 0x16},
+                                                           {AlignTop, {30, 3, 70, 16}, 0x11},
+                                                           {AlignBottom, {30, 14, 70, 27}, 0x19}};
     for (const auto& [align, place, format] : cases) {
         const CaptionPlace result = PlaceCaption(100, 30, block, align, 3, false);
-        EXPECT_TRUE(EqualRect(&result.rectangle, &place)) << align << ": " << result.rectangle.left << "," << result.rectangle.top << ","
-                                                          << result.rectangle.right << "," << result.rectangle.bottom;
+        EXPECT_EQ(PlaceOf(result.rectangle), place) << align;
         EXPECT_EQ(result.format, format);
         EXPECT_EQ(PlaceCaption(100, 30, block, align, 3, true).format, format | 0x20000);
     }
