@@ -20,7 +20,8 @@ public:
     /// Letters that Alt brings to the control, empty for none.
     [[nodiscard]] const base::String& AccessKey() const { return accessKey_; }
     void AccessKey(base::StringView keys) { accessKey_ = keys; }
-    /// 0 and 1 arrow, 2 cross, 3 I-beam, 5 and 15 move, 6 to 9 sizing, 10 up arrow, 11 hourglass, 12 no drop, 13 arrow and hourglass, 14 help.
+    /// 0 and 1 arrow, 2 cross, 3 I-beam, 5 and 15 move, 6 to 9 sizing, 10 up arrow, 11 hourglass, 12 no drop, 13 arrow and hourglass,
+    /// 14 help; others are the arrow.
     [[nodiscard]] std::int16_t MousePointer() const { return mousePointer_; }
     void MousePointer(std::int16_t pointer) { mousePointer_ = pointer; }
     /// 0 none; 1 manual: the control hears of data that is dragged over it and dropped on it. Other values are kept and mean none.

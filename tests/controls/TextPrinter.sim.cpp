@@ -44,13 +44,17 @@ TEST_F(TextPrinter, PrinterThatRefuses_PrintsNothing)
     Notes().Text(TEXT("1\r\n2\r\n3\r\n4"));
     EXPECT_FALSE(Notes().PrintText()) << "there is none";
     printer.Default(paper);
-    for (const char* const call : {"CreateDCW", "CreateFontIndirectW", "StartDocW", "StartPage", "EndPage", "EndDoc"}) {
-        for (const int nth : {1, 2}) {
-            if (nth == 2 && std::string_view(call).find("Page") == std::string_view::npos)
-                continue;
-            platform::SimPc::Current().GetFaults().FailCall(call, ERROR_PRINT_CANCELLED, nth);
-            EXPECT_FALSE(Notes().PrintText()) << call << " " << nth;
-        }
+    const std::tuple<const char*, int, bool> refusals[] = {{"CreateDCW", 1, false}, {"CreateFontIndirectW", 1, false},
+                                                           {"StartDocW", 1, false}, {"StartPage", 1, true},
+                                                           {"StartPage", 2, true},  {"EndPage", 1, true},
+                                                           {"EndPage", 2, true},    {"EndDoc", 1, true}};
+    auto& pc = platform::SimPc::Current();
+    for (const auto& [call, nth, isBegun] : refusals) {
+        SCOPED_TRACE(call + std::to_string(nth));
+        pc.GetFaults().FailCall(call, ERROR_PRINT_CANCELLED, nth);
+        pc.Trace().Start();
+        EXPECT_FALSE(Notes().PrintText());
+        EXPECT_EQ(pc.Trace().Count("AbortDoc"), isBegun ? 1U : 0U) << "what was begun is taken back";
     }
     EXPECT_TRUE(printer.Printed().empty());
     EXPECT_TRUE(Notes().PrintText());

@@ -70,4 +70,3 @@ int WINAPI GetWindowRgn(HWND window, HRGN region);
 // Rectangles.
 
 BOOL WINAPI OffsetRect(LPRECT rectangle, int x, int y);
-BOOL WINAPI EqualRect(const RECT* first, const RECT* second);
