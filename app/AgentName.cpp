@@ -7,7 +7,7 @@ namespace app {
 base::String DeriveAgentName(base::StringView utilityName)
 {
     const auto blank = utilityName.find(TEXT(' '));
-    const base::StringView word = blank == 0 || blank == base::StringView::npos ? base::StringView() : utilityName.substr(0, blank);
+    const base::StringView word = blank == base::StringView::npos ? base::StringView() : utilityName.substr(0, blank);
     return helpers::IsValidFileName(word) ? base::String(word) : TEXT("Velmora");
 }
 

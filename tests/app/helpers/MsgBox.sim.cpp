@@ -37,6 +37,7 @@ TEST_F(MsgBox, BelongsToTheRightWindow)
     EXPECT_EQ(boxes.Last().owner, own);
     EXPECT_EQ(boxes.Last().style, static_cast<DWORD>(MB_USERICON | MB_OKCANCEL));
     EXPECT_EQ(boxes.Last().icon, u"AAA");
+    EXPECT_EQ(boxes.Last().iconModule, GetModuleHandleW(nullptr));
     EXPECT_EQ(boxes.Last().caption, u"title");
     DestroyWindow(own);
 }

@@ -35,7 +35,8 @@ TEST(Paths, IsValidPath_WantsARootAndAFileName)
         EXPECT_TRUE(IsValidPath(path)) << testing::PrintToString(String(path));
     for (const WCHAR* path :
          {TEXT("\\\\?\\"), TEXT(""), TEXT("a.ini"), TEXT("A\\a.ini"), TEXT("C:a.ini"), TEXT("C:\\"), TEXT("C:\\A\\"), TEXT("C:\\A\\.ini"),
-          TEXT("C:\\A\\a."), TEXT(".\\C:\\a"), TEXT("C:\\A?\\a"), TEXT("C:\\A/a"), TEXT("C:\\A|b"), TEXT("C:\\A\n\\b")})
+          TEXT("C:\\A\\a."), TEXT(".\\C:\\a"), TEXT("C:\\A/a"), TEXT("C:\\A?\\a"), TEXT("C:\\A|\\a"), TEXT("C:\\A*\\a"), TEXT("C:\\A<\\a"),
+          TEXT("C:\\A>\\a"), TEXT("C:\\A\"\\a"), TEXT("C:\\A\n\\a"), TEXT("C:\\A\r\\a")})
         EXPECT_FALSE(IsValidPath(path)) << testing::PrintToString(String(path));
 }
 
