@@ -24,6 +24,7 @@ protected:
             CheckBox Check { Left = 150 Top = 1500 Width = 1500 Height = 300 TabIndex = 3 Caption = "Sound && light" Value = 1 }
             CommandButton Push { Left = 150 Top = 2100 Width = 1500 Height = 450 TabIndex = 4 Caption = "Save && E&xit" Default = True }
             CommandButton Toggle { Left = 150 Top = 2700 Width = 1500 Height = 450 TabIndex = 5 Caption = "Toggle&" ButtonType = 1 Value = 1 }
+            TextBox Plain { Left = 4500 Top = 2100 Width = 1500 Height = 300 TabIndex = 8 Text = "" }
             Frame Group { Left = 4500 Top = 150 Width = 3000 Height = 1500 TabIndex = 6 Caption = "&Options"
                 CommandButton Inner { Left = 150 Top = 300 Width = 1500 Height = 450 TabIndex = 7 Caption = "Inner" Enabled = False } })");
     }
@@ -47,6 +48,7 @@ TEST_F(Accessible, EachKind_SaysWhatItIs)
         {"Check", 0x2C, 0x100010, "Sound & light", "Uncheck", "", "", ""},
         {"Push", 0x2B, 0x100100, "Save & Exit", "Press", "Alt+X", "", ""},
         {"Toggle", 0x2C, 0x100018, "Toggle", "Uncheck", "", "", ""},
+        {"Plain", 0x2A, 0x100000, "", "", "", "", ""},
         {"Group", 0x14, 0, "Options", "", "Alt+O", "", ""},
         {"Inner", 0x2B, 1, "Inner", "Press", "", "", ""},
     };

@@ -75,6 +75,19 @@ TEST_F(AccessibleEvents, WhatWindowsCannotSee_IsTold)
         EXPECT_EQ(EventsOf(control, act), events) << what;
 }
 
+TEST_F(AccessibleEvents, DefaultAction_IsAKeyAsTheKeyboardSendsIt)
+{
+    const Reader reader = Reader::Of(SendMessageW(Any("Push").hWnd(), WM_GETOBJECT, 0, OBJID_CLIENT));
+    platform::CallTrace& trace = platform::SimPc::Current().Trace();
+    trace.Start();
+    EXPECT_EQ(reader->accDoDefaultAction(itself), S_OK);
+    trace.Stop();
+    const auto posted = trace.Of("PostMessageW");
+    ASSERT_EQ(posted.size(), 2U);
+    EXPECT_TRUE(posted[0].arguments.ends_with(", 0x100, 0x20, 1")) << posted[0].arguments;
+    EXPECT_TRUE(posted[1].arguments.ends_with(", 0x101, 0x20, 0xC0000001")) << posted[1].arguments;
+}
+
 TEST_F(AccessibleEvents, WithoutTheLibraryOrOle_WindowsAnswers)
 {
     platform::Faults& faults = platform::SimPc::Current().GetFaults();

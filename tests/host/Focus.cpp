@@ -1,5 +1,6 @@
 #include "host/ComboBox.h"
 #include "host/MessageLoop.h"
+#include "host/TabOrder.h"
 #include "tests/host/Probe.h"
 #include "tests/support/SentMessages.h"
 
@@ -36,6 +37,19 @@ TEST_F(Focus, Move_TellsTheOneThatIsLeftBeforeTheOneThatIsEntered)
     SendMessageW(combo, CB_SHOWDROPDOWN, FALSE, 0);
     EXPECT_EQ(log.Take(), (Lines{"Second.LostFocus", "Second.ExitFocus"}));
     EXPECT_EQ(ActiveName(), "Combo");
+}
+
+TEST_F(Focus, WhatAControlStandsIn_IsNotNextToIt)
+{
+    Open(R"(Form F { Probe Outer { Width = 3000 Height = 3000 TabIndex = 0
+            Probe Inner { Width = 900 Height = 300 TabIndex = 1 } }
+        Probe Beside { Top = 3300 Width = 900 Height = 300 TabIndex = 2 } })");
+    const host::Control& inner = *form->Find(TEXT("Inner"));
+    for (const auto direction : {host::FocusDirection::Forward, host::FocusDirection::Backward})
+        for (const auto scope : {host::FocusScope::AllContainers, host::FocusScope::OtherContainers})
+            EXPECT_EQ(host::NextInTabOrder(inner, direction, scope), form->Find(TEXT("Beside")));
+    EXPECT_EQ(host::NextInTabOrder(inner, host::FocusDirection::Forward, host::FocusScope::OwnContainer), nullptr)
+        << "nobody else stands in there";
 }
 
 TEST_F(Focus, OtherWindowTakingIt_LeavesTheControlActive)

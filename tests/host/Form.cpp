@@ -29,8 +29,8 @@ TEST_F(Form, Window_IsAsDesignedAndInTheMiddle)
     EXPECT_NEAR(window.left - area.left, area.right - window.right, 1);
     EXPECT_NEAR(window.top - area.top, area.bottom - window.bottom, 1);
     const auto style = static_cast<DWORD>(GetWindowLongW(form->hWnd(), GWL_STYLE));
-    EXPECT_EQ(style & (WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX), static_cast<DWORD>(WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX));
-    EXPECT_EQ(style & (WS_THICKFRAME | WS_MAXIMIZEBOX), 0U);
+    constexpr DWORD wanted = WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
+    EXPECT_EQ(style & (wanted | WS_THICKFRAME | WS_MAXIMIZEBOX), wanted);
     EXPECT_EQ(TextOf(form->hWnd()), TEXT("Small"));
     EXPECT_EQ(host::Form::First(), form.get());
     EXPECT_EQ(host::Form::Of(WindowOf(TEXT("A"))), form.get());

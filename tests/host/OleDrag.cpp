@@ -111,6 +111,7 @@ TEST_F(OleDrag, Data_PassesThroughCom)
     EXPECT_TRUE(dragged->Data().Files(paths));
     EXPECT_TRUE(dragged->Data().SetData(Bytes{1, 2, 0, 3}, own));
     EXPECT_FALSE(dragged->Data().SetData(Bytes{1}, CF_TEXT)) << "bytes are no text";
+    EXPECT_FALSE(dragged->Data().SetData(Bytes{1}, CF_HDROP)) << "nor a list of files";
     EXPECT_FALSE(dragged->Data().SetData(String(TEXT("C:\\x")), CF_HDROP)) << "text is no list of files";
 
     DataObject received(*dragged.Get());

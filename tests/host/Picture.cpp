@@ -66,6 +66,37 @@ TEST(Picture, IsMadeOfTheBytesOfAFile_AndGivesThemBack)
     EXPECT_EQ(picture->Size().cy, 2);
 }
 
+TEST(Picture, OfTwoColours_HasThem)
+{
+    const auto picture =
+        Picture::Of(Described("Bitmap(\"Qk1CAAAAAAAAAD4AAAAoAAAAAgAAAAEAAAABAAEAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAD/AP8AAABAAAAA\")"));
+    ASSERT_TRUE(picture);
+    EXPECT_EQ(FirstRow(picture->Bitmap(), 2), (std::vector<COLORREF>{0x0000FF, 0xFF0000}));
+}
+
+TEST(Picture, OfSeveralInAnIconFile_IsTheFirstOfTheNearestSize)
+{
+    // Two pictures of 64 bytes each; the second one is black and white. Windows' icons are 32 pixels wide.
+    const std::tuple<int, int, bool> widths[] = {{16, 40, true}, {40, 16, false}, {24, 40, false}, {0, 48, true}, {48, 0, false}};
+    for (const auto& [first, second, takesSecond] : widths) {
+        PictureDescription both = Described("Icon(\"" + std::string(icon) + "\")");
+        const auto other = Described("Icon(\"" + std::string(blackAndWhiteIcon) + "\")").bytes;
+        both.bytes[4] = 2;
+        both.bytes[6] = static_cast<std::uint8_t>(first);
+        both.bytes[18] = 22 + 16;
+        both.bytes.insert(both.bytes.begin() + 22, other.begin() + 6, other.begin() + 22);
+        both.bytes[22] = static_cast<std::uint8_t>(second);
+        both.bytes[34] = static_cast<std::uint8_t>(both.bytes.size());
+        both.bytes.insert(both.bytes.end(), other.begin() + 22, other.end());
+        const auto picture = Picture::Of(both);
+        ASSERT_TRUE(picture) << first;
+        ICONINFO parts{};
+        ASSERT_TRUE(GetIconInfo(picture->Icon(), &parts));
+        const base::BitmapHandle mask(parts.hbmMask), color(parts.hbmColor);
+        EXPECT_EQ(!color, takesSecond) << first << " and " << second;
+    }
+}
+
 TEST(Picture, OfAHandle_BecomesAFileThatShowsTheSame)
 {
     BITMAPINFO info{};
