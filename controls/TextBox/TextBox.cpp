@@ -84,7 +84,6 @@ void TextBox::CreateLineWindow()
         return;
     lineWindow_.Reset(CreateWindowExW(0, TEXT("Edit"), nullptr, WS_CHILD | ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL, 0, 0, 0, 0,
                                       HWND_MESSAGE, nullptr, GetModuleHandleW(nullptr), nullptr));
-    lineWindowStale_ = true;
 }
 
 }  // namespace controls

@@ -88,6 +88,10 @@ TEST(DSubclass, Pausing_LetsMessagesPassUnseen)
         EXPECT_TRUE(subclass->IsPaused()) << "the inner pause ended the outer one";
     }
     EXPECT_FALSE(subclass->IsPaused());
+    EXPECT_TRUE(subclass->PauseSubclass());
+    EXPECT_TRUE(subclass->Disable());
+    EXPECT_TRUE(subclass->Enable(window.Get()));
+    EXPECT_FALSE(subclass->IsPaused()) << "a pause ends with the subclass";
 }
 
 TEST(DSubclass, WhatItsHandlerDoes_DecidesOnTheMessage)

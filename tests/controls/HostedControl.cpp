@@ -199,6 +199,46 @@ TEST_F(HostedControl, BackgroundOfATextBox_DependsOnFocusAndEnabled)
     EXPECT_EQ(Background(box), 3U);
 }
 
+TEST_F(HostedControl, StoredProperties_AreStylesOfItsWindow)
+{
+    const struct {
+        const char *kind, *properties;
+        DWORD style, extendedStyle;
+    } cases[] = {{"CheckBox", "", 0x54014105, 0},
+                 {"CheckBox", "TabStop = False", 0x54004105, 0},
+                 {"CheckBox", "Enabled = 0", 0x5C014105, 0},
+                 {"CheckBox", "Alignment = 1", 0x54014205, 0},
+                 {"CheckBox", "Alignment = 2", 0x54014305, 0},
+                 {"CheckBox", "AlignRight = 1", 0x54014125, 0},
+                 {"CheckBox", "Style = 1", 0x54015105, 0},
+                 {"CheckBox", "MultiLine = 1", 0x54016105, 0},
+                 {"CheckBox", "BorderStyle = 1", 0x54814105, 0},
+                 {"CheckBox", "BorderStyle = 2", 0x54014105, 0x20000},
+                 {"CheckBox", "BorderStyle = 3", 0x54014105, 0x200},
+                 {"CheckBox", "BorderStyle = 4", 0x54414105, 0x100},
+                 {"TextBox", "", 0x54010080, 0x200},
+                 {"TextBox", "TabStop = False", 0x54000080, 0x200},
+                 {"TextBox", "BorderStyle = 4", 0x54410080, 0x100},
+                 {"TextBox", "CaseStyle = 1", 0x54010088, 0x200},
+                 {"TextBox", "CaseStyle = 2", 0x54010090, 0x200},
+                 {"TextBox", "UseSystemPasswordChar = 1", 0x540100A0, 0x200},
+                 {"TextBox", "PasswordChar = 42", 0x540100A0, 0x200},
+                 {"TextBox", "HideSelection = 0", 0x54010180, 0x200},
+                 {"TextBox", "Locked = 1", 0x54010880, 0x200},
+                 {"TextBox", "AllowOnlyNumbers = 1", 0x54012080, 0x200},
+                 {"TextBox", "DragDropEnabled = 1", 0x54010080, 0x210},
+                 {"TextBox", "ScrollBars = 3", 0x54010080, 0x200},
+                 {"TextBox", "MultiLine = 1", 0x54010044, 0x200},
+                 {"TextBox", "MultiLine = 1 ScrollBars = 1", 0x541100C4, 0x200},
+                 {"TextBox", "MultiLine = 1 ScrollBars = 2", 0x54210044, 0x200},
+                 {"TextBox", "MultiLine = 1 ScrollBars = 3", 0x543100C4, 0x200}};
+    for (const auto& [kind, properties, style, extendedStyle] : cases) {
+        Open(std::string(kind) + " C { Width = 1500 Height = 900 " + properties + " }");
+        EXPECT_EQ(static_cast<DWORD>(GetWindowLongW(Any("C").hWnd(), GWL_STYLE)), style) << kind << " " << properties;
+        EXPECT_EQ(static_cast<DWORD>(GetWindowLongW(Any("C").hWnd(), GWL_EXSTYLE)), extendedStyle) << kind << " " << properties;
+    }
+}
+
 TEST_F(HostedControl, NewWindow_KeepsAllButItself)
 {
     auto& text = Get<controls::TextBox>("Second");

@@ -57,6 +57,8 @@ TEST_F(TabOrder, Tab_GoesThroughAllKindsInAllContainersUnlessDisabled)
     Walk(VK_TAB, 0, {"Tick", "List", "Inner", "Last"});
     Any("Inner").SetFocus();
     Walk(VK_TAB, 1, {"List", "Tick", "Name", "Last"});
+    Any("Tick").SetFocus();
+    Walk(VK_TAB, 2, {"List"});
     Any("Name").SetFocus();
     Any("Box").Enabled(false);
     Walk(VK_TAB, 0, {"Last"});

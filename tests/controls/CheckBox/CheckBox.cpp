@@ -62,17 +62,6 @@ TEST_F(CheckBox, Properties_BecomeWindowStyles)
     Box().AlignRight(true);
     EXPECT_NE(Style() & BS_LEFTTEXT, 0U);
     EXPECT_NE(Style() & BS_MULTILINE, 0U);
-    EXPECT_EQ(Style() & 0xF, static_cast<DWORD>(BS_3STATE));
-    const std::tuple<std::uint8_t, DWORD, DWORD> borders[] = {{controls::BorderSingle, WS_BORDER, 0},
-                                                              {controls::BorderStatic, 0, WS_EX_STATICEDGE},
-                                                              {controls::BorderSunken, 0, WS_EX_CLIENTEDGE},
-                                                              {controls::BorderRaised, WS_DLGFRAME, 0},
-                                                              {controls::BorderNone, 0, 0}};
-    for (const auto& [border, style, extendedStyle] : borders) {
-        Box().BorderStyle(border);
-        EXPECT_EQ(Style() & (WS_BORDER | WS_DLGFRAME), style) << int{border};
-        EXPECT_EQ(static_cast<DWORD>(GetWindowLongW(Box().hWnd(), GWL_EXSTYLE)) & (WS_EX_STATICEDGE | WS_EX_CLIENTEDGE), extendedStyle);
-    }
 }
 
 TEST_F(CheckBox, AutoSize_FollowsTheCaptionAndExcludesFontAutoSize)

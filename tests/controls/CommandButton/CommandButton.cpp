@@ -63,6 +63,8 @@ TEST_F(CommandButton, SpaceAndEnter_ClickOnRelease)
     // A key that went down elsewhere clicks nothing.
     SendMessageW(Button().hWnd(), WM_KEYUP, VK_SPACE, 0);
     EXPECT_EQ(Take(), (Lines{"KeyUp 32"}));
+    SendMessageW(Button().hWnd(), WM_KEYDOWN, VK_TAB, 1);
+    EXPECT_EQ(Take(), (Lines{"KeyDown 9", "MouseLeave"})) << "as if the mouse had gone too";
 }
 
 TEST_F(CommandButton, AccessKey_ClicksUnlessDisabled)

@@ -63,6 +63,11 @@ TEST_F(Frame, Children_ThatWereDisabledBefore_StayDisabled)
     EXPECT_FALSE(Any("Off").Enabled());
     EXPECT_TRUE(Any("Text").Enabled());
     EXPECT_FALSE(Any("Clock").Enabled()) << "timers are none of its business";
+    Any("Off").Enabled(true);
+    Box().Enabled(false);
+    Box().Enabled(true);
+    EXPECT_TRUE(Any("Off").Enabled()) << "what was disabled the time before is forgotten";
+    Any("Off").Enabled(false);
     Box().Enabled(false);
     Box().EnableDisableChilds(true);
     Box().Enabled(true);

@@ -270,6 +270,10 @@ TEST_F(TextBox, MouseEvents_AreRaised)
     SendMessageW(Box().hWnd(), WM_CONTEXTMENU, 0, 0);
     SendMessageW(Box().hWnd(), WM_MOUSELEAVE, 0, 0);
     EXPECT_EQ(Take(), (Lines{"Wheel 1", "Wheel 0", "Menu", "Leave"}));
+    Box().Scroll.Connect([&] { Note("Scroll"); });
+    for (const WORD code : {EN_HSCROLL, EN_VSCROLL})
+        SendMessageW(form->hWnd(), WM_COMMAND, MAKEWPARAM(0, code), reinterpret_cast<LPARAM>(Box().hWnd()));
+    EXPECT_EQ(Take(), (Lines{"Scroll", "Scroll"}));
 }
 
 }  // namespace tests
