@@ -50,6 +50,19 @@ TEST(OtherProcess, TakesTheForegroundUnlessItIsLocked)
                        {"own WM_ACTIVATE 0", "own WM_ACTIVATEAPP 0", "own WM_KILLFOCUS"}));
 }
 
+/// Wine tells only a window that the mouse was over.
+TEST(Leaving, IsToldAtOnceToAWindowThatTheMouseIsNotOver)
+{
+    MessageLog log;
+    const HWND window = log.Create("far", WS_POPUP | WS_VISIBLE, nullptr, {10, 10, 60, 60});
+    Screen().MouseMove(500, 500);
+    log.Clear();
+    TRACKMOUSEEVENT request{sizeof request, TME_LEAVE, window, 0};
+    EXPECT_TRUE(TrackMouseEvent(&request));
+    tests::PumpMessages();
+    EXPECT_TRUE(log.Is({"far WM_MOUSELEAVE"}));
+}
+
 TEST(Leaks, WindowsIconsDeviceContextsAndPensAreNamed)
 {
     MessageLog log;
