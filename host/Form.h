@@ -119,7 +119,7 @@ public:
     /// A window that is no one's to type in got the keyboard focus: the active control gets it, or the first that can take it.
     void RestoreFocus();
     void OnPropertyChanged(Control& control, base::StringView name);
-    /// Lets the form handle a key as its own. False when the code became 0; else wParam holds the code that goes on.
+    /// Lets the form handle a key as its own. False when the code became 0; else `key` is the code that goes on.
     bool HandleKey(KeyEvent event, WPARAM& key);
     /// A key has been where it was pressed; in a form that is scrolled it may be one that turns its pages.
     void ScrollByKey(const MSG& key) { scroll_.Key(hWnd(), key.hwnd, key.wParam); }

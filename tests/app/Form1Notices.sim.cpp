@@ -36,7 +36,6 @@ protected:
         if (!balloon)
             return {};
         EXPECT_EQ(static_cast<DWORD>(GetWindowLongW(balloon, GWL_STYLE)) & 0xFF, 0x43U) << "always, as it is written, a balloon";
-        EXPECT_NE(GetWindowLongW(balloon, GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
         The<Graphics>().ForgetTexts();
         InvalidateRect(balloon, nullptr, TRUE);
         UpdateWindow(balloon);

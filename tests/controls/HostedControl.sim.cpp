@@ -6,9 +6,9 @@
 
 namespace tests {
 
-class HostedControlFailures : public FormFixture {};
+class HostedControlSurroundings : public FormFixture {};
 
-TEST_F(HostedControlFailures, WithoutAWindow_KeepsWhatItHad)
+TEST_F(HostedControlSurroundings, WithoutAWindow_KeepsWhatItHad)
 {
     Open(R"(TextBox Text { Width = 900 Height = 300 TabIndex = 1 Text = "stored" } CheckBox Tick { Top = 600 Width = 900 Height = 300 })");
     auto& text = Get<controls::TextBox>("Text");
@@ -40,7 +40,7 @@ TEST_F(HostedControlFailures, WithoutAWindow_KeepsWhatItHad)
     EXPECT_EQ(SendMessageW(tick.hWnd(), BM_GETCHECK, 0, 0), 0);
 }
 
-TEST_F(HostedControlFailures, AnotherProgramInFront_TakesTheLookOfTheFocusMeanwhile)
+TEST_F(HostedControlSurroundings, AnotherProgramInFront_TakesTheLookOfTheFocusMeanwhile)
 {
     Open("CheckBox Tick { Width = 900 Height = 300 }");
     const auto looksFocused = [&] { return (SendMessageW(Any("Tick").hWnd(), BM_GETSTATE, 0, 0) & BST_FOCUS) != 0; };

@@ -6,13 +6,13 @@
 
 namespace tests {
 
-TEST(AccessKey, OfCaptions)
+TEST(AccessKey, IsTheLetterBehindTheFirstSingleMark)
 {
     const std::pair<const WCHAR*, const WCHAR*> cases[] = {
         {TEXT("Save && E&xit"), TEXT("x")}, {TEXT("A&"), TEXT("")}, {TEXT("&OK"), TEXT("O")}, {TEXT("&&&&"), TEXT("")},
         {TEXT("&&&a"), TEXT("a")},          {TEXT(""), TEXT("")},   {TEXT("&"), TEXT("")}};
     for (const auto& [caption, key] : cases)
-        EXPECT_EQ(host::AccessKeyOf(caption), key);
+        EXPECT_EQ(host::AccessKeyOf(caption), key) << testing::PrintToString(base::String(caption));
 }
 
 }  // namespace tests

@@ -41,7 +41,15 @@ TEST(Font, EachPart_IsToldOnceAndReachesWindows)
         EXPECT_EQ(of(logical), after);
         GetObjectW(kept->Get(), sizeof logical, &logical);
         EXPECT_EQ(of(logical), before) << "who holds the former one keeps it";
-        EXPECT_TRUE(what != std::string("weight") || font.Bold());
+    }
+}
+
+TEST(Font, Bold_IsAWeightAboveTheMiddle)
+{
+    host::Font font;
+    for (const std::int16_t weight : {300, 550, 551, 900}) {
+        font.Weight(weight);
+        EXPECT_EQ(font.Bold(), weight > 550) << weight;
     }
 }
 

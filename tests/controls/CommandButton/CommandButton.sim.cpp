@@ -165,7 +165,7 @@ TEST_F(CommandButtonCalls, EveryStyle_HasItsMargin)
 
 TEST_F(CommandButtonCalls, ZedOrder_MovesNothingElse)
 {
-    Show("} CheckBox C { Top = 600 Width = 900 Height = 300");
+    Open("CommandButton B { Width = 1500 Height = 450 } CheckBox C { Top = 600 Width = 900 Height = 300 }");
     auto& trace = Pc().Trace();
     trace.Start();
     Button().ZedOrder(nullptr);
